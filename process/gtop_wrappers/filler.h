@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef GTOP_WRAPPERS_FILLER_H
+#define GTOP_WRAPPERS_FILLER_H
+
+#include "process/gtop_wrappers/process.h"
+
+#include <map>
+
+namespace gtop_wrappers {
+
+/// Which processes are listed.
+enum ProcessTypes {
+    AllProcesses = 0, ///< every process of the machine
+    MyProcesses = 1   ///< those of the program's real user id
+};
+
+/// Reads the processes of the machine through libgtop.
+class ProcessFiller
+{
+public:
+    static ProcessFiller *instance();
+
+    /// Number of process columns.
+    unsigned long size() const;
+    /// Name of column i, the same in every language: settings keys are made from it. Empty past the end.
+    QString name(unsigned long i) const;
+    /// Name of column i in the language of the user interface, for headers and menus.
+    QString title(unsigned long i) const;
+    /// A snapshot keyed by pid; a process that ends while it is read is left out.
+    std::map<int, Process> getProcesses(ProcessTypes types);
+};
+
+} // namespace gtop_wrappers
+
+#endif

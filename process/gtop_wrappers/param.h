@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef GTOP_WRAPPERS_PARAM_H
+#define GTOP_WRAPPERS_PARAM_H
+
+#include <QString>
+#include <QVariant>
+
+#include <tr1/memory>
+
+namespace gtop_wrappers {
+
+/// The value of one process in one column: what the cell shows and what it is sorted by.
+class IProcessParam
+{
+public:
+    explicit IProcessParam(const QVariant &display = QVariant());
+
+    /// What the cell shows (Qt::DisplayRole).
+    virtual QVariant displayValue() const;
+    /// What the column is sorted by (Qt::UserRole); the display value unless a subclass has a better one.
+    virtual QVariant sortValue() const;
+    virtual ~IProcessParam();
+
+    void setDisplayValue(const QVariant &display);
+
+protected:
+    IProcessParam(const IProcessParam &) = default;
+    IProcessParam &operator=(const IProcessParam &) = default;
+
+    QVariant display;
+};
+
+using ParamPtr = std::tr1::shared_ptr<IProcessParam>;
+
+/// A column value that is text only.
+class SimpleProcessParam : public IProcessParam
+{
+public:
+    explicit SimpleProcessParam(const QString &text);
+};
+
+/// A column value with a 32-bit integer behind its text; sorts by the integer.
+class IntProcessParam : public IProcessParam
+{
+public:
+    IntProcessParam(int value, const QVariant &display);
+    explicit IntProcessParam(int value); ///< shows the number itself
+
+    int value() const;
+    QVariant sortValue() const override;
+
+private:
+    int number;
+};
+
+/// The CPU load column. The library has no time base: the process model writes both values on every refresh.
+class CpuProcessParam : public IProcessParam
+{
+public:
+    CpuProcessParam();
+
+    double percent() const;
+    void setPercent(double percent);
+    QVariant sortValue() const override;
+
+private:
+    double load;
+};
+
+} // namespace gtop_wrappers
+
+#endif

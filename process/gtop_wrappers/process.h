@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef GTOP_WRAPPERS_PROCESS_H
+#define GTOP_WRAPPERS_PROCESS_H
+
+#include "process/gtop_wrappers/param.h"
+
+#include <vector>
+
+namespace gtop_wrappers {
+
+/// One process as it was read: its pid and one value per column. Copied freely; the values are shared.
+class Process
+{
+public:
+    /// A process without values; Process(-1) stands for "none".
+    explicit Process(int pid);
+
+    int pid() const;
+    /// Parent pid; 0 without values.
+    int getPPid() const;
+    /// Name as the Name column shows it; empty without values.
+    QString getName() const;
+    /// Cumulative user plus system time in the unit of libgtop's total CPU time, its low 32 bits; 0 without values.
+    int getCpuLoad() const;
+    /// Value of column i; an empty pointer where there is none.
+    ParamPtr getParam(unsigned long i) const;
+
+    // The two members stand in this order and are copied directly by those who keep a process.
+    int id;
+    std::vector<ParamPtr> params;
+};
+
+} // namespace gtop_wrappers
+
+#endif
