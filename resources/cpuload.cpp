@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "resources/cpuload.h"
+
+#include <glibtop.h>
+#include <glibtop/cpu.h>
+
+#include <algorithm>
+
+int cpuCount()
+{
+    // Read once only so that libgtop has looked at the machine and knows its CPUs.
+    glibtop_cpu cpu;
+    glibtop_get_cpu(&cpu);
+    return cpuCountFromLastIndex(glibtop_global_server->ncpu);
+}
+
+int cpuCountFromLastIndex(int lastIndex)
+{
+    return std::clamp(lastIndex, 0, GLIBTOP_NCPU - 1) + 1;
+}
+
+quint64 totalCpuTime()
+{
+    glibtop_cpu cpu;
+    glibtop_get_cpu(&cpu);
+    return cpu.total;
+}
+
+std::vector<CpuCounters> readCpuCounters(std::size_t count)
+{
+    glibtop_cpu cpu;
+    glibtop_get_cpu(&cpu);
+    std::vector<CpuCounters> read(std::min<std::size_t>(count, GLIBTOP_NCPU));
+    for (std::size_t i = 0; i < read.size(); ++i)
+        read[i] = {cpu.xcpu_idle[i], cpu.xcpu_total[i]};
+    return read;
+}
+
+quint64 updateCpuDeltas(const std::vector<CpuCounters> &read, std::vector<CpuRec> &records)
+{
+    quint64 sum = 0;
+    for (std::size_t i = 0; i < std::min(read.size(), records.size()); ++i) {
+        CpuRec &rec = records[i];
+        rec.idleDelta = read[i].idle - rec.idleLast;
+        rec.idleLast = read[i].idle;
+        rec.totalDelta = read[i].total - rec.totalLast;
+        rec.totalLast = read[i].total;
+        sum += rec.totalDelta;
+    }
+    return sum;
+}
+
+quint64 sampleCpus(std::vector<CpuRec> &records)
+{
+    return updateCpuDeltas(readCpuCounters(records.size()), records);
+}
+
+int cpuLoadPercent(quint64 idleDelta, quint64 totalDelta)
+{
+    // A tick without any time counts as full load on purpose. It is told apart before anything is
+    // divided or converted, as is a share too large for a load above -101, which counts as full load too.
+    if (totalDelta == 0)
+        return 100;
+    const double idleShare = 100.0 * static_cast<double>(idleDelta) / static_cast<double>(totalDelta);
+    return idleShare < 201.0 ? 100 - static_cast<int>(idleShare) : 100;
+}
+
+QString cpuLoadText(int percent)
+{
+    return QString::number(percent) + QLatin1String(" %");
+}

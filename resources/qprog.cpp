@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "resources/qprog.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPen>
+
+#include <cmath>
+
+namespace {
+
+void setUpPainter(QPainter &painter, int width)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setWindow(0, 0, width, qprog::windowHeight);
+}
+
+void fillRoundRect(QPainter &painter, const QRectF &rect, const QBrush &brush)
+{
+    if (rect.isEmpty()) // the painter would mirror a negative width
+        return;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    painter.drawRoundedRect(rect, 3, 25, Qt::RelativeSize);
+}
+
+// False for anything that is not a number, so that it is never drawn.
+bool inRange(double min, double max, double value)
+{
+    return min <= value && value <= max;
+}
+
+} // namespace
+
+QRectF qprog::frameRect(int width)
+{
+    return {5, 5, width - 5.0, 70};
+}
+
+QRectF qprog::troughRect(int width)
+{
+    return {10, 10, width - 17.0, 60};
+}
+
+QRectF qprog::barRect(double length)
+{
+    return {10, 10, length, 60};
+}
+
+QVector<QRectF> qprog::emptyRangeBlocks()
+{
+    return {{40, 10, 40, 60}, {130, 10, 40, 60}, {220, 10, 40, 60}, {310, 10, 40, 60}};
+}
+
+QVector<QLineF> qprog::tickLines(int width)
+{
+    QVector<QLineF> lines;
+    for (int k = 0; k <= width; k += 10)
+        lines.append(QLineF(k + 20, 10, k + 20, 70));
+    return lines;
+}
+
+double qprog::barLength(int width, double min, double max, double value)
+{
+    const double full = width - 10.0;
+    const double length =
+        max >= 0 ? full - (max - value) * full / (max - min) : full * (min - value) / (min - max);
+    return std::isfinite(length) ? length : 0.0;
+}
+
+QString qprog::shareText(double min, double max, double value)
+{
+    const double percent = (value - min) * 100.0 / (max - min);
+    if (!inRange(min, max, value) || !std::isfinite(percent))
+        return QString();
+    return QProg::tr("%1 %").arg(static_cast<int>(percent));
+}
+
+QProg::QProg(QWidget *parent) : QLabel(parent)
+{
+    updateGeometry();
+    rangeOrValueChanged();
+}
+
+QSize QProg::minimumSizeHint() const
+{
+    return {250, 20};
+}
+
+QSize QProg::sizeHint() const
+{
+    return {250, 25};
+}
+
+void QProg::setValue(double v)
+{
+    if (v > m_max)
+        m_value = m_max;
+    else if (v < m_min)
+        m_value = m_min;
+    else
+        m_value = v;
+    rangeOrValueChanged();
+}
+
+void QProg::setMaxValue(double v)
+{
+    if (m_min > v) {
+        m_max = m_min;
+        m_min = v;
+        m_value = v;
+    } else {
+        m_max = v; // the value is not clamped again, on purpose
+    }
+    rangeOrValueChanged();
+}
+
+void QProg::setMinValue(double v)
+{
+    if (v > m_max) {
+        m_min = m_max;
+        m_max = v;
+        m_value = m_min;
+    } else {
+        m_min = v; // the value is not clamped again, on purpose
+    }
+    rangeOrValueChanged();
+}
+
+void QProg::setFontDim(int dim)
+{
+    m_fontDim = dim;
+    update();
+}
+
+void QProg::setPrecision(int digits)
+{
+    m_numPrec = digits;
+    update();
+}
+
+void QProg::setBarColor(const QColor &color)
+{
+    m_barColor = color;
+    update();
+}
+
+void QProg::rangeOrValueChanged()
+{
+    update();
+    const QString share = qprog::shareText(m_min, m_max, m_value);
+    if (share != accessibleDescription()) // each setting sends an event, even of the same text
+        setAccessibleDescription(share);
+}
+
+void QProg::paintEvent(QPaintEvent *)
+{
+    paintFrame();
+    paintBar();
+    paintTicks();
+}
+
+void QProg::paintFrame()
+{
+    QPainter painter(this);
+    setUpPainter(painter, width());
+    QLinearGradient edge(5, 40, 15, 40);
+    edge.setColorAt(0.0, Qt::white);
+    edge.setColorAt(1.0, Qt::black);
+    fillRoundRect(painter, qprog::frameRect(width()), edge);
+}
+
+void QProg::paintBar()
+{
+    QPainter painter(this);
+    setUpPainter(painter, width());
+    fillRoundRect(painter, qprog::troughRect(width()), QColor(70, 70, 70));
+    if (!inRange(m_min, m_max, m_value))
+        return;
+    if (!(m_min < m_max)) {
+        for (const QRectF &block : qprog::emptyRangeBlocks())
+            fillRoundRect(painter, block, m_barColor);
+        return;
+    }
+    m_barLength = qprog::barLength(width(), m_min, m_max, m_value);
+    fillRoundRect(painter, qprog::barRect(m_barLength), m_barColor);
+    painter.end(); // whoever hears the signal may paint
+    Q_EMIT valueChanged(m_value);
+}
+
+void QProg::paintTicks()
+{
+    QPainter painter(this);
+    setUpPainter(painter, width());
+    painter.setPen(QPen(QBrush(Qt::black), 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawLines(qprog::tickLines(width()));
+}

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "resources/systeminfo.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QTextStream>
+
+#include <sys/utsname.h>
+#include <unistd.h>
+
+#include <array>
+
+namespace {
+
+QString unquoted(QString value)
+{
+    if (value.startsWith(QLatin1Char('"')))
+        value.remove(0, 1);
+    if (value.endsWith(QLatin1Char('"')))
+        value.chop(1);
+    return value;
+}
+
+// Reads a file through a text-level probe. What can't be opened reads as an empty text, and so does anything
+// but a regular file: opening a pipe would wait for its writer.
+QString probeFile(const QString &path, QString (*probe)(QTextStream &))
+{
+    QFile file(path);
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+        QTextStream nothing{QByteArray()};
+        return probe(nothing);
+    }
+    QTextStream text(&file);
+    text.setCodec("UTF-8");
+    return probe(text);
+}
+
+} // namespace
+
+QString hostName()
+{
+    std::array<char, 4000> buffer{};
+    // The results are not checked on purpose: the buffer is read as it stands. Its last byte stays zero.
+    (void)!gethostname(buffer.data(), buffer.size() - 1);
+    const QByteArray host(buffer.data());
+    (void)!getdomainname(buffer.data(), buffer.size() - 1);
+    return joinHostAndDomain(host, QByteArray(buffer.data()));
+}
+
+QString joinHostAndDomain(const QByteArray &host, const QByteArray &domain)
+{
+    const QString name = QString::fromUtf8(host.constData());
+    if (qstrcmp(domain.constData(), "(none)") == 0)
+        return name;
+    // An empty domain leaves a bare "." behind the name, and is meant to.
+    return name + QLatin1Char('.') + QString::fromUtf8(domain.constData());
+}
+
+QString osDescription(const QString &path)
+{
+    return probeFile(path, osDescriptionFromText);
+}
+
+QString osDescriptionFromText(QTextStream &text)
+{
+    QString description = QCoreApplication::translate("Updater", "Unknown OS");
+    for (QString line = text.readLine(); !line.isNull(); line = text.readLine()) {
+        line = line.trimmed();
+        if (line.startsWith(QLatin1String("DISTRIB_DESCRIPTION")))
+            description = unquoted(line.section(QLatin1Char('='), 1, 1));
+    }
+    return description;
+}
+
+QString cpuModel(const QString &path)
+{
+    return probeFile(path, cpuModelFromText);
+}
+
+QString cpuModelFromText(QTextStream &text)
+{
+    // The line is not trimmed before the test, unlike a line of lsb-release: an indented one doesn't count.
+    for (QString line = text.readLine(); !line.isNull(); line = text.readLine()) {
+        if (line.startsWith(QLatin1String("model name")))
+            return line.section(QLatin1Char(':'), 1, 1).simplified();
+    }
+    return QStringLiteral("Unknown CPU");
+}
+
+KernelFacts kernelFacts()
+{
+    utsname facts{};
+    uname(&facts);
+    return {QString::fromLatin1(facts.release), QString::fromLatin1(facts.machine)};
+}
