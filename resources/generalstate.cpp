@@ -11,7 +11,8 @@ namespace {
 // Truncated before it reaches the gauge, and not rounded, on purpose.
 double wholePercent(quint64 part, quint64 whole)
 {
-    return whole == 0 ? 0.0 : static_cast<double>(part * 100 / whole);
+    const quint64 percent = whole == 0 ? 0 : part * 100 / whole;
+    return static_cast<double>(percent);
 }
 
 } // namespace

@@ -50,7 +50,7 @@ QString hostName()
 
 QString joinHostAndDomain(const QByteArray &host, const QByteArray &domain)
 {
-    const QString name = QString::fromUtf8(host.constData());
+    QString name = QString::fromUtf8(host.constData());
     if (qstrcmp(domain.constData(), "(none)") == 0)
         return name;
     // An empty domain leaves a bare "." behind the name, and is meant to.

@@ -68,7 +68,7 @@ private Q_SLOTS:
     void gaugesTellTheirCaption();
     void loadIsShownInLabelAndGauge();
     void aLoadBelowZeroIsShownAsItIsAndEmptiesTheGauge();
-    void recordsWithoutARowBeingNoneIsSurvived();
+    void noCpuAtAllIsSurvived();
 };
 
 void TestCpuRows::modelRowsOfFourCpusAreRowsSevenToTen()
@@ -209,7 +209,7 @@ void TestCpuRows::aLoadBelowZeroIsShownAsItIsAndEmptiesTheGauge()
     QCOMPARE(records[0].gauge->value(), 0.0);
 }
 
-void TestCpuRows::recordsWithoutARowBeingNoneIsSurvived()
+void TestCpuRows::noCpuAtAllIsSurvived()
 {
     Page page;
     std::vector<CpuRec> none;
