@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/startpage.h"
+#include "app/updater.h"
+#include "integration/zarninit.h"
+#include "process/gtop_wrappers/filler.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <iostream>
+
+namespace {
+
+constexpr char description[] = QT_TRANSLATE_NOOP(
+    "ZarnHelpMenu",
+    "System monitor allows you to watch general system info, processes info, mount points and network stat.");
+
+// The program paints with the raster engine; loading OpenGL would only cost it memory and time.
+void doWithoutOpenGl()
+{
+    constexpr char variable[] = "QT_XCB_GL_INTEGRATION";
+    if (!qEnvironmentVariableIsSet(variable)) {
+        qputenv(variable, "none");
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    doWithoutOpenGl();
+    QApplication application(argc, argv);
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("utilities-system-monitor")));
+    QCoreApplication::setOrganizationName(QStringLiteral("Telmorra"));
+    QCoreApplication::setOrganizationDomain(QStringLiteral("telmorra.example"));
+    QCoreApplication::setApplicationName(QStringLiteral("zarn-system-monitor"));
+    zarnInit("1.2.2", description);
+    const int startPage = startPageFromArguments(argc, argv, std::cout);
+    gtop_wrappers::ProcessFiller::instance();
+    Updater updater(startPage);
+    return QApplication::exec();
+}

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/updater.h"
+#include "fs/mountlist.h"
+#include "fs/proxyfsmodel.h"
+#include "resources/cpurows.h"
+#include "resources/generalstate.h"
+#include "resources/qprog.h"
+#include "resources/systeminfo.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QScrollArea>
+
+void Updater::buildCpuRows()
+{
+    cpuCount = ::cpuCount();
+    cpuRecords.resize(static_cast<std::size_t>(cpuCount));
+    sampleCpuLoad();
+    createCpuRows(ui.glState, cpuRecords);
+}
+
+void Updater::sampleCpuLoad()
+{
+    cpuTotalDelta = sampleCpus(cpuRecords);
+    cpuFirstSample = 0;
+}
+
+void Updater::fillGeneralPage()
+{
+    const KernelFacts kernel = kernelFacts();
+    ui.lblSystem->setText(osDescription());
+    ui.lblKernel->setText(kernel.release);
+    ui.lblArch->setText(kernel.machine);
+    ui.lblHost->setText(hostName());
+    addCpuModelRows(ui.glGeneral, cpuCount, cpuModel());
+    scrollGeneralPageIfTooHigh();
+}
+
+void Updater::scrollGeneralPageIfTooHigh()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr || mainWindow.minimumSizeHint().height() <= screen->availableGeometry().height()) {
+        return;
+    }
+    const bool signalsWereBlocked = ui.tabWidget->blockSignals(true);
+    const QString title = ui.tabWidget->tabText(GeneralPage);
+    const int shown = ui.tabWidget->currentIndex();
+    auto *scroll = new QScrollArea;
+    scroll->setObjectName(QStringLiteral("generalScroll"));
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    ui.tabWidget->removeTab(GeneralPage);
+    scroll->setWidget(ui.tab);
+    ui.tabWidget->insertTab(GeneralPage, scroll, title);
+    ui.tabWidget->setCurrentIndex(shown);
+    ui.tabWidget->blockSignals(signalsWereBlocked);
+}
+
+void Updater::refreshGeneral()
+{
+    fsModel->update(collectMountList());
+    const GeneralFigures figures =
+        generalFigures(readMemory(), static_cast<quint64>(fsModel->availableDevSpace()),
+                       static_cast<quint64>(fsModel->totalDevSpace()));
+    ui.lblMemTotal->setText(figures.memTotal);
+    ui.lblMemFree->setText(figures.memFree);
+    ui.lblDiskFree->setText(figures.diskFree);
+    diskGauge->setValue(figures.diskPercent);
+    memoryGauge->setValue(figures.memPercent);
+    sampleCpuLoad();
+    showCpuLoad(cpuRecords);
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/updater.h"
+#include "process/gtop_wrappers/filler.h"
+#include "process/proxyprocmodel.h"
+
+#include <QMenu>
+#include <QtDebug>
+
+void Updater::refreshProcesses()
+{
+    static gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
+    procModel->setTotalCpuTime(totalCpuTime());
+    const auto types = static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes());
+    procModel->refresh(filler->getProcesses(types), 0);
+}
+
+QMenu *Updater::menuVisibleColumns()
+{
+    static const gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
+    auto *menu = new QMenu(tr("Visible columns"));
+    for (unsigned long i = 0; i < filler->size(); ++i) {
+        auto *action = new QAction(filler->title(i), menu);
+        action->setData(QVariant(static_cast<int>(i)));
+        menu->addAction(action);
+        action->setCheckable(true);
+        action->setChecked(procModel->isColumnVisible(i));
+        connect(action, SIGNAL(triggered(bool)), this, SLOT(slotToggleColumn()));
+    }
+    return menu;
+}
+
+void Updater::slotToggleColumn()
+{
+    const auto *action = qobject_cast<QAction *>(sender());
+    if (action == nullptr) {
+        qCritical() << "void Updater::slotToggleColumn()"
+                    << "call not by signal";
+        return;
+    }
+    const auto column = static_cast<unsigned long>(action->data().toInt());
+    procModel->setColumnVisible(column, !procModel->isColumnVisible(column));
+}

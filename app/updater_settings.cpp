@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/defaultgeometry.h"
+#include "app/pageintervals.h"
+#include "app/settingskeys.h"
+#include "app/updater.h"
+#include "integration/geometry.h"
+#include "process/gtop_wrappers/filler.h"
+#include "process/proxyprocmodel.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSettings>
+
+namespace {
+
+QRect availableGeometry()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen == nullptr ? QRect() : screen->availableGeometry();
+}
+
+} // namespace
+
+void Updater::loadSettings()
+{
+    static const gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
+    QSettings stored;
+    zarnRestoreGeometry(&mainWindow, &stored, defaultGeometry(availableGeometry()), false);
+    for (int page = 0; page < settings::pageCount; ++page) {
+        const QString key = QLatin1String(settings::intervalKeys[page].readFrom);
+        intervals->setInterval(page, stored.value(key, settings::defaultInterval).toInt());
+    }
+    for (unsigned long i = 0; i < filler->size(); ++i) {
+        const QString key = settings::columnKey(filler->name(i));
+        procModel->setColumnVisible(i, stored.value(key, procModel->isColumnVisible(i)).toBool());
+    }
+    const int order = stored.value(QLatin1String(settings::sortOrder)).toInt();
+    const int column = stored.value(QLatin1String(settings::sortColumn)).toInt();
+    ui.treeView->sortByColumn(column,
+                              order == Qt::DescendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder);
+    const QByteArray splitter = stored.value(QLatin1String(settings::splitter)).toByteArray();
+    if (!splitter.isNull()) {
+        ui.splitter->restoreState(splitter);
+    }
+}
+
+void Updater::saveSettings() const
+{
+    static const gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
+    QSettings stored;
+    zarnSaveGeometry(&mainWindow, &stored, false);
+    for (int page = 0; page < settings::pageCount; ++page) {
+        stored.setValue(QLatin1String(settings::intervalKeys[page].writtenTo), intervals->interval(page));
+    }
+    for (unsigned long i = 0; i < filler->size(); ++i) {
+        stored.setValue(settings::columnKey(filler->name(i)), procModel->isColumnVisible(i));
+    }
+    stored.setValue(QLatin1String(settings::sortColumn), procModel->sortColumn());
+    stored.setValue(QLatin1String(settings::sortOrder), static_cast<int>(procModel->sortOrder()));
+    stored.setValue(QLatin1String(settings::splitter), ui.splitter->saveState());
+}

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/pageintervals.h"
+#include "app/updater.h"
+#include "fs/chart.h"
+#include "fs/proxyfsmodel.h"
+#include "process/proxyprocmodel.h"
+#include "resources/qprog.h"
+#include "resources/timehisto.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <QVBoxLayout>
+
+namespace {
+
+void initImages()
+{
+    Q_INIT_RESOURCE(images);
+}
+
+QPixmap colorKey(QPixmap &pixmap, const QColor &color)
+{
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(color);
+    painter.drawRect(0, 0, 14, 14);
+    return pixmap;
+}
+
+} // namespace
+
+void Updater::buildWindow()
+{
+    initImages();
+    ui.setupUi(&mainWindow);
+    addStateGauges();
+    prepareNetworkPage();
+    addChart();
+    paintColorKeys();
+    connectWindow();
+    followProcessSelection();
+}
+
+void Updater::addStateGauges()
+{
+    memoryGauge = addStateGauge(Qt::blue, 2, ui.label_10);
+    diskGauge = addStateGauge(Qt::red, 1, ui.label_9);
+}
+
+QProg *Updater::addStateGauge(const QColor &color, int row, QLabel *caption)
+{
+    auto *gauge = new QProg(ui.centralwidget);
+    gauge->setMaxValue(100.0);
+    gauge->setBarColor(color);
+    gauge->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    gauge->setAccessibleName(caption->text());
+    ui.glState->addWidget(gauge, row, 3);
+    return gauge;
+}
+
+void Updater::prepareNetworkPage()
+{
+    // A machine may have no interface that would replace the form's placeholders.
+    for (QLabel *label : {ui.netAdress, ui.netMask, ui.netIn, ui.netOut, ui.netErrors}) {
+        label->clear();
+    }
+    timeHisto = new TimeHisto(ui.frame, intervals->interval(NetworkPage));
+    ui.ltTimeHisto->addWidget(timeHisto);
+}
+
+void Updater::addChart()
+{
+    auto *layout = new QVBoxLayout(ui.frmDisk);
+    layout->setObjectName(QStringLiteral("verticalLayout"));
+    chart = new Chart(ui.frmDisk);
+    layout->addWidget(chart);
+}
+
+void Updater::paintColorKeys()
+{
+    QPixmap pixmap(15, 15);
+    pixmap.fill(Qt::transparent);
+    ui.lblUsedColor->setPixmap(colorKey(pixmap, Chart::usedColor()));
+    ui.lblAvailColor->setPixmap(colorKey(pixmap, Chart::availColor()));
+}
+
+void Updater::connectWindow()
+{
+    // Meant: a choice of an interface calls setNetDevice() twice, and a change of the tab refreshes twice,
+    // first with the running tick and then from tick 0. The order of the connections is part of it.
+    connect(ui.comboNet, SIGNAL(activated(int)), this, SLOT(setNetDevice(int)));
+    connect(ui.tabWidget, SIGNAL(currentChanged(int)), this, SLOT(update()));
+    fsModel->setView(ui.tableFS);
+    procModel->setView(ui.treeView);
+    connect(procModel, SIGNAL(modelReset()), this, SLOT(update()));
+    connect(ui.tableFS->selectionModel(), SIGNAL(currentChanged(QModelIndex, QModelIndex)), this,
+            SLOT(slotSelectFs(QModelIndex)));
+    connect(ui.comboNet, SIGNAL(activated(int)), this, SLOT(setNetDevice(int)));
+    connect(ui.tabWidget, SIGNAL(currentChanged(int)), this, SLOT(slotTabChanged(int)));
+}
+
+void Updater::followProcessSelection()
+{
+    // A shortcut must act on the row that is highlighted, not on the one that was when a menu was last open.
+    // A reset clears the selection without a signal of its own.
+    connect(ui.treeView->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
+            SLOT(updateProcessActions()));
+    connect(ui.treeView->selectionModel(), SIGNAL(currentChanged(QModelIndex, QModelIndex)), this,
+            SLOT(updateProcessActions()));
+    connect(procModel, SIGNAL(modelReset()), this, SLOT(updateProcessActions()));
+}
