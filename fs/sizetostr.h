@@ -2,8 +2,8 @@
 #ifndef FS_SIZETOSTR_H
 #define FS_SIZETOSTR_H
 
-#include <QtCore/QObject>
-#include <QtCore/QString>
+#include <QObject>
+#include <QString>
 
 /// The text of a byte count for the eye: two decimals and the largest unit up to gigabytes under which
 /// the value stays below 1024, as in "512.00 B" or "1.50 KB". The value is converted to double first:

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fs/sizetostr.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QLocale>
-#include <QtCore/QTranslator>
-#include <QtTest/QtTest>
+#include <QCoreApplication>
+#include <QLocale>
+#include <QTranslator>
+#include <QtTest>
 
 #include <limits>
 

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef FS_CHART_H
+#define FS_CHART_H
+
+#include <QColor>
+#include <QWidget>
+
+/// Where the pie lies in its widget, in pixels; its top is always at 10.
+struct ChartGeometry
+{
+    int x;        ///< left edge
+    int diameter; ///< negative in a widget below 40 pixels
+};
+
+/// The place of the pie in a widget of that size.
+ChartGeometry chartGeometry(const QSize &size);
+
+/// The two shares of the pie in 1/16 degrees, counter-clockwise from three o'clock. Used comes first.
+struct ChartAngles
+{
+    int usedSpan;
+    int availStart;
+    int availSpan;
+};
+
+/// The shares for an available part of `percentAvailable`, a finite number; angles beyond the range of int
+/// are held at its ends.
+ChartAngles chartAngles(double percentAvailable);
+
+/// Pie chart of the used and the available share of a file system.
+class Chart : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Chart(QWidget *parent = nullptr);
+    ~Chart() override;
+
+    static QColor usedColor();
+    static QColor availColor();
+
+    /// Percentage that is available to ordinary users. Any number is taken: -1 and what isn't finite stand
+    /// for no value, which shows as an empty circle.
+    void setValue(double percentAvailable);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    bool hasValue() const;
+    void describe();
+    void draw(int x, int diameter);
+
+    double value = -1.0;
+};
+
+#endif

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "mounts.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+// The pictures of this program's own resources, and of the theme that the test makes up.
+const QColor ownCd(0, 255, 0);
+const QColor ownHard(0, 0, 255);
+const QColor themeOptical(255, 0, 0);
+const QColor themeDisk(255, 255, 0);
+
+bool writePicture(const QString &file, const QColor &color)
+{
+    QImage picture(16, 16, QImage::Format_RGB32);
+    picture.fill(color);
+    return picture.save(file);
+}
+
+bool writeTheme(const QString &root)
+{
+    const QString folder = root + QStringLiteral("/colors/16x16");
+    QFile index(root + QStringLiteral("/colors/index.theme"));
+    return QDir().mkpath(folder) && index.open(QIODevice::WriteOnly) &&
+           index.write("[Icon Theme]\nName=colors\nDirectories=16x16\n\n[16x16]\nSize=16\n") > 0 &&
+           writePicture(folder + QStringLiteral("/drive-optical.png"), themeOptical) &&
+           writePicture(folder + QStringLiteral("/drive-harddisk.png"), themeDisk);
+}
+
+QColor colorOf(const QVariant &decoration)
+{
+    return decoration.value<QIcon>().pixmap(16, 16).toImage().pixelColor(8, 8);
+}
+
+} // namespace
+
+class TestFsIcons : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void theTypeChoosesTheIcon_data();
+    void theTypeChoosesTheIcon();
+    void theIconFollowsAChangeOfTheTheme();
+
+private:
+    QTemporaryDir themes;
+};
+
+void TestFsIcons::initTestCase()
+{
+    QVERIFY(themes.isValid());
+    QVERIFY(writeTheme(themes.path()));
+    QIcon::setThemeSearchPaths({themes.path()});
+    QIcon::setFallbackSearchPaths({});
+}
+
+void TestFsIcons::theTypeChoosesTheIcon_data()
+{
+    QTest::addColumn<bool>("optical");
+    for (const char *type : {"iso9660", "iso", "isofs", "udf"}) {
+        QTest::newRow(type) << true;
+    }
+    for (const char *type : {"ISO9660", "Iso", "is", "aiso", "UDF", "udf2", "ext4", ""}) {
+        QTest::newRow(*type ? type : "no type") << false;
+    }
+}
+
+void TestFsIcons::theTypeChoosesTheIcon()
+{
+    QFETCH(bool, optical);
+    const QString tag = QLatin1String(QTest::currentDataTag());
+    const QString type = tag == QLatin1String("no type") ? QString() : tag;
+    FSModel model;
+    model.update({mount(QStringLiteral("/dev/sr0"), QStringLiteral("/media"), type)});
+    QIcon::setThemeName(QStringLiteral("colors"));
+    QCOMPARE(colorOf(model.index(0, 0).data(Qt::DecorationRole)), optical ? themeOptical : themeDisk);
+    QIcon::setThemeName(QStringLiteral("no such theme"));
+    QCOMPARE(colorOf(model.index(0, 0).data(Qt::DecorationRole)), optical ? ownCd : ownHard);
+    QVERIFY(!model.index(0, 1).data(Qt::DecorationRole).isValid());
+}
+
+void TestFsIcons::theIconFollowsAChangeOfTheTheme()
+{
+    FSModel model;
+    model.update({mount(QStringLiteral("/dev/sda1"), QStringLiteral("/"))});
+    for (int change = 0; change < 2; ++change) {
+        QIcon::setThemeName(QStringLiteral("no such theme"));
+        QCOMPARE(colorOf(model.index(0, 0).data(Qt::DecorationRole)), ownHard);
+        QIcon::setThemeName(QStringLiteral("colors"));
+        QCOMPARE(colorOf(model.index(0, 0).data(Qt::DecorationRole)), themeDisk);
+    }
+}
+
+QTEST_MAIN(TestFsIcons)
+#include "test_fsicons.moc"

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fs/mountlist.h"
+
+#include <QtTest>
+
+#include <glib.h>
+#include <glibtop/fsusage.h>
+#include <glibtop/mountlist.h>
+
+#include <cstring>
+
+// The two functions below stand in for libgtop's: a program's own definition goes before a library's.
+
+namespace {
+
+struct Machine
+{
+    bool hasList = true;
+    std::vector<glibtop_mountentry> mounts;
+    glibtop_fsusage usage{};
+    std::vector<int> askedForAll;
+    std::vector<std::string> askedForUsage;
+};
+
+Machine machine;
+
+template <std::size_t size>
+void fill(char (&bytes)[size], const std::string &name)
+{
+    std::memcpy(bytes, name.data(), std::min(size, name.size()));
+}
+
+glibtop_mountentry mountEntry(const std::string &devname, const std::string &mountdir,
+                              const std::string &type)
+{
+    glibtop_mountentry entry{};
+    fill(entry.devname, devname);
+    fill(entry.mountdir, mountdir);
+    fill(entry.type, type);
+    return entry;
+}
+
+} // namespace
+
+glibtop_mountentry *glibtop_get_mountlist(glibtop_mountlist *buf, int all_fs)
+{
+    machine.askedForAll.push_back(all_fs);
+    buf->number = machine.mounts.size();
+    if (!machine.hasList) {
+        return nullptr;
+    }
+    // Exactly as long as the list, so that the sanitizer sees a step beyond and a missing g_free.
+    auto *entries = g_new(glibtop_mountentry, machine.mounts.size() + (machine.mounts.empty() ? 1 : 0));
+    std::copy(machine.mounts.begin(), machine.mounts.end(), entries);
+    return entries;
+}
+
+void glibtop_get_fsusage(glibtop_fsusage *buf, const char *mount_dir)
+{
+    machine.askedForUsage.emplace_back(mount_dir);
+    *buf = machine.usage;
+}
+
+class TestMountReading : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void allFileSystemsAreAskedFor();
+    void noMountListGivesAnEmptyList();
+    void anEmptyMountListGivesAnEmptyList();
+    void countsComeFromTheUsageOfTheMountPoint();
+    void usageIsAskedForInOrderByTheBytesOfTheMountPoint();
+    void aMountThatVanishedIsLeftOut();
+    void namesThatFillTheirArrayWithoutNulAreReadToItsEnd();
+    void nothingIsKeptFromOneReadingToTheNext();
+};
+
+void TestMountReading::init()
+{
+    machine = Machine();
+    machine.usage.blocks = 10;
+    machine.usage.bfree = 9;
+    machine.usage.bavail = 8;
+    machine.usage.files = 7;
+    machine.usage.ffree = 6;
+    machine.usage.block_size = 512;
+}
+
+void TestMountReading::allFileSystemsAreAskedFor()
+{
+    collectMountList();
+    QCOMPARE(machine.askedForAll, std::vector<int>{1});
+}
+
+void TestMountReading::noMountListGivesAnEmptyList()
+{
+    machine.mounts = {mountEntry("/dev/sda1", "/", "ext4")};
+    machine.hasList = false;
+    QVERIFY(collectMountList().empty());
+    QVERIFY(machine.askedForUsage.empty());
+}
+
+void TestMountReading::anEmptyMountListGivesAnEmptyList()
+{
+    QVERIFY(collectMountList().empty());
+}
+
+void TestMountReading::countsComeFromTheUsageOfTheMountPoint()
+{
+    machine.mounts = {mountEntry("/dev/sda1", "/", "ext4")};
+    const std::list<FSInfo> mounts = collectMountList();
+    QCOMPARE(mounts.size(), std::size_t{1});
+    const FSInfo &info = mounts.front();
+    QCOMPARE(info.device, QStringLiteral("/dev/sda1"));
+    QCOMPARE(info.mountDir, QStringLiteral("/"));
+    QCOMPARE(info.type, QStringLiteral("ext4"));
+    QCOMPARE(info.blocks, 10);
+    QCOMPARE(info.freeBlocks, 9);
+    QCOMPARE(info.availBlocks, 8);
+    QCOMPARE(info.files, 7);
+    QCOMPARE(info.blockSize, 512);
+}
+
+void TestMountReading::usageIsAskedForInOrderByTheBytesOfTheMountPoint()
+{
+    machine.mounts = {mountEntry("a", "/b\xff", "ext4"), mountEntry("b", "/a", "tmpfs"),
+                      mountEntry("c", "/c\xc3\xa9", "xfs")};
+    QCOMPARE(collectMountList().size(), std::size_t{2});
+    QCOMPARE(machine.askedForUsage, (std::vector<std::string>{"/b\xff", "/a", "/c\xc3\xa9"}));
+}
+
+void TestMountReading::aMountThatVanishedIsLeftOut()
+{
+    machine.mounts = {mountEntry("/dev/sdb1", "/gone", "vfat")};
+    machine.usage = glibtop_fsusage{};
+    QVERIFY(collectMountList().empty());
+}
+
+void TestMountReading::namesThatFillTheirArrayWithoutNulAreReadToItsEnd()
+{
+    constexpr std::size_t full = GLIBTOP_MOUNTENTRY_LEN + 1;
+    machine.mounts = {
+        mountEntry(std::string(full, 'd'), std::string(full, 'm'), std::string(full, 't')),
+    };
+    const std::list<FSInfo> mounts = collectMountList();
+    QCOMPARE(mounts.size(), std::size_t{1});
+    QCOMPARE(mounts.front().device, QString(int{full}, QLatin1Char('d')));
+    QCOMPARE(mounts.front().mountDir, QString(int{full}, QLatin1Char('m')));
+    QCOMPARE(mounts.front().type, QString(int{full}, QLatin1Char('t')));
+    QCOMPARE(machine.askedForUsage, std::vector<std::string>{std::string(full, 'm')});
+}
+
+void TestMountReading::nothingIsKeptFromOneReadingToTheNext()
+{
+    machine.mounts.assign(500, mountEntry("/dev/sda1", "/", "ext4"));
+    QCOMPARE(collectMountList().size(), std::size_t{500});
+    machine.mounts.resize(1);
+    QCOMPARE(collectMountList().size(), std::size_t{1});
+}
+
+QTEST_APPLESS_MAIN(TestMountReading)
+#include "test_mountreading.moc"
