@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "integration/geometry.h"
+
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QScreen>
+#include <QSettings>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+const char geometryKey[] = "geometry";
+const char toolBarsKey[] = "toolBars";
+
+constexpr int farthest = 1000000;             // no desktop is larger, and sums of such numbers don't overflow
+constexpr int highestTitleBar = 500;          // even on a screen of the highest density
+constexpr QSize smallestWindow(64, 32);       // what is smaller can't be read or caught
+constexpr QSize smallestGrip(64, 8);          // of the title bar, to drag the window by
+constexpr int titleBarOfFramelessWindow = 16; // the strip that stands for one where none is drawn
+
+struct Placement
+{
+    QRect client;
+    int titleBarHeight = 0;
+    bool maximized = false;
+};
+
+Placement placementOf(const QWidget *window)
+{
+    const QRect normal = window->normalGeometry();
+    const int titleBarHeight = window->geometry().top() - window->frameGeometry().top();
+    return {normal.isValid() ? normal : window->geometry(), titleBarHeight, window->isMaximized()};
+}
+
+QStringList toFields(const Placement &placement)
+{
+    QStringList fields;
+    for (int number : {placement.client.x(), placement.client.y(), placement.client.width(),
+                       placement.client.height(), placement.titleBarHeight, int(placement.maximized)}) {
+        fields << QString::number(number);
+    }
+    return fields;
+}
+
+/// An empty client rectangle if the fields aren't those of toFields().
+Placement fromFields(const QStringList &fields)
+{
+    if (fields.size() != 6) {
+        return {};
+    }
+    QVector<int> numbers;
+    for (const QString &field : fields) {
+        bool isNumber = false;
+        numbers << field.toInt(&isNumber);
+        if (!isNumber || numbers.last() < -farthest || numbers.last() > farthest) {
+            return {};
+        }
+    }
+    if (numbers[4] < 0 || numbers[4] > highestTitleBar) {
+        return {};
+    }
+    return {QRect(numbers[0], numbers[1], numbers[2], numbers[3]), numbers[4], numbers[5] != 0};
+}
+
+QVector<QRect> availableScreens()
+{
+    QVector<QRect> areas;
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    for (const QScreen *screen : screens) {
+        areas << screen->availableGeometry();
+    }
+    return areas;
+}
+
+QRect boundTo(const QRect &screen, QRect client, int titleBarHeight)
+{
+    if (client.width() > screen.width()) {
+        client.setLeft(screen.left());
+        client.setRight(screen.right());
+    }
+    if (client.height() + titleBarHeight > screen.height()) {
+        client.setTop(screen.top() + titleBarHeight);
+        client.setBottom(screen.bottom());
+    }
+    return client;
+}
+
+void place(QWidget *window, const Placement &placement, const QRect &defaultRect)
+{
+    window->setWindowState(window->windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
+    if (placement.client.isEmpty()) {
+        // move() means the frame: a title bar above the default's top edge would be off the screen.
+        window->move(defaultRect.topLeft());
+        window->resize(defaultRect.size());
+        return;
+    }
+    window->setGeometry(placement.client);
+    if (placement.maximized) {
+        window->setWindowState(window->windowState() | Qt::WindowMaximized);
+    }
+}
+
+} // namespace
+
+void zarnSaveGeometry(const QWidget *window, QSettings *settings, bool withToolBars)
+{
+    settings->setValue(QLatin1String(geometryKey), toFields(placementOf(window)));
+    const auto *mainWindow = qobject_cast<const QMainWindow *>(window);
+    if (withToolBars && mainWindow) {
+        settings->setValue(QLatin1String(toolBarsKey), mainWindow->saveState());
+    }
+}
+
+void zarnRestoreGeometry(QWidget *window, QSettings *settings, const QRect &defaultRect, bool withToolBars)
+{
+    Placement stored = fromFields(settings->value(QLatin1String(geometryKey)).toStringList());
+    stored.client = zarnFitToScreens(stored.client, stored.titleBarHeight, availableScreens());
+    place(window, stored, defaultRect);
+    auto *mainWindow = qobject_cast<QMainWindow *>(window);
+    if (withToolBars && mainWindow) {
+        mainWindow->restoreState(settings->value(QLatin1String(toolBarsKey)).toByteArray());
+    }
+}
+
+QRect zarnFitToScreens(const QRect &client, int titleBarHeight, const QVector<QRect> &screens)
+{
+    if (client.width() < smallestWindow.width() || client.height() < smallestWindow.height()) {
+        return QRect();
+    }
+    const QRect titleBar(client.left(), client.top() - titleBarHeight, client.width(),
+                         std::max(titleBarHeight, titleBarOfFramelessWindow));
+    QRect bestScreen;
+    QRect bestSeen;
+    for (const QRect &screen : screens) {
+        const QRect seen = titleBar & screen;
+        const bool enough = seen.width() >= smallestGrip.width() && seen.height() >= smallestGrip.height();
+        if (enough && seen.width() > bestSeen.width()) {
+            bestScreen = screen;
+            bestSeen = seen;
+        }
+    }
+    return bestSeen.isEmpty() ? QRect() : boundTo(bestScreen, client, titleBarHeight);
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "integration/dpi.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QTest>
+
+#include <limits>
+
+class TestDpi : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void factorIsTheDensityAgainst96_data();
+    void factorIsTheDensityAgainst96();
+    void sizesAreUnchangedWithoutAnApplication();
+    void sizesAreUnchangedWithoutAScreen();
+    void sizesFollowThePrimaryScreen();
+};
+
+void TestDpi::factorIsTheDensityAgainst96_data()
+{
+    QTest::addColumn<double>("dpi");
+    QTest::addColumn<double>("factor");
+    QTest::newRow("96") << 96.0 << 1.0;
+    QTest::newRow("144") << 144.0 << 1.5;
+    QTest::newRow("192") << 192.0 << 2.0;
+    QTest::newRow("72") << 72.0 << 0.75;
+    QTest::newRow("zero") << 0.0 << 1.0;
+    QTest::newRow("negative") << -96.0 << 1.0;
+    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 1.0;
+    QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << 1.0;
+}
+
+void TestDpi::factorIsTheDensityAgainst96()
+{
+    QFETCH(double, dpi);
+    QTEST(zarnDpiFactor(dpi), "factor");
+}
+
+void TestDpi::sizesAreUnchangedWithoutAnApplication()
+{
+    QVERIFY(!QCoreApplication::instance());
+    QCOMPARE(zarnDpiScaled(95.5), 95.5);
+}
+
+void TestDpi::sizesAreUnchangedWithoutAScreen()
+{
+    int argc = 0;
+    QCoreApplication application(argc, nullptr);
+    QCOMPARE(zarnDpiScaled(95.5), 95.5);
+}
+
+void TestDpi::sizesFollowThePrimaryScreen()
+{
+    qputenv("QT_FONT_DPI", "144"); // read once per process, when the first screen is made
+    int argc = 0;
+    QGuiApplication application(argc, nullptr);
+    QCOMPARE(zarnDpiScaled(60), 90.0);
+    QCOMPARE(zarnDpiScaled(0), 0.0);
+    QCOMPARE(zarnDpiScaled(-5), -7.5);
+}
+
+QTEST_APPLESS_MAIN(TestDpi)
+#include "test_dpi.moc"

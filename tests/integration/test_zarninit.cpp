@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "integration/zarninit.h"
+
+#include <QTest>
+#include <QTranslator>
+
+namespace {
+
+/// A catalogue with one entry, as a translation file would carry it.
+class GermanDescription : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        const bool known = qstrcmp(context, "ZarnHelpMenu") == 0 && qstrcmp(source, "Shows things.") == 0;
+        return known ? QStringLiteral("Zeigt Dinge.") : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+class TestZarnInit : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { zarnInit("", ""); }
+    void versionReachesTheApplication();
+    void textsAreReadAsUtf8();
+    void textsOutliveTheCallersBuffers();
+    void descriptionIsTranslatedWhenAskedFor();
+    void nullPointersCountAsEmpty();
+};
+
+void TestZarnInit::versionReachesTheApplication()
+{
+    zarnInit("1.2.2", "Shows things.");
+    QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("1.2.2"));
+    QCOMPARE(zarnVersion(), QStringLiteral("1.2.2"));
+    QCOMPARE(zarnDescription(), QStringLiteral("Shows things."));
+}
+
+void TestZarnInit::textsAreReadAsUtf8()
+{
+    zarnInit("1.0 \xce\xb2", "caf\xc3\xa9");
+    QCOMPARE(zarnVersion(), QString(QStringLiteral("1.0 ") + QChar(0x3b2)));
+    QCOMPARE(zarnDescription(), QString(QStringLiteral("caf") + QChar(0xe9)));
+}
+
+void TestZarnInit::textsOutliveTheCallersBuffers()
+{
+    char version[] = "1.0";
+    char description[] = "before";
+    zarnInit(version, description);
+    version[0] = description[0] = 'X';
+    QCOMPARE(zarnVersion(), QStringLiteral("1.0"));
+    QCOMPARE(zarnDescription(), QStringLiteral("before"));
+}
+
+void TestZarnInit::descriptionIsTranslatedWhenAskedFor()
+{
+    zarnInit("1.0", "Shows things.");
+    GermanDescription translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QCOMPARE(zarnDescription(), QStringLiteral("Zeigt Dinge."));
+    QVERIFY(QCoreApplication::removeTranslator(&translator));
+    QCOMPARE(zarnDescription(), QStringLiteral("Shows things."));
+}
+
+void TestZarnInit::nullPointersCountAsEmpty()
+{
+    zarnInit("1.0", "Shows things.");
+    zarnInit(nullptr, nullptr);
+    QCOMPARE(zarnVersion(), QString());
+    QCOMPARE(zarnDescription(), QString());
+}
+
+QTEST_GUILESS_MAIN(TestZarnInit)
+#include "test_zarninit.moc"
