@@ -14,7 +14,7 @@ static const int margin = 15;     // the other three sides; the time labels stan
 int wholePixel(double coordinate)
 {
     const double limit = 1 << 24;
-    return static_cast<int>(std::clamp(coordinate, -limit, limit));
+    return static_cast<int>(std::max(-limit, std::min(limit, coordinate))); // in this order NaN is held too
 }
 
 double horizontalScale(int width)

@@ -18,17 +18,34 @@ static QFont labelFont()
     return {QStringLiteral("Arial"), 8, QFont::Normal};
 }
 
-// The rectangles of the grid's labels have a fixed size in pixels, the font has one in points: on a display
-// whose resolution makes a label larger than its rectangle it is drawn smaller, rather than cut.
-static void drawLabel(QPainter &painter, const QRectF &rect, const QString &text)
+// Numbers don't reach below the base line of the text, so only the ascent counts.
+static bool fits(const QFontMetrics &metrics, const QStringList &texts, const QSizeF &room)
 {
-    const QSizeF needed = painter.fontMetrics().size(Qt::TextSingleLine, text);
-    const double fit = std::min({1.0, rect.width() / needed.width(), rect.height() / needed.height()});
+    const auto narrow = [&](const QString &text) {
+        return metrics.horizontalAdvance(text) <= room.width() - 2; // a pixel off the border and the grid
+    };
+    return metrics.ascent() <= room.height() && std::all_of(texts.begin(), texts.end(), narrow);
+}
+
+// The labels of an axis have rectangles of a fixed size in pixels and a font in points. Where the display's
+// resolution makes a label larger than its rectangle, all of the axis are drawn smaller rather than one cut.
+static void setLabelFont(QPainter &painter, const QStringList &labels, const QSizeF &room)
+{
+    const qreal smallest = 2.0;
     QFont font = labelFont();
-    font.setPointSizeF(font.pointSizeF() * fit);
     painter.setFont(font);
-    painter.drawText(rect, Qt::AlignCenter | Qt::TextDontClip, text);
-    painter.setFont(labelFont());
+    while (!fits(painter.fontMetrics(), labels, room) && font.pointSizeF() > smallest) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+        painter.setFont(font);
+    }
+}
+
+static void drawGridLine(QPainter &painter, const QLine &line, const QRectF &labelRect, const QString &label)
+{
+    painter.setPen(linePen(Qt::black, Qt::DotLine));
+    painter.drawLine(line);
+    painter.setPen(Qt::black);
+    painter.drawText(labelRect, Qt::AlignCenter | Qt::TextDontClip, label);
 }
 
 static void drawBackground(QPainter &painter, const QSize &size)
@@ -123,21 +140,33 @@ void TimeHisto::paintEvent(QPaintEvent * /*event*/)
 void TimeHisto::drawGrid(QPainter &painter) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setFont(labelFont());
-    const QPen dotted = linePen(Qt::black, Qt::DotLine);
+    drawTimes(painter);
+    drawAmounts(painter);
+}
+
+void TimeHisto::drawTimes(QPainter &painter) const
+{
+    QStringList labels;
     for (int k = 0; k <= 100; k += 10) {
-        painter.setPen(dotted);
-        painter.drawLine(histogeometry::timeLine(k, size(), horizontalScale));
-        painter.setPen(Qt::black);
-        drawLabel(painter, histogeometry::timeLabelRect(k, size(), horizontalScale),
-                  histogeometry::timeLabel(k, interval));
+        labels << histogeometry::timeLabel(k, interval);
     }
+    const auto rect = [this](int k) { return histogeometry::timeLabelRect(k, size(), horizontalScale); };
+    setLabelFont(painter, labels, rect(0).size());
+    for (int k = 0; k <= 100; k += 10) {
+        drawGridLine(painter, histogeometry::timeLine(k, size(), horizontalScale), rect(k), labels[k / 10]);
+    }
+}
+
+void TimeHisto::drawAmounts(QPainter &painter) const
+{
+    QStringList labels;
     for (int i = 0; i <= 4; ++i) {
-        painter.setPen(dotted);
-        painter.drawLine(histogeometry::amountLine(i, size()));
-        painter.setPen(Qt::black);
-        drawLabel(painter, histogeometry::amountLabelRect(i, size()),
-                  histogeometry::amountLabel(i, maxValue));
+        labels << histogeometry::amountLabel(i, maxValue);
+    }
+    const auto rect = [this](int i) { return histogeometry::amountLabelRect(i, size()); };
+    setLabelFont(painter, labels, rect(0).size());
+    for (int i = 0; i <= 4; ++i) {
+        drawGridLine(painter, histogeometry::amountLine(i, size()), rect(i), labels[i]);
     }
 }
 

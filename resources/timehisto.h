@@ -35,6 +35,8 @@ private:
     void clearRings();
     void describe();
     void drawGrid(QPainter &painter) const;
+    void drawTimes(QPainter &painter) const;
+    void drawAmounts(QPainter &painter) const;
     void drawSeries(QPainter &painter);
 
     HistoRing incoming;
