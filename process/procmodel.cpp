@@ -4,7 +4,6 @@
 #include "process/gtop_wrappers/filler.h"
 
 #include <QMessageBox>
-#include <QtMath>
 
 #include <signal.h>
 #include <sys/resource.h>
@@ -27,12 +26,6 @@ const unsigned long lastHiddenColumn = 9;
 bool isSameProcess(const Process &known, const Process &fresh)
 {
     return known.getPPid() == fresh.getPPid() && known.getName() == fresh.getName();
-}
-
-/// A NaN is neither less nor greater than anything, which no sort can live with: it sorts as 0.
-QVariant sortable(const QVariant &value)
-{
-    return value.userType() == QMetaType::Double && qIsNaN(value.toDouble()) ? QVariant(0.0) : value;
 }
 
 void showError(const QString &whatFailed, int error)
@@ -113,7 +106,7 @@ QVariant ProcModel::data(const QModelIndex &index, int role) const
     if (!param) {
         return QVariant();
     }
-    return role == Qt::DisplayRole ? param->displayValue() : sortable(param->sortValue());
+    return role == Qt::DisplayRole ? param->displayValue() : param->sortValue();
 }
 
 QVariant ProcModel::headerData(int section, Qt::Orientation orientation, int role) const
