@@ -5,8 +5,12 @@
 #include "process/gtop_wrappers/process.h"
 
 #include <map>
+#include <memory>
+#include <vector>
 
 namespace gtop_wrappers {
+
+class ProcessTable;
 
 /// Which processes are listed.
 enum ProcessTypes {
@@ -24,10 +28,22 @@ public:
     unsigned long size() const;
     /// Name of column i, the same in every language: settings keys are made from it. Empty past the end.
     QString name(unsigned long i) const;
-    /// Name of column i in the language of the user interface, for headers and menus.
+    /// Name of column i in the language of the user interface, for headers and menus. Empty past the end.
     QString title(unsigned long i) const;
-    /// A snapshot keyed by pid; a process that ends while it is read is left out.
+    /// A snapshot keyed by pid; a process that ends while it is read is left out. Values that did not change
+    /// since the last snapshot are the same objects as in it, except those of the CPU column.
     std::map<int, Process> getProcesses(ProcessTypes types);
+
+    /// Tells which columns are wanted in the next snapshots, to save reading the others; an empty list
+    /// (as at the start) or a missing entry means yes. A column not wanted may have empty pointers; name,
+    /// parent pid and CPU counter are there in any case.
+    void setWanted(const std::vector<bool> &columns);
+
+private:
+    ProcessFiller();
+    ~ProcessFiller();
+
+    std::unique_ptr<ProcessTable> table;
 };
 
 } // namespace gtop_wrappers

@@ -13,7 +13,7 @@ namespace gtop_wrappers {
 class IProcessParam
 {
 public:
-    explicit IProcessParam(const QVariant &display = QVariant());
+    explicit IProcessParam(const QVariant &value = QVariant());
 
     /// What the cell shows (Qt::DisplayRole).
     virtual QVariant displayValue() const;
@@ -21,13 +21,14 @@ public:
     virtual QVariant sortValue() const;
     virtual ~IProcessParam();
 
-    void setDisplayValue(const QVariant &display);
+    void setDisplayValue(const QVariant &value);
 
 protected:
     IProcessParam(const IProcessParam &) = default;
     IProcessParam &operator=(const IProcessParam &) = default;
 
-    QVariant display;
+    // Mutable for those that make their text only when it is first shown.
+    mutable QVariant display;
 };
 
 using ParamPtr = std::tr1::shared_ptr<IProcessParam>;
@@ -43,7 +44,7 @@ public:
 class IntProcessParam : public IProcessParam
 {
 public:
-    IntProcessParam(int value, const QVariant &display);
+    IntProcessParam(int value, const QVariant &text);
     explicit IntProcessParam(int value); ///< shows the number itself
 
     int value() const;
@@ -61,6 +62,8 @@ public:
 
     double percent() const;
     void setPercent(double percent);
+    /// The percentage; for one that is not a number, a value below all others, so that sorting stays an
+    /// order.
     QVariant sortValue() const override;
 
 private:

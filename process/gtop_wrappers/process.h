@@ -8,6 +8,24 @@
 
 namespace gtop_wrappers {
 
+/// The process columns; the numbers are fixed.
+enum ProcessColumn : unsigned long {
+    NameColumn,
+    CpuColumn, ///< always a CpuProcessParam
+    PidColumn,
+    UserColumn,
+    MemoryColumn,
+    StateColumn, ///< always an IntProcessParam with libgtop's state code
+    VirtualMemoryColumn,
+    SharedMemoryColumn,
+    NiceColumn,
+    ParentPidColumn,
+    CpuTimeColumn, ///< sorts by jiffies
+    StartedColumn,
+    CommandLineColumn,
+    ColumnCount
+};
+
 /// One process as it was read: its pid and one value per column. Copied freely; the values are shared.
 class Process
 {
@@ -16,11 +34,12 @@ public:
     explicit Process(int pid);
 
     int pid() const;
-    /// Parent pid; 0 without values.
+    /// Parent pid, from the values; 0 without them.
     int getPPid() const;
     /// Name as the Name column shows it; empty without values.
     QString getName() const;
-    /// Cumulative user plus system time in the unit of libgtop's total CPU time, its low 32 bits; 0 without values.
+    /// Cumulative user plus system time in the unit of libgtop's total CPU time, its low 32 bits (so the sign
+    /// means nothing), from the CPU time column; 0 without values.
     int getCpuLoad() const;
     /// Value of column i; an empty pointer where there is none.
     ParamPtr getParam(unsigned long i) const;
@@ -28,6 +47,9 @@ public:
     // The two members stand in this order and are copied directly by those who keep a process.
     int id;
     std::vector<ParamPtr> params;
+
+private:
+    QVariant sortValue(ProcessColumn column) const;
 };
 
 } // namespace gtop_wrappers

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/gtop_wrappers/columns.h"
+
+#include "process/gtop_wrappers/lazyparams.h"
+#include "process/gtop_wrappers/oneline.h"
+
+#include <QCoreApplication>
+
+#include <glibtop/procstate.h>
+#include <pwd.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace gtop_wrappers {
+
+namespace {
+
+struct StateText
+{
+    int code;
+    const char *text;
+};
+
+const StateText stateTexts[] = {
+    {GLIBTOP_PROCESS_RUNNING, QT_TRANSLATE_NOOP("ProcessFiller", "Running")},
+    {GLIBTOP_PROCESS_INTERRUPTIBLE, QT_TRANSLATE_NOOP("ProcessFiller", "Sleeping")},
+    {GLIBTOP_PROCESS_UNINTERRUPTIBLE, QT_TRANSLATE_NOOP("ProcessFiller", "Uninterruptible")},
+    {GLIBTOP_PROCESS_ZOMBIE, QT_TRANSLATE_NOOP("ProcessFiller", "Zombie")},
+    {GLIBTOP_PROCESS_STOPPED, QT_TRANSLATE_NOOP("ProcessFiller", "Stopped")},
+    {GLIBTOP_PROCESS_SWAPPING, QT_TRANSLATE_NOOP("ProcessFiller", "Swapping")},
+    {GLIBTOP_PROCESS_DEAD, QT_TRANSLATE_NOOP("ProcessFiller", "Dead")},
+};
+
+QString stateText(int code)
+{
+    const auto found = std::find_if(std::begin(stateTexts), std::end(stateTexts),
+                                    [code](const StateText &row) { return row.code == code; });
+    // libgtop gives 0 for the states it has no code for: idle kernel threads, traced processes.
+    return QCoreApplication::translate("ProcessFiller", found != std::end(stateTexts)
+                                                            ? found->text
+                                                            : QT_TRANSLATE_NOOP("ProcessFiller", "Other"));
+}
+
+QString userText(int uid)
+{
+    const passwd *entry = getpwuid(static_cast<uid_t>(uid));
+    return entry ? oneLine(entry->pw_name) : QString::number(static_cast<uid_t>(uid));
+}
+
+void dropUnusedOf(std::map<int, ParamPtr> &params)
+{
+    for (auto it = params.begin(); it != params.end();) {
+        it = it->second.unique() ? params.erase(it) : std::next(it);
+    }
+}
+
+template <auto... Members>
+bool same(const ProcessRecord &before, const ProcessRecord &now)
+{
+    return ((before.*Members == now.*Members) && ...);
+}
+
+template <auto Member>
+ParamPtr makeInt(const ProcessRecord &record, SharedParams &)
+{
+    return ParamPtr(new IntProcessParam(record.*Member));
+}
+
+template <auto Member>
+ParamPtr makeSize(const ProcessRecord &record, SharedParams &)
+{
+    return ParamPtr(new SizeProcessParam(record.*Member));
+}
+
+ParamPtr makeName(const ProcessRecord &record, SharedParams &)
+{
+    return ParamPtr(new SimpleProcessParam(oneLine(record.name)));
+}
+
+ParamPtr makeCpu(const ProcessRecord &, SharedParams &)
+{
+    return ParamPtr(new CpuProcessParam);
+}
+
+bool neverSame(const ProcessRecord &, const ProcessRecord &)
+{
+    return false; // the process model writes into the value, so each snapshot has its own
+}
+
+ParamPtr makeUser(const ProcessRecord &record, SharedParams &shared)
+{
+    return shared.user(record.user);
+}
+
+ParamPtr makeState(const ProcessRecord &record, SharedParams &shared)
+{
+    return shared.state(record.state);
+}
+
+ParamPtr makeCpuTime(const ProcessRecord &record, SharedParams &)
+{
+    return ParamPtr(new CpuTimeProcessParam(record.cpuTime, record.frequency));
+}
+
+ParamPtr makeStarted(const ProcessRecord &record, SharedParams &)
+{
+    return ParamPtr(new StartedProcessParam(record.started));
+}
+
+ParamPtr makeCommandLine(const ProcessRecord &record, SharedParams &)
+{
+    return ParamPtr(new CommandLineProcessParam(record.arguments, record.name));
+}
+
+template <auto Member>
+constexpr Column intColumn(const char *name, unsigned reads)
+{
+    return {name, reads, makeInt<Member>, same<Member>};
+}
+
+template <auto Member>
+constexpr Column sizeColumn(const char *name)
+{
+    return {name, ReadMemory, makeSize<Member>, same<Member>};
+}
+
+using Record = ProcessRecord;
+
+const std::array<Column, ColumnCount> table = {{
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Name"), ReadState, makeName, same<&Record::name>},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU"), ReadTime, makeCpu, neverSame},
+    intColumn<&Record::pid>(QT_TRANSLATE_NOOP("ProcessFiller", "PID"), 0),
+    {QT_TRANSLATE_NOOP("ProcessFiller", "User"), ReadState, makeUser, same<&Record::user>},
+    sizeColumn<&Record::resident>(QT_TRANSLATE_NOOP("ProcessFiller", "Memory")),
+    {QT_TRANSLATE_NOOP("ProcessFiller", "State"), ReadState, makeState, same<&Record::state>},
+    sizeColumn<&Record::virtualSize>(QT_TRANSLATE_NOOP("ProcessFiller", "Virtual memory")),
+    sizeColumn<&Record::shared>(QT_TRANSLATE_NOOP("ProcessFiller", "Shared memory")),
+    intColumn<&Record::nice>(QT_TRANSLATE_NOOP("ProcessFiller", "Nice"), ReadUid),
+    intColumn<&Record::parent>(QT_TRANSLATE_NOOP("ProcessFiller", "Parent PID"), ReadUid),
+    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU time"), ReadTime, makeCpuTime,
+     same<&Record::cpuTime, &Record::frequency>},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Started"), ReadTime, makeStarted, same<&Record::started>},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Command line"), ReadArguments | ReadState, makeCommandLine,
+     same<&Record::arguments, &Record::name>},
+}};
+
+} // namespace
+
+ParamPtr SharedParams::user(int uid)
+{
+    ParamPtr &param = users[uid];
+    if (!param) {
+        param.reset(new SimpleProcessParam(userText(uid)));
+    }
+    return param;
+}
+
+ParamPtr SharedParams::state(int code)
+{
+    ParamPtr &param = states[code];
+    if (!param) {
+        param.reset(new IntProcessParam(code, stateText(code)));
+    }
+    return param;
+}
+
+void SharedParams::dropUnused()
+{
+    dropUnusedOf(users);
+    dropUnusedOf(states);
+}
+
+const std::array<Column, ColumnCount> &columns()
+{
+    return table;
+}
+
+} // namespace gtop_wrappers

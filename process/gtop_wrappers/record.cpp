@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/gtop_wrappers/record.h"
+
+#include "process/gtop_wrappers/oneline.h"
+
+#include <glib.h>
+#include <glibtop/proclist.h>
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <utility>
+
+namespace gtop_wrappers {
+
+namespace {
+
+/// Enough for the longest text of a cell, however its characters are encoded, and to see that there is more.
+constexpr unsigned argumentBytes = 4 * longestText + 1;
+
+constexpr guint64 flag(unsigned field)
+{
+    return guint64(1) << field;
+}
+
+constexpr guint64 stateFields =
+    flag(GLIBTOP_PROC_STATE_CMD) | flag(GLIBTOP_PROC_STATE_STATE) | flag(GLIBTOP_PROC_STATE_UID);
+constexpr guint64 uidFields =
+    flag(GLIBTOP_PROC_UID_UID) | flag(GLIBTOP_PROC_UID_PPID) | flag(GLIBTOP_PROC_UID_NICE);
+constexpr guint64 timeFields =
+    flag(GLIBTOP_PROC_TIME_START_TIME) | flag(GLIBTOP_PROC_TIME_UTIME) | flag(GLIBTOP_PROC_TIME_STIME);
+constexpr guint64 memoryFields =
+    flag(GLIBTOP_PROC_MEM_SIZE) | flag(GLIBTOP_PROC_MEM_RESIDENT) | flag(GLIBTOP_PROC_MEM_SHARE);
+constexpr guint64 argumentFields = flag(GLIBTOP_PROC_ARGS_SIZE);
+
+bool has(guint64 flags, guint64 fields)
+{
+    return (flags & fields) == fields;
+}
+
+bool complete(unsigned reads, const RawProcess &raw)
+{
+    return (!(reads & ReadState) || has(raw.state.flags, stateFields)) &&
+           (!(reads & ReadUid) || has(raw.uid.flags, uidFields)) &&
+           (!(reads & ReadTime) || has(raw.time.flags, timeFields)) &&
+           (!(reads & ReadMemory) || has(raw.memory.flags, memoryFields)) &&
+           (!(reads & ReadArguments) || has(raw.argumentsInfo.flags, argumentFields));
+}
+
+struct GFree
+{
+    void operator()(void *memory) const { g_free(memory); }
+};
+
+void readArguments(int pid, RawProcess &raw)
+{
+    raw.argumentsInfo = {};
+    const std::unique_ptr<char, GFree> bytes(glibtop_get_proc_args(&raw.argumentsInfo, pid, argumentBytes));
+    const auto size = std::min<guint64>(raw.argumentsInfo.size, argumentBytes);
+    raw.arguments = bytes ? QByteArray(bytes.get(), static_cast<int>(size)) : QByteArray();
+}
+
+} // namespace
+
+std::vector<int> readPids()
+{
+    glibtop_proclist info = {};
+    const std::unique_ptr<pid_t, GFree> list(glibtop_get_proclist(&info, GLIBTOP_KERN_PROC_ALL, 0));
+    std::vector<int> pids;
+    if (list) {
+        pids.assign(list.get(), list.get() + info.number);
+    }
+    std::sort(pids.begin(), pids.end());
+    pids.erase(std::unique(pids.begin(), pids.end()), pids.end());
+    pids.erase(pids.begin(), std::upper_bound(pids.begin(), pids.end(), 0));
+    return pids;
+}
+
+void readRaw(int pid, unsigned reads, RawProcess &raw)
+{
+    if (reads & ReadState) {
+        glibtop_get_proc_state(&raw.state, pid);
+    }
+    if (reads & ReadUid) {
+        glibtop_get_proc_uid(&raw.uid, pid);
+    }
+    if (reads & ReadTime) {
+        glibtop_get_proc_time(&raw.time, pid);
+    }
+    if (reads & ReadMemory) {
+        glibtop_get_proc_mem(&raw.memory, pid);
+    }
+    if (reads & ReadArguments) {
+        readArguments(pid, raw);
+    }
+}
+
+bool reduce(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &record)
+{
+    if (!complete(reads, raw)) {
+        return false;
+    }
+    record = ProcessRecord();
+    record.pid = pid;
+    if (reads & ReadState) {
+        record.name =
+            QByteArray(raw.state.cmd, static_cast<int>(strnlen(raw.state.cmd, sizeof raw.state.cmd)));
+        record.state = static_cast<int>(raw.state.state);
+        record.user = raw.state.uid;
+    }
+    if (reads & ReadUid) {
+        record.realUser = raw.uid.uid;
+        record.parent = raw.uid.ppid;
+        record.nice = raw.uid.nice;
+    }
+    if (reads & ReadTime) {
+        record.cpuTime = raw.time.utime + raw.time.stime;
+        record.frequency = raw.time.frequency;
+        record.started = raw.time.start_time;
+    }
+    if (reads & ReadMemory) {
+        record.resident = raw.memory.resident;
+        record.virtualSize = raw.memory.size; // libgtop's flags promise this one, not its twin vsize
+        record.shared = raw.memory.share;
+    }
+    if (reads & ReadArguments) {
+        record.arguments = raw.arguments;
+    }
+    return true;
+}
+
+std::vector<ProcessRecord> readProcesses(std::optional<uid_t> realUser, unsigned reads)
+{
+    std::vector<ProcessRecord> records;
+    RawProcess raw;
+    ProcessRecord record;
+    for (const int pid : readPids()) {
+        unsigned left = reads;
+        if (realUser) {
+            readRaw(pid, ReadUid, raw);
+            if (static_cast<uid_t>(raw.uid.uid) != *realUser) {
+                continue;
+            }
+            left &= ~ReadUid;
+        }
+        readRaw(pid, left, raw);
+        if (reduce(pid, reads, raw, record)) {
+            records.push_back(std::move(record));
+        }
+    }
+    return records;
+}
+
+} // namespace gtop_wrappers

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/procitem.h"
+
+#include <algorithm>
+
+ProcItem::ProcItem(const QList<QVariant> &data, ProcItem *parent)
+    : itemData(data), parentItem(parent), itemProcess(-1), previousCpu(0), cpuPercent(0.0), updated(false)
+{}
+
+ProcItem::~ProcItem()
+{
+    leaveParent();
+    for (ProcItem *child : children) {
+        child->parentItem = nullptr;
+    }
+}
+
+ProcItem *ProcItem::child(int row) const
+{
+    return row >= 0 && row < childCount() ? children[static_cast<std::size_t>(row)] : nullptr;
+}
+
+int ProcItem::row() const
+{
+    if (!parentItem) {
+        return 0;
+    }
+    const std::vector<ProcItem *> &siblings = parentItem->children;
+    return static_cast<int>(std::find(siblings.begin(), siblings.end(), this) - siblings.begin());
+}
+
+bool ProcItem::hangsUnder(const ProcItem *ancestor) const
+{
+    const ProcItem *item = parentItem;
+    while (item && item != ancestor) {
+        item = item->parentItem;
+    }
+    return item != nullptr;
+}
+
+void ProcItem::leaveParent()
+{
+    if (!parentItem) {
+        return;
+    }
+    std::vector<ProcItem *> &siblings = parentItem->children;
+    const auto self = std::find(siblings.begin(), siblings.end(), this);
+    if (self != siblings.end()) {
+        siblings.erase(self);
+    }
+    parentItem = nullptr;
+}
+
+void ProcItem::forgetRelatives()
+{
+    children.clear();
+    parentItem = nullptr;
+}
+
+bool ProcItem::update(const gtop_wrappers::Process &fresh, quint64 totalDelta)
+{
+    if (updated) {
+        return false;
+    }
+    cpuPercent = takeCpuShare(fresh.getCpuLoad(), totalDelta);
+    const gtop_wrappers::ParamPtr load = fresh.getParam(1);
+    if (auto *const cpu = dynamic_cast<gtop_wrappers::CpuProcessParam *>(load.get())) {
+        cpu->setDisplayValue(QString::number(cpuPercent, 'f', 1) + QStringLiteral(" %"));
+        cpu->setPercent(cpuPercent);
+    }
+    itemProcess.id = fresh.id;
+    itemProcess.params = fresh.params;
+    updated = true;
+    return true;
+}
+
+/// The share in percent that `counter` has grown by since the last update. Not guarded against a total of
+/// 0: that gives an infinity or NaN, and shows so. A counter that fell wraps to a huge share.
+double ProcItem::takeCpuShare(int counter, quint64 totalDelta)
+{
+    if (previousCpu == 0) {
+        // The first share is meant to be one unit, not 0; and since 0 stands for "none yet", a process whose
+        // counter stays 0 is meant to come here on every refresh.
+        previousCpu = static_cast<int>(static_cast<unsigned int>(counter) - 1U);
+    }
+    const qint64 current = counter;
+    const quint64 delta = static_cast<quint64>(current) - static_cast<quint64>(previousCpu);
+    previousCpu = current;
+    return 100.0 * static_cast<double>(delta) / static_cast<double>(totalDelta);
+}

@@ -1,0 +1,371 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/procmodel.h"
+
+#include "process/gtop_wrappers/filler.h"
+
+#include <QMessageBox>
+
+#include <signal.h>
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <unordered_set>
+
+using gtop_wrappers::Process;
+using gtop_wrappers::ProcessFiller;
+
+namespace {
+
+const unsigned long firstHiddenColumn = 6;
+const unsigned long lastHiddenColumn = 9;
+
+/// A pid that was taken by another program, or a process that got another parent, is not the same.
+bool isSameProcess(const Process &known, const Process &fresh)
+{
+    return known.getPPid() == fresh.getPPid() && known.getName() == fresh.getName();
+}
+
+void showError(const QString &whatFailed, int error)
+{
+    QMessageBox::warning(nullptr, ProcModel::tr("Error"),
+                         whatFailed + QString::fromLocal8Bit(strerror(error)), QMessageBox::Ok);
+}
+
+/// Runs a system call on one process and returns its errno, 0 for success. A pid of 0 or below would mean
+/// a group, or everyone, and is answered as "no such process".
+template <typename Call>
+int onProcess(int pid, Call call)
+{
+    if (pid <= 0) {
+        return ESRCH;
+    }
+    return call() == -1 ? errno : 0;
+}
+
+} // namespace
+
+ProcModel::ProcModel(QObject *parent)
+    : QAbstractItemModel(parent), root(new ProcItem(QList<QVariant>(), nullptr)), flat(true),
+      columnVisibility(ProcessFiller::instance()->size(), true)
+{
+    const unsigned long end = std::min<unsigned long>(lastHiddenColumn + 1, columnVisibility.size());
+    for (unsigned long i = firstHiddenColumn; i < end; ++i) {
+        columnVisibility[i] = false;
+    }
+    rebuildVisibleColumns();
+}
+
+ProcModel::~ProcModel()
+{
+    destroyItems();
+}
+
+QModelIndex ProcModel::index(int row, int column, const QModelIndex &parent) const
+{
+    const ProcItem *const above = itemOf(parent);
+    const ProcItem *const item = above ? above->child(row) : nullptr;
+    if (!item || column < 0 || column >= columnCount()) {
+        return QModelIndex();
+    }
+    return createIndex(row, column, static_cast<quintptr>(item->pid()));
+}
+
+QModelIndex ProcModel::parent(const QModelIndex &index) const
+{
+    const ProcItem *const item = index.isValid() ? itemOf(index) : nullptr;
+    return item ? indexOf(item->parent()) : QModelIndex();
+}
+
+/// The parent's column is not looked at, on purpose: every cell of a row has the row's children.
+int ProcModel::rowCount(const QModelIndex &parent) const
+{
+    const ProcItem *const item = itemOf(parent);
+    return item ? item->childCount() : 0;
+}
+
+int ProcModel::columnCount(const QModelIndex &) const
+{
+    return static_cast<int>(visibleColumns.size());
+}
+
+QVariant ProcModel::data(const QModelIndex &index, int role) const
+{
+    if ((role != Qt::DisplayRole && role != Qt::UserRole) || !index.isValid() ||
+        index.column() >= columnCount()) {
+        return QVariant();
+    }
+    const ProcItem *const item = itemOf(index);
+    if (!item) {
+        return QVariant();
+    }
+    const unsigned long column = visibleColumns[static_cast<std::size_t>(index.column())];
+    const gtop_wrappers::ParamPtr param = item->process().getParam(column);
+    if (!param) {
+        return QVariant();
+    }
+    return role == Qt::DisplayRole ? param->displayValue() : param->sortValue();
+}
+
+QVariant ProcModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    static const ProcessFiller *const filler = ProcessFiller::instance();
+    if (role != Qt::DisplayRole || orientation != Qt::Horizontal || section < 0 || section >= columnCount()) {
+        return QAbstractItemModel::headerData(section, orientation, role);
+    }
+    return filler->title(visibleColumns[static_cast<std::size_t>(section)]);
+}
+
+Qt::ItemFlags ProcModel::flags(const QModelIndex &index) const
+{
+    return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled : Qt::NoItemFlags;
+}
+
+void ProcModel::setFlat(bool on)
+{
+    if (on == flat) {
+        return;
+    }
+    clear();
+    flat = on;
+}
+
+bool ProcModel::isColumnVisible(unsigned long i) const
+{
+    return columnVisibility.at(i);
+}
+
+void ProcModel::setColumnVisible(unsigned long i, bool on)
+{
+    columnVisibility.at(i) = on;
+    rebuildVisibleColumns();
+}
+
+void ProcModel::clear()
+{
+    beginResetModel();
+    destroyItems();
+    endResetModel();
+}
+
+void ProcModel::update(const Snapshot &snapshot, unsigned long totalDelta, int)
+{
+    // The order of the signals matters to proxy and view: rows of processes that are not the same any more
+    // go before the layout change is announced, and nothing comes or goes between its two signals.
+    const Matches matches = match(snapshot);
+    Q_EMIT layoutAboutToBeChanged();
+    updateKnown(matches.known, totalDelta);
+    Q_EMIT layoutChanged(); // stands for dataChanged() too: makes proxy and view read everything again
+
+    for (const Process *const process : matches.fresh) {
+        insertWithAncestors(*process, snapshot, totalDelta);
+    }
+    // A process that was removed and inserted again above is still stale: it is meant to go, and to come
+    // back with the next refresh.
+    for (const int pid : matches.stale) {
+        if (ProcItem *const item = itemByPid(pid)) {
+            removeSubtree(item);
+        }
+    }
+}
+
+void ProcModel::sendSignal(int pid, int signal)
+{
+    if (const int error = onProcess(pid, [&] { return kill(pid, signal); })) {
+        showError(tr("Unable send signal to process. Reason - "), error);
+    }
+}
+
+void ProcModel::setPriority(int pid, int priority)
+{
+    const auto call = [&] { return setpriority(PRIO_PROCESS, static_cast<id_t>(pid), priority); };
+    if (const int error = onProcess(pid, call)) {
+        showError(tr("Unable change priority. Reason - "), error);
+    }
+}
+
+Process ProcModel::processByPid(int pid) const
+{
+    const auto found = items.find(pid);
+    if (found == items.end()) {
+        return Process(-1);
+    }
+    // A guard that is meant to be fatal: rather no program than an action on the wrong process.
+    const ItemPtr &item = found->second;
+    if (std::none_of(items.begin(), items.end(), [&](const auto &entry) { return entry.second == item; })) {
+        std::exit(-1);
+    }
+    return item->process();
+}
+
+Process ProcModel::processAt(const QModelIndex &index) const
+{
+    return index.isValid() ? processByPid(static_cast<int>(index.internalId())) : Process(-1);
+}
+
+/// The root for an invalid index; null for a process that is gone.
+ProcItem *ProcModel::itemOf(const QModelIndex &index) const
+{
+    return index.isValid() ? itemByPid(static_cast<int>(index.internalId())) : root.get();
+}
+
+ProcItem *ProcModel::itemByPid(int pid) const
+{
+    const auto found = items.find(pid);
+    return found != items.end() ? found->second.get() : nullptr;
+}
+
+/// Index of the item's first cell; invalid for the root and for null.
+QModelIndex ProcModel::indexOf(const ProcItem *item) const
+{
+    if (!item || item == root.get()) {
+        return QModelIndex();
+    }
+    return createIndex(item->row(), 0, static_cast<quintptr>(item->pid()));
+}
+
+/// Sorts the snapshot into known and new processes, and removes the items whose pid now means another.
+ProcModel::Matches ProcModel::match(const Snapshot &snapshot)
+{
+    std::vector<int> before;
+    before.reserve(items.size());
+    for (const auto &entry : items) {
+        before.push_back(entry.first);
+        entry.second->startPass();
+    }
+
+    Matches matches;
+    matches.known.reserve(snapshot.size());
+    std::vector<int> knownPids;
+    knownPids.reserve(snapshot.size());
+    for (const auto &entry : snapshot) {
+        ProcItem *const item = itemByPid(entry.first);
+        if (item && isSameProcess(item->process(), entry.second)) {
+            matches.known.push_back(&entry.second);
+            knownPids.push_back(entry.first);
+            continue;
+        }
+        if (item) {
+            removeSubtree(item);
+        }
+        matches.fresh.push_back(&entry.second);
+    }
+    std::set_difference(before.begin(), before.end(), knownPids.begin(), knownPids.end(),
+                        std::back_inserter(matches.stale));
+    return matches;
+}
+
+void ProcModel::updateKnown(const ProcessList &known, quint64 totalDelta)
+{
+    for (const Process *const process : known) {
+        // It may have gone with a removed ancestor; it then comes back with the next refresh.
+        if (ProcItem *const item = itemByPid(process->pid())) {
+            item->update(*process, totalDelta);
+        }
+    }
+}
+
+/// The process and its ancestors in the snapshot, from the process upward. Parents can form a ring: one
+/// that is already in the line counts as not in the snapshot.
+ProcModel::ProcessList ProcModel::lineage(const Process &process, const Snapshot &snapshot) const
+{
+    ProcessList line{&process};
+    std::unordered_set<int> pids{process.pid()};
+    auto above = snapshot.find(process.getPPid());
+    while (above != snapshot.end() && pids.insert(above->first).second) {
+        line.push_back(&above->second);
+        above = snapshot.find(above->second.getPPid());
+    }
+    return line;
+}
+
+/// In tree mode every ancestor is made anew, whether it has an item or not: meant so. The item that an
+/// ancestor had before goes, and the children that hung under it stay in the model without a parent.
+void ProcModel::insertWithAncestors(const Process &process, const Snapshot &snapshot, quint64 totalDelta)
+{
+    const ProcessList line = flat ? ProcessList{&process} : lineage(process, snapshot);
+    ProcItem *parent = root.get();
+    for (auto it = line.rbegin(); it != line.rend(); ++it) {
+        parent = insert(**it, parent, totalDelta);
+    }
+}
+
+ProcItem *ProcModel::insert(const Process &process, ProcItem *parent, quint64 totalDelta)
+{
+    if (ProcItem *const replaced = itemByPid(process.pid())) {
+        detach(replaced);
+    }
+    const int row = parent->childCount();
+    beginInsertRows(indexOf(parent), row, row);
+    const ItemPtr item(new ProcItem(QList<QVariant>(), parent));
+    item->update(process, totalDelta);
+    items[process.pid()] = item;
+    parent->append(item.get());
+    endInsertRows();
+    return item.get();
+}
+
+/// Takes an item that is about to be replaced out of the rows, with the signals that views need.
+void ProcModel::detach(ProcItem *item)
+{
+    if (!item->hangsUnder(root.get())) {
+        return;
+    }
+    const int row = item->row();
+    beginRemoveRows(indexOf(item->parent()), row, row);
+    item->leaveParent();
+    endRemoveRows();
+}
+
+/// Removes the item with all below it, last child first. Loops instead of recursing: a chain of parents can
+/// be as long as the process table. No signals for what no view can see.
+void ProcModel::removeSubtree(ProcItem *top)
+{
+    const bool shown = top->hangsUnder(root.get());
+    ProcItem *item = top;
+    bool done = false;
+    while (!done) {
+        while (item->childCount() > 0) {
+            item = item->child(item->childCount() - 1);
+        }
+        done = item == top;
+        ProcItem *const above = item->parent();
+        removeChildless(item, shown);
+        item = above;
+    }
+}
+
+void ProcModel::removeChildless(ProcItem *item, bool shown)
+{
+    const int row = item->row();
+    if (shown) {
+        beginRemoveRows(indexOf(item->parent()), row, row);
+    }
+    item->leaveParent();
+    items.erase(item->pid());
+    if (shown) {
+        endRemoveRows();
+    }
+}
+
+/// Relatives first: items that leave one another one by one would cost the square of their number.
+void ProcModel::destroyItems()
+{
+    root->forgetRelatives();
+    for (const auto &entry : items) {
+        entry.second->forgetRelatives();
+    }
+    items.clear();
+}
+
+void ProcModel::rebuildVisibleColumns()
+{
+    visibleColumns.clear();
+    for (unsigned long i = 0; i < columnVisibility.size(); ++i) {
+        if (columnVisibility[i]) {
+            visibleColumns.push_back(i);
+        }
+    }
+}

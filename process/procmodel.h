@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef PROCESS_PROCMODEL_H
+#define PROCESS_PROCMODEL_H
+
+#include "process/gtop_wrappers/process.h"
+#include "process/procitem.h"
+
+#include <QAbstractItemModel>
+
+#include <map>
+#include <tr1/memory>
+#include <vector>
+
+/// The processes as a tree by parent pid or as a flat list, brought up to date from snapshots.
+///
+/// An index carries its process's pid as internal id and finds its item through the map, so an index that
+/// outlived its item is harmless.
+class ProcModel : public QAbstractItemModel
+{
+    Q_OBJECT
+public:
+    using Snapshot = std::map<int, gtop_wrappers::Process>;
+
+    explicit ProcModel(QObject *parent = nullptr);
+    ~ProcModel() override;
+
+    /// Invalid outside the rows and visible columns.
+    QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const override;
+    QModelIndex parent(const QModelIndex &index) const override;
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex &parent = QModelIndex()) const override;
+    /// Qt::DisplayRole: what the cell shows; Qt::UserRole: what it is sorted by.
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+    bool isFlat() const { return flat; }
+    /// A change of mode empties the model.
+    void setFlat(bool on);
+
+    /// Throws std::out_of_range past the last process column.
+    bool isColumnVisible(unsigned long i) const;
+    /// Throws std::out_of_range past the last process column. Sends no signal: the caller resets.
+    void setColumnVisible(unsigned long i, bool on);
+
+    void clear();
+    /// Brings the model to the snapshot. `totalDelta`: CPU time of the machine since the last refresh, in the
+    /// unit of Process::getCpuLoad(). The third argument is unused.
+    void update(const Snapshot &snapshot, unsigned long totalDelta, int = 0);
+
+    /// kill(2); a failure is shown in a warning box. A pid of 0 or below is never handed on.
+    void sendSignal(int pid, int signal);
+    /// setpriority(2) on one process, nice value -20 to 19; a failure is shown in a warning box. A pid of 0
+    /// or below is never handed on.
+    void setPriority(int pid, int priority);
+
+    /// A copy of the process; Process(-1) if the model does not have it.
+    gtop_wrappers::Process processByPid(int pid) const;
+    gtop_wrappers::Process processAt(const QModelIndex &index) const;
+
+private:
+    using ItemPtr = std::tr1::shared_ptr<ProcItem>;
+    using ProcessList = std::vector<const gtop_wrappers::Process *>;
+
+    /// What became of a snapshot when it was held against the items.
+    struct Matches
+    {
+        ProcessList known;      ///< to be updated
+        ProcessList fresh;      ///< to be inserted
+        std::vector<int> stale; ///< pids to be removed in the end, ascending
+    };
+
+    ProcItem *itemOf(const QModelIndex &index) const;
+    ProcItem *itemByPid(int pid) const;
+    QModelIndex indexOf(const ProcItem *item) const;
+
+    Matches match(const Snapshot &snapshot);
+    void updateKnown(const ProcessList &known, quint64 totalDelta);
+    ProcessList lineage(const gtop_wrappers::Process &process, const Snapshot &snapshot) const;
+    void insertWithAncestors(const gtop_wrappers::Process &process, const Snapshot &snapshot,
+                             quint64 totalDelta);
+    ProcItem *insert(const gtop_wrappers::Process &process, ProcItem *parent, quint64 totalDelta);
+    void detach(ProcItem *item);
+    void removeSubtree(ProcItem *top);
+    void removeChildless(ProcItem *item, bool shown);
+    void destroyItems();
+    void rebuildVisibleColumns();
+
+    ItemPtr root;
+    std::map<int, ItemPtr> items;
+    bool flat;
+    std::vector<bool> columnVisibility;
+    std::vector<unsigned long> visibleColumns;
+};
+
+#endif

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/process/support/world.h"
+
+World::World(unsigned int seed, int processes)
+    : random(seed), wanted(processes), lastPid(0), execs(0), delta(1)
+{
+    while (static_cast<int>(alive.size()) < wanted) {
+        fork();
+    }
+}
+
+int World::pick(int end)
+{
+    return static_cast<int>(random() % static_cast<unsigned int>(end));
+}
+
+void World::step()
+{
+    using Event = void (World::*)();
+    static const Event events[] = {&World::fork,        &World::exit,     &World::exec,
+                                   &World::takeOverPid, &World::reparent, &World::makeRing};
+    for (int i = pick(12); i > 0; --i) {
+        (this->*events[pick(6)])();
+    }
+    while (static_cast<int>(alive.size()) < wanted - wanted / 10) {
+        fork();
+    }
+    while (static_cast<int>(alive.size()) > wanted + wanted / 10) {
+        exit();
+    }
+    burnCpu();
+}
+
+int World::anyPid()
+{
+    auto found = alive.lower_bound(pick(lastPid + 1));
+    return found != alive.end() ? found->first : alive.begin()->first;
+}
+
+void World::fork()
+{
+    Facts child;
+    child.pid = lastPid += 1 + pick(3);
+    child.ppid = alive.empty() || pick(10) == 0 ? 0 : anyPid();
+    child.name = QStringLiteral("process %1").arg(pick(50));
+    child.cpuCounter = pick(4) == 0 ? 0 : pick(100000);
+    alive[child.pid] = child;
+}
+
+void World::exit()
+{
+    if (alive.size() < 2) {
+        return;
+    }
+    const int pid = anyPid();
+    alive.erase(pid);
+    const int heir = pick(2) == 0 ? 0 : alive.begin()->first;
+    for (auto &entry : alive) {
+        if (entry.second.ppid == pid &&
+            pick(4) != 0) { // sometimes read before the kernel gave it a new parent
+            entry.second.ppid = heir;
+        }
+    }
+}
+
+void World::exec()
+{
+    alive.at(anyPid()).name = QStringLiteral("exec %1").arg(++execs);
+}
+
+void World::takeOverPid()
+{
+    Facts &taken = alive.at(anyPid());
+    taken.ppid = pick(3) == 0 ? taken.ppid : anyPid();
+    taken.name = QStringLiteral("taken over %1").arg(++execs);
+    taken.cpuCounter = pick(3);
+}
+
+void World::reparent()
+{
+    alive.at(anyPid()).ppid = pick(5) == 0 ? 0 : anyPid();
+}
+
+void World::makeRing()
+{
+    const int first = anyPid();
+    const int second = anyPid(); // the same one is its own parent
+    alive.at(first).ppid = second;
+    alive.at(second).ppid = first;
+}
+
+void World::burnCpu()
+{
+    delta = 200 + static_cast<unsigned long>(pick(800));
+    for (auto &entry : alive) {
+        if (pick(3) == 0) {
+            entry.second.cpuCounter += pick(50) - pick(5); // a counter that falls now and then
+        }
+    }
+}

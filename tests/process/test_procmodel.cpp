@@ -1,0 +1,419 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/gtop_wrappers/filler.h"
+#include "process/procmodel.h"
+#include "tests/process/support/synthetic.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <limits>
+#include <stdexcept>
+
+using namespace gtop_wrappers;
+
+namespace {
+
+const int cpuColumn = 1;
+
+/// Lets a test make indexes of its own, as a view keeps stale ones.
+class OpenModel : public ProcModel
+{
+public:
+    using ProcModel::createIndex;
+};
+
+ProcModel::Snapshot oneProcess(int cpuCounter)
+{
+    Facts facts;
+    facts.pid = 7;
+    facts.name = QStringLiteral("seven");
+    facts.cpuCounter = cpuCounter;
+    return makeSnapshot({{7, facts}});
+}
+
+QString cpuText(const ProcModel &model)
+{
+    return model.index(0, cpuColumn).data().toString();
+}
+
+double cpuLoad(const ProcModel &model)
+{
+    return model.index(0, cpuColumn).data(Qt::UserRole).toDouble();
+}
+
+} // namespace
+
+class TestProcModel : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void startsEmptyFlatAndWithColumns6To9Hidden();
+    void viewColumn6ShowsProcessColumn10();
+    void aHiddenColumnComesBackInItsPlace();
+    void aColumnPastTheEndThrows();
+    void headersAreTheTitlesOfTheVisibleColumns();
+    void headersOutsideTheColumnsAreTheToolkitsOwn();
+    void displayAndSortValuesAreTheParametersOwn();
+    void otherRolesAndMissingParametersGiveNothing();
+    void indexChecksItsBounds();
+    void anIndexCarriesThePid();
+    void everyColumnOfAParentHasItsRows();
+    void itemsAreSelectableAndEnabledOnly();
+    void aStaleIndexIsHarmless();
+    void processAtAndProcessByPidCopyTheProcess();
+
+    void firstLoadIsOneUnitAndTheSecondTheRealShare();
+    void aCounterOfZeroShowsOneUnitEveryTime();
+    void loadIsShownWithOneDecimal();
+    void aCounterThatFellWrapsAndTheNextShareIsRight();
+    void countersAtTheEndsOfTheirRangeAreTaken();
+    void aTotalOfZeroShowsInfAndNan();
+    void aLoadThatIsNoNumberHasASortValueThatIsOne();
+    void aProcessWithoutCpuParameterIsTaken();
+
+    void setFlatClearsOnlyOnAChange();
+    void clearEmptiesWithOneReset();
+    void aChangedNameLeavesForOneRefresh();
+    void aChangedParentLeavesForOneRefresh();
+    void aVanishedProcessLeaves();
+    void newProcessesAreAppendedInAscendingPidOrder();
+};
+
+void TestProcModel::startsEmptyFlatAndWithColumns6To9Hidden()
+{
+    const ProcModel model;
+    QVERIFY(model.isFlat());
+    QCOMPARE(model.rowCount(), 0);
+    const unsigned long size = ProcessFiller::instance()->size();
+    QCOMPARE(model.columnCount(), static_cast<int>(size) - 4);
+    for (unsigned long i = 0; i < size; ++i) {
+        QCOMPARE(model.isColumnVisible(i), i < 6 || i > 9);
+    }
+}
+
+void TestProcModel::viewColumn6ShowsProcessColumn10()
+{
+    ProcModel model;
+    model.update(oneProcess(4711), 1);
+    QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), ProcessFiller::instance()->title(10));
+    const Process process = model.processByPid(7);
+    QCOMPARE(model.index(0, 6).data(Qt::UserRole), process.getParam(10)->sortValue());
+}
+
+void TestProcModel::aHiddenColumnComesBackInItsPlace()
+{
+    ProcModel model;
+    model.update(oneProcess(1), 1);
+    model.setColumnVisible(0, false);
+    QVERIFY(!model.isColumnVisible(0));
+    QCOMPARE(model.columnCount(), static_cast<int>(ProcessFiller::instance()->size()) - 5);
+    QCOMPARE(model.index(0, 1).data().toInt(), 7); // the pid moved up
+    model.setColumnVisible(0, true);
+    QCOMPARE(model.index(0, 0).data().toString(), QStringLiteral("seven"));
+    model.setColumnVisible(8, true);
+    QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), ProcessFiller::instance()->title(8));
+}
+
+void TestProcModel::aColumnPastTheEndThrows()
+{
+    ProcModel model;
+    const unsigned long size = ProcessFiller::instance()->size();
+    QVERIFY_EXCEPTION_THROWN(model.isColumnVisible(size), std::out_of_range);
+    QVERIFY_EXCEPTION_THROWN(model.isColumnVisible(std::numeric_limits<unsigned long>::max()),
+                             std::out_of_range);
+    QVERIFY_EXCEPTION_THROWN(model.setColumnVisible(size, true), std::out_of_range);
+}
+
+void TestProcModel::headersAreTheTitlesOfTheVisibleColumns()
+{
+    const ProcModel model;
+    int section = 0;
+    for (unsigned long i = 0; i < ProcessFiller::instance()->size(); ++i) {
+        if (model.isColumnVisible(i)) {
+            QCOMPARE(model.headerData(section++, Qt::Horizontal).toString(),
+                     ProcessFiller::instance()->title(i));
+        }
+    }
+    QCOMPARE(section, model.columnCount());
+}
+
+void TestProcModel::headersOutsideTheColumnsAreTheToolkitsOwn()
+{
+    const ProcModel model;
+    QCOMPARE(model.headerData(-1, Qt::Horizontal), QVariant(0));
+    QCOMPARE(model.headerData(model.columnCount(), Qt::Horizontal), QVariant(model.columnCount() + 1));
+    QCOMPARE(model.headerData(0, Qt::Vertical), QVariant(1));
+    QCOMPARE(model.headerData(0, Qt::Horizontal, Qt::DecorationRole), QVariant());
+}
+
+void TestProcModel::displayAndSortValuesAreTheParametersOwn()
+{
+    ProcModel model;
+    Facts facts;
+    facts.pid = 12;
+    facts.name = QStringLiteral("twelve");
+    facts.state = 16;
+    model.update(makeSnapshot({{12, facts}}), 1);
+    QCOMPARE(model.index(0, 0).data(), QVariant(QStringLiteral("twelve")));
+    QCOMPARE(model.index(0, 2).data(Qt::UserRole), QVariant(12));
+    QCOMPARE(model.index(0, 5).data(), QVariant(QStringLiteral("state")));
+    QCOMPARE(model.index(0, 5).data(Qt::UserRole), QVariant(16));
+}
+
+void TestProcModel::otherRolesAndMissingParametersGiveNothing()
+{
+    ProcModel model;
+    model.update(oneProcess(1), 1);
+    for (const int role :
+         {int(Qt::DecorationRole), int(Qt::EditRole), int(Qt::ToolTipRole), int(Qt::UserRole) + 1}) {
+        QVERIFY(!model.index(0, 0).data(role).isValid());
+    }
+    QVERIFY(!model.index(0, 3).data().isValid()); // a synthetic process has no user
+    QVERIFY(!model.index(0, 3).data(Qt::UserRole).isValid());
+    QVERIFY(!model.data(QModelIndex()).isValid());
+}
+
+void TestProcModel::indexChecksItsBounds()
+{
+    ProcModel model;
+    model.update(oneProcess(1), 1);
+    QVERIFY(model.index(0, 0).isValid());
+    QVERIFY(model.index(0, model.columnCount() - 1).isValid());
+    QVERIFY(!model.index(-1, 0).isValid());
+    QVERIFY(!model.index(1, 0).isValid());
+    QVERIFY(!model.index(0, -1).isValid());
+    QVERIFY(!model.index(0, model.columnCount()).isValid());
+    QVERIFY(!model.index(0, 0, model.index(0, 0)).isValid());
+    QVERIFY(!model.parent(QModelIndex()).isValid());
+}
+
+void TestProcModel::anIndexCarriesThePid()
+{
+    ProcModel model;
+    model.update(oneProcess(1), 1);
+    QCOMPARE(model.index(0, 3).internalId(), quintptr(7));
+    QVERIFY(!model.index(0, 3).parent().isValid());
+}
+
+void TestProcModel::everyColumnOfAParentHasItsRows()
+{
+    ProcModel model;
+    model.setFlat(false);
+    model.update(makeSnapshot({{1, 0}, {2, 1}}), 1);
+    QCOMPARE(model.rowCount(model.index(0, 0)), 1);
+    QCOMPARE(model.rowCount(model.index(0, 4)), 1);
+    QCOMPARE(model.index(0, 3, model.index(0, 4)).internalId(), quintptr(2));
+    QCOMPARE(model.index(0, 3, model.index(0, 0)).parent(), model.index(0, 0));
+}
+
+void TestProcModel::itemsAreSelectableAndEnabledOnly()
+{
+    ProcModel model;
+    model.update(oneProcess(1), 1);
+    QCOMPARE(static_cast<int>(model.flags(model.index(0, 0))), 33);
+    QCOMPARE(static_cast<int>(model.flags(QModelIndex())), 0);
+}
+
+void TestProcModel::aStaleIndexIsHarmless()
+{
+    OpenModel model;
+    model.update(oneProcess(1), 1);
+    const QModelIndex gone = model.createIndex(0, 0, quintptr(4711));
+    QVERIFY(!model.data(gone).isValid());
+    QCOMPARE(model.rowCount(gone), 0);
+    QVERIFY(!model.parent(gone).isValid());
+    QVERIFY(!model.index(0, 0, gone).isValid());
+    QCOMPARE(model.processAt(gone).pid(), -1);
+    QVERIFY(!model.data(model.createIndex(0, 4711, quintptr(7))).isValid()); // a column that was hidden since
+}
+
+void TestProcModel::processAtAndProcessByPidCopyTheProcess()
+{
+    ProcModel model;
+    model.update(oneProcess(1), 1);
+    QCOMPARE(model.processByPid(7).getName(), QStringLiteral("seven"));
+    QCOMPARE(model.processByPid(8).pid(), -1);
+    QCOMPARE(model.processByPid(-1).pid(), -1);
+    QCOMPARE(model.processAt(model.index(0, 2)).pid(), 7);
+    QCOMPARE(model.processAt(QModelIndex()).pid(), -1);
+    const Process kept = model.processByPid(7);
+    model.clear();
+    QCOMPARE(kept.getName(), QStringLiteral("seven"));
+}
+
+void TestProcModel::firstLoadIsOneUnitAndTheSecondTheRealShare()
+{
+    ProcModel model;
+    model.update(oneProcess(5000), 400);
+    QCOMPARE(cpuLoad(model), 0.25); // 100.0 / 400
+    model.update(oneProcess(5050), 400);
+    QCOMPARE(cpuLoad(model), 12.5);
+    QCOMPARE(cpuText(model), QStringLiteral("12.5 %"));
+    model.update(oneProcess(5050), 400);
+    QCOMPARE(cpuText(model), QStringLiteral("0.0 %"));
+}
+
+void TestProcModel::aCounterOfZeroShowsOneUnitEveryTime()
+{
+    ProcModel model;
+    for (int i = 0; i < 3; ++i) {
+        model.update(oneProcess(0), 1000);
+        QCOMPARE(cpuLoad(model), 0.1);
+    }
+    model.update(oneProcess(10), 1000);
+    QCOMPARE(cpuLoad(model), 0.1); // still no previous value: one unit, not ten
+    model.update(oneProcess(20), 1000);
+    QCOMPARE(cpuLoad(model), 1.0);
+}
+
+void TestProcModel::loadIsShownWithOneDecimal()
+{
+    ProcModel model;
+    model.update(oneProcess(100), 3000);
+    QCOMPARE(cpuText(model), QStringLiteral("0.0 %"));
+    model.update(oneProcess(1100), 3000);
+    QCOMPARE(cpuText(model), QStringLiteral("33.3 %"));
+    model.update(oneProcess(4100), 3000);
+    QCOMPARE(cpuText(model), QStringLiteral("100.0 %"));
+}
+
+void TestProcModel::aCounterThatFellWrapsAndTheNextShareIsRight()
+{
+    ProcModel model;
+    model.update(oneProcess(1000), 100);
+    model.update(oneProcess(990), 100); // an unsigned difference of 2^64 - 10
+    QCOMPARE(cpuLoad(model), 18446744073709551606.0);
+    model.update(oneProcess(1000), 100);
+    QCOMPARE(cpuLoad(model), 10.0);
+}
+
+void TestProcModel::countersAtTheEndsOfTheirRangeAreTaken()
+{
+    ProcModel model;
+    model.update(oneProcess(std::numeric_limits<int>::max()), 100);
+    QCOMPARE(cpuLoad(model), 1.0);
+    model.update(oneProcess(std::numeric_limits<int>::min()), 100);
+    QCOMPARE(cpuLoad(model), 18446744069414584321.0);
+    model.clear();
+    // The lowest counter less one is the highest as a 32-bit value: a huge first load.
+    model.update(oneProcess(std::numeric_limits<int>::min()), 100);
+    QCOMPARE(cpuLoad(model), 18446744069414584321.0);
+    model.update(oneProcess(std::numeric_limits<int>::min() + 1), std::numeric_limits<unsigned long>::max());
+    QVERIFY(cpuLoad(model) < 1e-15);
+}
+
+void TestProcModel::aTotalOfZeroShowsInfAndNan()
+{
+    ProcModel model;
+    model.update(oneProcess(100), 0);
+    QCOMPARE(cpuText(model), QStringLiteral("inf %"));
+    model.update(oneProcess(100), 0);
+    QCOMPARE(cpuText(model), QStringLiteral("nan %"));
+    model.update(oneProcess(101), 100);
+    QCOMPARE(cpuText(model), QStringLiteral("1.0 %"));
+}
+
+void TestProcModel::aLoadThatIsNoNumberHasASortValueThatIsOne()
+{
+    ProcModel model;
+    model.update(oneProcess(100), 0);
+    QVERIFY(qIsInf(cpuLoad(model)));
+    model.update(oneProcess(100), 0);
+    QCOMPARE(cpuText(model), QStringLiteral("nan %"));
+    QVERIFY(!qIsNaN(cpuLoad(model)));
+}
+
+void TestProcModel::aProcessWithoutCpuParameterIsTaken()
+{
+    ProcModel model;
+    const ProcModel::Snapshot bare{{3, Process(3)}};
+    model.update(bare, 10);
+    model.update(bare, 10);
+    QCOMPARE(shapeOf(model), QStringLiteral("3"));
+    QVERIFY(!model.index(0, cpuColumn).data().isValid());
+}
+
+void TestProcModel::setFlatClearsOnlyOnAChange()
+{
+    ProcModel model;
+    model.update(oneProcess(1), 1);
+    const QSignalSpy resets(&model, SIGNAL(modelReset()));
+    model.setFlat(true);
+    QCOMPARE(resets.count(), 0);
+    QCOMPARE(model.rowCount(), 1);
+    model.setFlat(false);
+    QCOMPARE(resets.count(), 1);
+    QCOMPARE(model.rowCount(), 0);
+    QVERIFY(!model.isFlat());
+}
+
+void TestProcModel::clearEmptiesWithOneReset()
+{
+    ProcModel model;
+    model.setFlat(false);
+    model.update(makeSnapshot({{1, 0}, {2, 1}, {3, 2}, {4, 0}}), 1);
+    const QSignalSpy begins(&model, SIGNAL(modelAboutToBeReset()));
+    const QSignalSpy ends(&model, SIGNAL(modelReset()));
+    const QSignalSpy removals(&model, SIGNAL(rowsRemoved(QModelIndex, int, int)));
+    model.clear();
+    QCOMPARE(begins.count(), 1);
+    QCOMPARE(ends.count(), 1);
+    QCOMPARE(removals.count(), 0);
+    QCOMPARE(shapeOf(model), QString());
+    QCOMPARE(model.processByPid(2).pid(), -1);
+    model.update(makeSnapshot({{1, 0}, {4, 0}}), 1);
+    QCOMPARE(shapeOf(model), QStringLiteral("1 4"));
+}
+
+void TestProcModel::aChangedNameLeavesForOneRefresh()
+{
+    ProcModel model;
+    model.update(makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), 1);
+    Facts renamed;
+    renamed.pid = 2;
+    renamed.name = QStringLiteral("other");
+    ProcModel::Snapshot snapshot = makeSnapshot({{1, 0}, {3, 0}});
+    snapshot.emplace(2, makeProcess(renamed));
+
+    const QSignalSpy insertions(&model, SIGNAL(rowsInserted(QModelIndex, int, int)));
+    const QSignalSpy removals(&model, SIGNAL(rowsRemoved(QModelIndex, int, int)));
+    model.update(snapshot, 1);
+    QCOMPARE(shapeOf(model), QStringLiteral("1 3"));
+    QCOMPARE(insertions.count(), 1); // removed, inserted, and removed again
+    QCOMPARE(removals.count(), 2);
+    model.update(snapshot, 1);
+    QCOMPARE(shapeOf(model), QStringLiteral("1 3 2"));
+    QCOMPARE(model.processByPid(2).getName(), QStringLiteral("other"));
+}
+
+void TestProcModel::aChangedParentLeavesForOneRefresh()
+{
+    ProcModel model;
+    model.update(makeSnapshot({{1, 0}, {2, 1}}), 1);
+    model.update(makeSnapshot({{1, 0}, {2, 0}}), 1);
+    QCOMPARE(shapeOf(model), QStringLiteral("1"));
+    model.update(makeSnapshot({{1, 0}, {2, 0}}), 1);
+    QCOMPARE(shapeOf(model), QStringLiteral("1 2"));
+}
+
+void TestProcModel::aVanishedProcessLeaves()
+{
+    ProcModel model;
+    model.update(makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), 1);
+    model.update(makeSnapshot({{1, 0}, {3, 0}}), 1);
+    QCOMPARE(shapeOf(model), QStringLiteral("1 3"));
+    model.update({}, 1);
+    QCOMPARE(model.rowCount(), 0);
+}
+
+void TestProcModel::newProcessesAreAppendedInAscendingPidOrder()
+{
+    ProcModel model;
+    model.update(makeSnapshot({{5, 0}, {3, 5}}), 1);
+    QCOMPARE(shapeOf(model), QStringLiteral("3 5")); // flat: no child, whatever the parents
+    model.update(makeSnapshot({{1, 0}, {3, 5}, {5, 0}, {4, 0}}), 1);
+    QCOMPARE(shapeOf(model), QStringLiteral("3 5 1 4"));
+}
+
+QTEST_MAIN(TestProcModel)
+#include "test_procmodel.moc"
