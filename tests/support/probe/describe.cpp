@@ -124,6 +124,7 @@ QJsonObject describeWindow(const QWidget *window)
     json[QStringLiteral("active")] = window->isActiveWindow();
     json[QStringLiteral("modal")] = window->isModal();
     json[QStringLiteral("exposed")] = handle && handle->isExposed();
+    json[QStringLiteral("isMainWindow")] = qobject_cast<const QMainWindow *>(window) != nullptr;
     return json;
 }
 
