@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/desktop/session.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <cstring>
+
+bool DesktopSession::connectProbe()
+{
+    if (m_probe >= 0)
+        return true;
+    const QByteArray path = m_directory.filePath(QStringLiteral("probe%1").arg(m_runs)).toLocal8Bit();
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    if (std::size_t(path.size()) >= sizeof address.sun_path)
+        return false;
+    std::memcpy(address.sun_path, path.constData(), std::size_t(path.size()));
+    m_probe = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (connect(m_probe, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0)
+        return true;
+    ::close(m_probe);
+    m_probe = -1;
+    return false;
+}
+
+// Empty if the program closes the socket or says nothing for too long.
+QByteArray DesktopSession::readLine()
+{
+    int end = 0;
+    while ((end = m_received.indexOf('\n')) < 0) {
+        pollfd waiting = {m_probe, POLLIN, 0};
+        char bytes[65536];
+        const ssize_t count =
+            poll(&waiting, 1, desktopDeadline) == 1 ? read(m_probe, bytes, sizeof bytes) : 0;
+        if (count <= 0)
+            return {};
+        m_received.append(bytes, int(count));
+    }
+    const QByteArray line = m_received.left(end);
+    m_received.remove(0, end + 1);
+    return line;
+}
+
+QJsonObject DesktopSession::probe(const QString &command)
+{
+    const QJsonObject silence{{QStringLiteral("error"), QStringLiteral("the program doesn't answer")}};
+    const QByteArray line = command.toUtf8() + '\n';
+    if (!connectProbe() ||
+        send(m_probe, line.constData(), std::size_t(line.size()), MSG_NOSIGNAL) != line.size())
+        return silence;
+    const QByteArray answer = readLine();
+    return answer.isEmpty() ? silence : QJsonDocument::fromJson(answer).object();
+}
+
+QJsonObject DesktopSession::widget(const QString &name)
+{
+    return probe(QStringLiteral("widget ") + name);
+}
+
+QString DesktopSession::text(const QString &widgetName)
+{
+    return widget(widgetName).value(QLatin1String("text")).toString();
+}
+
+Table DesktopSession::table(const QString &name)
+{
+    return Table(probe(QStringLiteral("table ") + name));
+}
+
+QJsonObject DesktopSession::dialog()
+{
+    const QJsonObject answer = probe(QStringLiteral("dialog"));
+    return answer.value(QLatin1String("exposed")).toBool() ? answer : QJsonObject();
+}
+
+QJsonObject DesktopSession::mainWindow()
+{
+    const QJsonArray windows = probe(QStringLiteral("windows")).value(QLatin1String("windows")).toArray();
+    for (const QJsonValue &window : windows) {
+        if (window[QLatin1String("isMainWindow")].toBool())
+            return window.toObject();
+    }
+    return {};
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the files of the stand-in share. Not for tests.
+#ifndef TESTS_SUPPORT_GTOPSTANDIN_CALLS_H
+#define TESTS_SUPPORT_GTOPSTANDIN_CALLS_H
+
+#include "tests/support/gtopstandin.h"
+
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+// The calls taken over stay visible in the preloaded object, whose other symbols are hidden.
+#define STANDIN_CALL extern "C" __attribute__((visibility("default")))
+
+namespace standin {
+
+constexpr std::uint64_t allFlags = ~std::uint64_t(0);
+
+Calls &countedCalls();
+
+/// Reads the file named by ZSM_STANDIN if it is another than the last time. Called by the calls that begin
+/// a list and never while one is gone through, so that the records of one refresh fit one another.
+void readFileIfChanged();
+
+/// The function of that name in libgtop itself.
+template <typename Function>
+Function *nextCall(const char *name)
+{
+    void *const address = dlsym(RTLD_NEXT, name);
+    if (!address) {
+        std::fprintf(stderr, "gtopstandin: no %s in libgtop\n", name);
+        std::abort();
+    }
+    return reinterpret_cast<Function *>(address);
+}
+
+/// Copies as much as a fixed-size field of libgtop holds, always ended by a NUL byte.
+template <std::size_t size>
+void copyText(char (&field)[size], const std::string &text)
+{
+    const std::size_t length = std::min(text.size(), size - 1);
+    std::memcpy(field, text.data(), length);
+    field[length] = '\0';
+}
+
+} // namespace standin
+
+#endif

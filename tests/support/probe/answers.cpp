@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/probe/answers.h"
+
+#include "tests/support/probe/describe.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace probe {
+namespace {
+
+bool isA(const QWidget *widget, const QByteArray &className)
+{
+    for (const QMetaObject *meta = widget->metaObject(); meta; meta = meta->superClass()) {
+        if (className == meta->className())
+            return true;
+    }
+    return false;
+}
+
+// All widgets, each after its parent and siblings in their order: QApplication's own list has no order.
+QWidgetList allWidgets()
+{
+    QWidgetList widgets;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        widgets.append(window);
+        const QList<QWidget *> children = window->findChildren<QWidget *>();
+        for (QWidget *child : children) {
+            if (child->window() == window)
+                widgets.append(child);
+        }
+    }
+    return widgets;
+}
+
+QWidgetList visibleWidgets(const QByteArray &className)
+{
+    QWidgetList found;
+    const QWidgetList widgets = allWidgets();
+    for (QWidget *widget : widgets) {
+        if (widget->isVisible() && isA(widget, className))
+            found.append(widget);
+    }
+    return found;
+}
+
+QWidget *findWidget(const QString &name)
+{
+    const QWidgetList widgets = allWidgets();
+    for (QWidget *widget : widgets) {
+        if (!name.isEmpty() && widget->objectName() == name)
+            return widget;
+    }
+    return visibleWidgets(name.toLatin1()).value(0);
+}
+
+QJsonObject error(const QString &text)
+{
+    return {{QStringLiteral("error"), text}};
+}
+
+QJsonObject list(const QString &key, const QWidgetList &widgets, QJsonObject (*describe)(const QWidget *))
+{
+    QJsonArray array;
+    for (const QWidget *widget : widgets)
+        array.append(describe(widget));
+    return {{key, array}};
+}
+
+QJsonObject windows(const QString &)
+{
+    QWidgetList visible;
+    const QWidgetList topLevels = QApplication::topLevelWidgets();
+    for (QWidget *window : topLevels) {
+        if (window->isVisible())
+            visible.append(window);
+    }
+    return list(QStringLiteral("windows"), visible, describeWindow);
+}
+
+QJsonObject widget(const QString &name)
+{
+    const QWidget *const found = findWidget(name);
+    return found ? describeWidget(found) : error(QStringLiteral("no widget ") + name);
+}
+
+QJsonObject widgetsOfClass(const QString &className)
+{
+    return list(QStringLiteral("widgets"), visibleWidgets(className.toLatin1()), describeWidget);
+}
+
+QJsonObject tree(const QString &)
+{
+    QWidgetList named;
+    const QWidgetList widgets = allWidgets();
+    for (QWidget *each : widgets) {
+        if (!each->objectName().isEmpty())
+            named.append(each);
+    }
+    return list(QStringLiteral("widgets"), named, describeWidget);
+}
+
+QJsonObject table(const QString &name)
+{
+    auto *const view = qobject_cast<QAbstractItemView *>(findWidget(name));
+    return view ? describeView(view) : error(QStringLiteral("no item view ") + name);
+}
+
+QJsonObject menu(const QString &)
+{
+    const auto *const bar = qobject_cast<QMenuBar *>(visibleWidgets("QMenuBar").value(0));
+    QJsonArray open;
+    const QWidgetList menus = visibleWidgets("QMenu");
+    for (const QWidget *each : menus)
+        open.append(describeMenu(qobject_cast<const QMenu *>(each)));
+    return {{QStringLiteral("bar"), bar ? describeMenuBar(bar) : QJsonArray()},
+            {QStringLiteral("menus"), open}};
+}
+
+QJsonObject dialog(const QString &)
+{
+    QWidget *const modal = QApplication::activeModalWidget();
+    if (!modal)
+        return {};
+    QJsonObject json = describeWindow(modal);
+    const QList<QAbstractButton *> all = modal->findChildren<QAbstractButton *>();
+    QJsonArray buttons;
+    for (const QAbstractButton *button : all) {
+        if (button->isVisible())
+            buttons.append(describeWidget(button));
+    }
+    json[QStringLiteral("buttons")] = buttons;
+    if (const auto *box = qobject_cast<QMessageBox *>(modal)) {
+        json[QStringLiteral("icon")] = int(box->icon());
+        json[QStringLiteral("escapeButton")] = box->escapeButton() ? box->escapeButton()->text() : QString();
+    }
+    return json;
+}
+
+QJsonObject focus(const QString &)
+{
+    const QWidget *const focused = QApplication::focusWidget();
+    return focused ? describeWidget(focused) : QJsonObject();
+}
+
+struct Command
+{
+    const char *name;
+    QJsonObject (*run)(const QString &argument);
+};
+
+const Command commands[] = {{"windows", windows}, {"widget", widget}, {"widgets", widgetsOfClass},
+                            {"tree", tree},       {"table", table},   {"menu", menu},
+                            {"dialog", dialog},   {"focus", focus}};
+
+} // namespace
+
+QJsonObject answer(const QString &line)
+{
+    const QString name = line.section(QLatin1Char(' '), 0, 0);
+    const QString argument = line.section(QLatin1Char(' '), 1);
+    for (const Command &command : commands) {
+        if (name == QLatin1String(command.name))
+            return command.run(argument);
+    }
+    return error(QStringLiteral("no such command: ") + name);
+}
+
+} // namespace probe

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/probe/describe.h"
+
+#include <QAbstractItemView>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTreeView>
+
+#include <vector>
+
+namespace probe {
+namespace {
+
+QHeaderView *headerOf(QAbstractItemView *view)
+{
+    if (const auto *tree = qobject_cast<QTreeView *>(view))
+        return tree->header();
+    if (const auto *table = qobject_cast<QTableView *>(view))
+        return table->horizontalHeader();
+    return nullptr;
+}
+
+QJsonArray describeSections(const QHeaderView *header)
+{
+    const int top = 0;
+    QJsonArray sections;
+    for (int place = 0; place < header->count(); ++place) {
+        const int section = header->logicalIndex(place);
+        const bool hidden = header->isSectionHidden(section);
+        const QRect rect(header->sectionViewportPosition(section), top, header->sectionSize(section),
+                         header->height());
+        sections.append(QJsonObject{
+            {QStringLiteral("section"), section},
+            {QStringLiteral("text"), header->model()->headerData(section, Qt::Horizontal).toString()},
+            {QStringLiteral("visible"), !hidden && header->isVisible()},
+            {QStringLiteral("rect"), globalRect(header->viewport(), rect)}});
+    }
+    return sections;
+}
+
+// One row of the view; rows are told depth first, each before its children.
+class RowTeller
+{
+public:
+    explicit RowTeller(QAbstractItemView *view)
+        : m_view(view), m_tree(qobject_cast<QTreeView *>(view)), m_selection(view->selectionModel())
+    {
+        collectShownRows();
+    }
+
+    QJsonArray rows() const
+    {
+        QJsonArray result;
+        std::vector<QModelIndex> left; // a stack of its own: the tree may be deeper than ours
+        pushChildren(m_view->rootIndex(), left);
+        while (!left.empty()) {
+            const QModelIndex index = left.back();
+            left.pop_back();
+            result.append(rowJson(index));
+            pushChildren(index, left);
+        }
+        return result;
+    }
+
+private:
+    // Only for rows on the screen: finding the place of a row costs a walk through all rows.
+    void collectShownRows()
+    {
+        const int step = 4;
+        for (int y = 0; y < m_view->viewport()->height(); y += step) {
+            const QModelIndex index = m_view->indexAt(QPoint(m_view->viewport()->width() / 2, y));
+            const QModelIndex first = index.isValid() ? index : m_view->indexAt(QPoint(1, y));
+            if (first.isValid())
+                m_shown.insert(first.sibling(first.row(), 0));
+        }
+    }
+
+    void pushChildren(const QModelIndex &parent, std::vector<QModelIndex> &left) const
+    {
+        const QAbstractItemModel *const model = m_view->model();
+        for (int row = model->rowCount(parent) - 1; row >= 0; --row)
+            left.push_back(model->index(row, 0, parent));
+    }
+
+    static int depth(QModelIndex index)
+    {
+        int result = 0;
+        while ((index = index.parent()).isValid())
+            ++result;
+        return result;
+    }
+
+    QJsonObject rowJson(const QModelIndex &index) const
+    {
+        const bool shown = m_shown.contains(index);
+        QJsonArray texts;
+        QJsonArray rects;
+        for (int column = 0; column < m_view->model()->columnCount(index.parent()); ++column) {
+            const QModelIndex cell = index.sibling(index.row(), column);
+            texts.append(cell.data().toString());
+            const QRect rect = shown ? m_view->visualRect(cell) & m_view->viewport()->rect() : QRect();
+            rects.append(rect.isEmpty() ? QJsonValue() : QJsonValue(globalRect(m_view->viewport(), rect)));
+        }
+        QJsonObject row{{QStringLiteral("depth"), depth(index)},
+                        {QStringLiteral("texts"), texts},
+                        {QStringLiteral("expanded"), m_tree && m_tree->isExpanded(index)},
+                        {QStringLiteral("selected"), m_selection->isSelected(index)},
+                        {QStringLiteral("current"), isCurrentRow(index)}};
+        if (shown)
+            row[QStringLiteral("rects")] = rects;
+        return row;
+    }
+
+    bool isCurrentRow(const QModelIndex &index) const
+    {
+        const QModelIndex current = m_selection->currentIndex();
+        return current.isValid() && current.sibling(current.row(), 0) == index;
+    }
+
+    QAbstractItemView *m_view;
+    QTreeView *m_tree;
+    QItemSelectionModel *m_selection;
+    QSet<QModelIndex> m_shown;
+};
+
+} // namespace
+
+QJsonObject describeView(QAbstractItemView *view)
+{
+    QJsonObject json = describeWidget(view);
+    if (const QHeaderView *const header = headerOf(view)) {
+        json[QStringLiteral("headers")] = describeSections(header);
+        json[QStringLiteral("sortSection")] = header->sortIndicatorSection();
+        json[QStringLiteral("sortDescending")] = header->sortIndicatorOrder() == Qt::DescendingOrder;
+        json[QStringLiteral("sortShown")] = header->isSortIndicatorShown();
+    }
+    json[QStringLiteral("viewport")] = globalRect(view->viewport(), view->viewport()->rect());
+    json[QStringLiteral("verticalScroll")] = view->verticalScrollBar()->value();
+    json[QStringLiteral("verticalScrollMaximum")] = view->verticalScrollBar()->maximum();
+    json[QStringLiteral("rows")] = view->model() ? RowTeller(view).rows() : QJsonArray();
+    return json;
+}
+
+} // namespace probe
