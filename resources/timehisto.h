@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef RESOURCES_TIMEHISTO_H
+#define RESOURCES_TIMEHISTO_H
+
+#include "resources/historing.h"
+
+#include <QWidget>
+
+/// The history of the Network page: incoming and outgoing bytes per update interval of the last hundred
+/// samples, as lines over a dotted grid. The plot is black on white in every palette.
+class TimeHisto : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `_interval` is the Network page's update interval in seconds.
+    TimeHisto(QWidget *parent, int _interval);
+
+    /// Empties the history, whose samples would lie on the wrong times, and takes the new interval.
+    /// It is meant to leave the repaint to the next sample.
+    void setInterval(int _interval);
+
+public Q_SLOTS:
+    /// Adds the newest sample of incoming bytes. Lines are drawn once both series have one.
+    void addValueIn(uint _value);
+    /// Adds the newest sample of outgoing bytes.
+    void addValueOut(uint _value);
+    /// Empties the history, for instance when another interface is chosen.
+    void clear();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void clearRings();
+    void describe();
+    void drawGrid(QPainter &painter) const;
+    void drawTimes(QPainter &painter) const;
+    void drawAmounts(QPainter &painter) const;
+    void drawSeries(QPainter &painter);
+
+    HistoRing incoming;
+    HistoRing outgoing;
+    qint32 maxValue = 0;          ///< the largest value of the last paint, in bytes
+    double horizontalScale = 1.0; ///< pixels per sample
+    double verticalScale = 1.0;   ///< pixels per byte
+    qint32 interval;              ///< seconds per sample
+};
+
+#endif
