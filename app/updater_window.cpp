@@ -11,12 +11,13 @@
 #include <QPixmap>
 #include <QVBoxLayout>
 
-namespace {
-
-void initImages()
+// Outside any namespace, as the macro declares a function of the global one.
+static void initImages()
 {
     Q_INIT_RESOURCE(images);
 }
+
+namespace {
 
 QPixmap colorKey(QPixmap &pixmap, const QColor &color)
 {
