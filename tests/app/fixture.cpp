@@ -26,7 +26,7 @@ standin::Machine Fixture::smallMachine()
 {
     standin::Machine machine;
     machine.cpus = {{1000, 4000}, {500, 4000}};
-    machine.memory = standin::Memory{quint64(8) << 30, quint64(1) << 30, quint64(1) << 29, quint64(2) << 30};
+    machine.memory = standin::Memory{std::uint64_t(8) << 30, std::uint64_t(1) << 30, std::uint64_t(1) << 29, std::uint64_t(2) << 30};
     standin::Mount root;
     root.device = "/dev/sda1";
     root.directory = "/";
@@ -51,9 +51,9 @@ standin::Machine Fixture::smallMachine()
         process.parent = pid == 100 ? 1 : 100;
         process.name = "made-up" + std::to_string(pid);
         process.uid = static_cast<int>(getuid());
-        process.userTime = static_cast<quint64>(pid);
+        process.userTime = static_cast<std::uint64_t>(pid);
         process.startTime = 1700000000;
-        process.resident = static_cast<quint64>(pid) << 20;
+        process.resident = static_cast<std::uint64_t>(pid) << 20;
         (*machine.processes)[pid] = process;
     }
     return machine;

@@ -2,6 +2,7 @@
 #include "ui_mainwindow.h"
 
 #include <QtTest>
+#include <QtWidgets>
 
 // The form as it stands before the controller adds to it.
 class TestForm : public QObject

@@ -6,6 +6,7 @@
 #include "tests/support/modal.h"
 
 #include <QtTest>
+#include <QtWidgets>
 
 using testsupport::onModal;
 

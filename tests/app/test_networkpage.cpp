@@ -4,11 +4,11 @@
 #include "resources/timehisto.h"
 
 #include <QtTest>
+#include <QtWidgets>
 
 #include <arpa/inet.h>
 
-// The network page of the whole controller on made-up interfaces. What the graph was given is read from its
-// accessible description and its picture elsewhere; here its slots are watched through a derived ring count.
+// The network page of the whole controller on made-up interfaces.
 class TestNetworkPage : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,10 @@ private Q_SLOTS:
     void theFirstInterfaceIsShownAtStart();
     void totalsAndNotRatesAreShown();
     void anotherInterfaceIsShownWhenChosen();
-    void aChoiceRunsTheSlotTwice();
+    void anotherChoiceClearsTheGraphAndAddsOneSampleOfZero();
+    void theSameChoiceAddsTwoSamples();
+    void eachRefreshAddsTheBytesSinceTheLast();
+    void aCounterThatFallsGivesAHugeSample();
     void theChoiceIsKeptByPosition();
     void aPositionThatIsNotThereChangesNothing_data();
     void aPositionThatIsNotThereChangesNothing();
@@ -45,6 +48,23 @@ private:
             result << chooser->itemText(i);
         }
         return result;
+    }
+    static QWidget *graph() { return Fixture::find<QVBoxLayout>("ltTimeHisto")->itemAt(0)->widget(); }
+    // The newest sample, as the graph tells it to assistive technology.
+    static QString newest() { return graph()->accessibleDescription(); }
+    // How far back the drawn line of outgoing bytes reaches, in samples; 0 without a line.
+    static int drawnSamples()
+    {
+        const QImage image = graph()->grab().toImage();
+        for (int x = 110; x < image.width(); ++x) {
+            for (int y = 0; y < image.height(); ++y) {
+                const QColor color = image.pixelColor(x, y);
+                if (color.red() > 150 && color.green() < 100 && color.blue() < 100) {
+                    return qRound((image.width() - 15 - x) * 100.0 / (image.width() - 85)) + 1;
+                }
+            }
+        }
+        return 0;
     }
     static standin::Interface &interface(std::size_t index)
     {
@@ -181,3 +201,55 @@ void TestNetworkPage::fiveHundredInterfacesWithLongAndForeignNames()
     QVERIFY(names().contains(QString::fromUtf8("bad\xff\xfe")));
     QCOMPARE(Fixture::text("netAdress"), QStringLiteral("0.0.0.0"));
 }
+
+void TestNetworkPage::anotherChoiceClearsTheGraphAndAddsOneSampleOfZero()
+{
+    fixture->start(3);
+    Fixture::window()->resize(1200, 600);
+    for (int i = 0; i < 20; ++i) {
+        tick();
+    }
+    QVERIFY(drawnSamples() > 15);
+    interface(0).bytesIn += 5000;
+    choose(2);
+    QCOMPARE(newest(), QStringLiteral("In: 0.00 B, Out: 0.00 B"));
+    QVERIFY(drawnSamples() <= 1);
+}
+
+void TestNetworkPage::theSameChoiceAddsTwoSamples()
+{
+    fixture->start(3);
+    Fixture::window()->resize(1200, 600);
+    choose(2);
+    tick();
+    const int before = drawnSamples();
+    choose(2);
+    QCOMPARE(drawnSamples(), before + 2);
+    QCOMPARE(newest(), QStringLiteral("In: 0.00 B, Out: 0.00 B"));
+}
+
+void TestNetworkPage::eachRefreshAddsTheBytesSinceTheLast()
+{
+    fixture->start(3);
+    interface(1).bytesIn += 2048;
+    interface(1).bytesOut += 100;
+    tick();
+    QCOMPARE(newest(), QStringLiteral("In: 2.00 KB, Out: 100.00 B"));
+    tick();
+    QCOMPARE(newest(), QStringLiteral("In: 0.00 B, Out: 0.00 B"));
+}
+
+void TestNetworkPage::aCounterThatFallsGivesAHugeSample()
+{
+    fixture->start(3);
+    interface(1).bytesIn -= 1024;
+    interface(1).bytesOut = 0;
+    tick();
+    QCOMPARE(newest(), QStringLiteral("In: 4.00 GB, Out: 4.00 GB"));
+    drawnSamples();
+    tick();
+    QCOMPARE(newest(), QStringLiteral("In: 0.00 B, Out: 0.00 B"));
+}
+
+QTEST_MAIN(TestNetworkPage)
+#include "test_networkpage.moc"

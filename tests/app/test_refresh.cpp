@@ -6,6 +6,7 @@
 #include "process/proxyprocmodel.h"
 
 #include <QtTest>
+#include <QtWidgets>
 
 // Which page is refreshed when. A refresh is told by the calls that only it makes: General reads memory,
 // Processes the process list, Network the interface list; File systems and General both read the mount list.

@@ -6,6 +6,7 @@
 #include "process/proxyprocmodel.h"
 
 #include <QtTest>
+#include <QtWidgets>
 
 #include <unistd.h>
 

@@ -7,6 +7,7 @@
 #include "resources/timehisto.h"
 
 #include <QtTest>
+#include <QtWidgets>
 
 // What the controller adds to the form, and the General page as a whole.
 class TestWindow : public QObject
@@ -98,11 +99,10 @@ void TestWindow::colorKeysAreThoseOfTheChart()
     const QPair<const char *, QColor> keys[] = {{"lblUsedColor", Chart::usedColor()},
                                                 {"lblAvailColor", Chart::availColor()}};
     for (const auto &key : keys) {
-        const QPixmap *pixmap = Fixture::find<QLabel>(key.first)->pixmap();
-        QVERIFY(pixmap != nullptr);
-        QCOMPARE(pixmap->size(), QSize(15, 15));
-        QCOMPARE(pixmap->toImage().pixelColor(7, 7), key.second);
-        QVERIFY(pixmap->toImage().pixelColor(7, 0) != key.second);
+        const QPixmap pixmap = Fixture::find<QLabel>(key.first)->pixmap(Qt::ReturnByValue);
+        QCOMPARE(pixmap.size(), QSize(15, 15));
+        QCOMPARE(pixmap.toImage().pixelColor(7, 7), key.second);
+        QVERIFY(pixmap.toImage().pixelColor(7, 0) != key.second);
     }
 }
 
