@@ -40,7 +40,8 @@ private Q_SLOTS:
     void zerosAreDrawnOnTheBaseLine();
     void aWrappedSampleRisesOutOfTheTop();
     void theLegendNamesBothSeries();
-    void thePlotIsTheSameInEveryPaletteAndDirection();
+    void thePlotIsTheSameInEveryPalette();
+    void theLegendStandsBesideItsSwatchesInRightToLeftLayoutsToo();
     void everySizeIsDrawn_data();
     void everySizeIsDrawn();
 };
@@ -173,7 +174,7 @@ void TestTimeHistoPicture::theLegendNamesBothSeries()
     QCOMPARE(shouted.copy(110, 0, 530, 400), image.copy(110, 0, 530, 400));
 }
 
-void TestTimeHistoPicture::thePlotIsTheSameInEveryPaletteAndDirection()
+void TestTimeHistoPicture::thePlotIsTheSameInEveryPalette()
 {
     TimeHisto histo(nullptr, 3);
     add(histo, 1536, 1000);
@@ -183,8 +184,18 @@ void TestTimeHistoPicture::thePlotIsTheSameInEveryPaletteAndDirection()
     histo.setPalette(QPalette(Qt::white, Qt::black, Qt::gray, Qt::darkGray, Qt::gray, Qt::white, Qt::white,
                               Qt::black, Qt::black));
     QCOMPARE(paint(histo), usualImage);
-    histo.setLayoutDirection(Qt::RightToLeft);
-    QCOMPARE(paint(histo), usualImage);
+}
+
+void TestTimeHistoPicture::theLegendStandsBesideItsSwatchesInRightToLeftLayoutsToo()
+{
+    const QRect legend(0, 330, 140, 70);
+    TimeHisto histo(nullptr, 3);
+    histo.resize(usual);
+    const QImage leftToRight = histo.grab().toImage(); // render() to an image leaves the direction out
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const QImage rightToLeft = histo.grab().toImage();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(rightToLeft.copy(legend), leftToRight.copy(legend));
 }
 
 void TestTimeHistoPicture::everySizeIsDrawn_data()
