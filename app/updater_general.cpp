@@ -10,6 +10,24 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
+
+namespace {
+
+// Frameless, vertical only, and as wide as the page needs.
+QScrollArea *scrollAreaOf(QWidget *page)
+{
+    auto *area = new QScrollArea;
+    area->setObjectName(QStringLiteral("generalScroll"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setMinimumWidth(page->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    area->setWidget(page);
+    return area;
+}
+
+} // namespace
 
 void Updater::buildCpuRows()
 {
@@ -42,18 +60,11 @@ void Updater::scrollGeneralPageIfTooHigh()
     if (screen == nullptr || mainWindow.minimumSizeHint().height() <= screen->availableGeometry().height()) {
         return;
     }
-    const bool signalsWereBlocked = ui.tabWidget->blockSignals(true);
     const QString title = ui.tabWidget->tabText(GeneralPage);
-    const int shown = ui.tabWidget->currentIndex();
-    auto *scroll = new QScrollArea;
-    scroll->setObjectName(QStringLiteral("generalScroll"));
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const bool signalsWereBlocked = ui.tabWidget->blockSignals(true);
     ui.tabWidget->removeTab(GeneralPage);
-    scroll->setWidget(ui.tab);
-    ui.tabWidget->insertTab(GeneralPage, scroll, title);
-    ui.tabWidget->setCurrentIndex(shown);
+    ui.tabWidget->insertTab(GeneralPage, scrollAreaOf(ui.tab), title);
+    ui.tabWidget->setCurrentIndex(GeneralPage);
     ui.tabWidget->blockSignals(signalsWereBlocked);
 }
 

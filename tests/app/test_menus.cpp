@@ -73,6 +73,12 @@ private:
         return result;
     }
     static QTreeView *tree() { return Fixture::find<QTreeView>("treeView"); }
+    // The list as after a refresh: the settings that were read at start may have emptied it.
+    void startOnProcesses()
+    {
+        fixture->start(1);
+        QMetaObject::invokeMethod(&fixture->updater(), "slotTabChanged", Q_ARG(int, 1));
+    }
     static void select(int row) { tree()->setCurrentIndex(tree()->model()->index(row, 0)); }
     // Opens the context menu, lets the test act on it, and closes it.
     void withContextMenu(const std::function<void(QMenu *)> &act)
@@ -152,7 +158,7 @@ void TestMenus::theProcessEntryShowsOnlyOnTheProcessesPage()
 
 void TestMenus::offTheProcessesPageItsShortcutsAreDead()
 {
-    fixture->start(1);
+    startOnProcesses();
     select(0);
     QVERIFY(processAction("Kill process")->isEnabled());
     QVERIFY(processAction("Tree view")->isEnabled());
@@ -168,7 +174,7 @@ void TestMenus::offTheProcessesPageItsShortcutsAreDead()
 
 void TestMenus::aboutToShowBringsTheMenusUpToDate()
 {
-    fixture->start(1);
+    startOnProcesses();
     select(0);
     QAction *kill = processAction("Kill process");
     kill->setVisible(false);
@@ -182,7 +188,7 @@ void TestMenus::aboutToShowBringsTheMenusUpToDate()
 void TestMenus::aChangedSelectionReachesTheActionsAtOnce()
 {
     (*standin::machine().processes)[300].state = 16;
-    fixture->start(1);
+    startOnProcesses();
     QVERIFY(!processAction("Kill process")->isVisible());
     select(1);
     QVERIFY(processAction("Kill process")->isVisible());
@@ -199,7 +205,7 @@ void TestMenus::aChangedSelectionReachesTheActionsAtOnce()
 
 void TestMenus::aResetLeavesNoProcessSelected()
 {
-    fixture->start(1);
+    startOnProcesses();
     select(1);
     QVERIFY(processAction("Kill process")->isVisible());
     qobject_cast<ProxyProcModel *>(tree()->model())->setColumnVisible(3, false);
@@ -208,7 +214,7 @@ void TestMenus::aResetLeavesNoProcessSelected()
 
 void TestMenus::theContextMenuHasTheActionsAndTheColumns()
 {
-    fixture->start(1);
+    startOnProcesses();
     select(0);
     withContextMenu([](QMenu *menu) {
         QCOMPARE(menu->parent(), Fixture::find<QWidget>("centralwidget"));
