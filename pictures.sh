@@ -27,6 +27,9 @@ done
 [ -s "$work/display" ] || { cat "$work/xvfb.log" >&2; exit 1; }
 DISPLAY=:$(cat "$work/display")
 export DISPLAY
+# The pictures show the defaults and leave the user's settings alone.
+mkdir -m 700 "$work/config" "$work/runtime"
+export XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime
 openbox >"$work/openbox.log" 2>&1 &
 children+=($!)
 

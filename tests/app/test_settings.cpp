@@ -100,6 +100,9 @@ void TestSettings::aFirstStartHasTheDefaults()
     QVERIFY(!QFile::exists(Fixture::settingsFile()));
     fixture->start(0);
     verifyDefaults();
+    // Nothing on the pages of a machine with two processors needs a larger window.
+    QCOMPARE(Fixture::window()->size(), QSize(640, 480));
+    QCOMPARE(Fixture::window()->pos(), QPoint(0, 0));
 }
 
 void TestSettings::theDefaultGeometryFitsSmallScreens_data()
