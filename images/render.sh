@@ -12,7 +12,7 @@ render() { # <drawing> <size> <picture>
 for icon in exit pause continue hard cd; do
     render "$icon.svg" 64 "$icon.png"
 done
-render zarn-system-monitor.svg 184 diobin_logo.png
+render zarn-system-monitor.svg 168 diobin_logo.png
 
 # Installed for the desktop. The smallest have drawings of their own, on their grid of pixels; 22 is
 # 24 without its margin.

@@ -40,7 +40,7 @@ void TestImages::pictureHasItsSizeAndTransparency_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("side");
-    QTest::newRow("logo") << QStringLiteral(":/images/diobin_logo.png") << 184;
+    QTest::newRow("logo") << QStringLiteral(":/images/diobin_logo.png") << 168;
     QTest::newRow("exit") << QStringLiteral(":/images/exit") << 64;
     QTest::newRow("pause") << QStringLiteral(":/images/pause") << 64;
     QTest::newRow("continue") << QStringLiteral(":/images/continue") << 64;
