@@ -51,10 +51,17 @@ QColor colorAt(const QImage &image, double degrees)
                             static_cast<int>(std::lround(90 - 40 * std::sin(angle))));
 }
 
-/// Whether a line crosses the pixels (x, y) and (x, y + 1), between which an outline is smoothed.
-bool darkBelow(const QImage &image, int x, int y)
+/// Whether the outline lies between the two pixels, which then share its smoothed line.
+bool outlineBetween(const QImage &image, const QPoint &one, const QPoint &other)
 {
-    return qMin(image.pixelColor(x, y).green(), image.pixelColor(x, y + 1).green()) < 160;
+    return qMax(image.pixelColor(one).green(), image.pixelColor(other).green()) < 190;
+}
+
+/// Whether the outline touches the four sides of the square (30, 10, 160, 160).
+bool outlineFillsTheSquare(const QImage &image)
+{
+    return outlineBetween(image, {110, 9}, {110, 10}) && outlineBetween(image, {110, 169}, {110, 170}) &&
+           outlineBetween(image, {29, 90}, {30, 90}) && outlineBetween(image, {189, 90}, {190, 90});
 }
 
 class CountingChart : public Chart
@@ -158,8 +165,7 @@ void TestChart::aNewChartShowsTheEmptyCircle()
     for (int degrees = 0; degrees < 360; degrees += 45) {
         QCOMPARE(colorAt(image, degrees), paper);
     }
-    QVERIFY(darkBelow(image, 110, 9));   // top of the square (30, 10, 160, 160)
-    QVERIFY(darkBelow(image, 110, 169)); // its bottom
+    QVERIFY(outlineFillsTheSquare(image));
     QCOMPARE(image.pixelColor(110, 20), paper);
 }
 
@@ -197,7 +203,7 @@ void TestChart::sharesAreDrawnFromThreeOClock()
     for (int degrees = 15; degrees < 360; degrees += 20) {
         QCOMPARE(colorAt(image, degrees), degrees < usedUpTo ? red : blue);
     }
-    QVERIFY(darkBelow(image, 110, 9));
+    QVERIFY(outlineFillsTheSquare(image));
 }
 
 void TestChart::nothingIsDrawnOutsideThePie()

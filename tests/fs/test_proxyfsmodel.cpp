@@ -25,7 +25,7 @@ struct Page
         proxy.setView(&view);
     }
 
-    QTreeView view; // goes last, as the window's view outlives a change of its model
+    QTreeView view; // outlives the proxy, as a child of the window may
     ProxyFsModel proxy;
 };
 
