@@ -8,6 +8,8 @@
 void Updater::refreshFileSystems()
 {
     fsModel->update(collectMountList());
+    // The model's dataChanged() names no valid end, so the view doesn't learn from it what to paint again.
+    ui.tableFS->viewport()->update();
     if (!ui.tableFS->selectionModel()->hasSelection()) {
         ui.tableFS->setCurrentIndex(fsModel->index(0, 0));
     }
