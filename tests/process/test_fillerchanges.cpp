@@ -191,11 +191,12 @@ void TestFillerChanges::parentThatEnded()
     QCOMPARE(read(ends[0], &orphan, sizeof orphan), ssize_t(sizeof orphan));
     close(ends[0]);
     close(ends[1]);
-    QCOMPARE(sorted(orphan, ParentPidColumn), QVariant(parent.pid()));
+    const int oldParent = parent.pid();
+    QCOMPARE(sorted(orphan, ParentPidColumn), QVariant(oldParent));
     parent.end();
     const int newParent = sorted(orphan, ParentPidColumn).toInt();
     kill(orphan, SIGKILL);
-    QVERIFY(newParent != 0 && newParent != parent.pid());
+    QVERIFY(newParent != 0 && newParent != oldParent);
 }
 
 void TestFillerChanges::stoppedAndContinued()
