@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "child.h"
+#include "scriptedchild.h"
 
 #include "process/gtop_wrappers/filler.h"
 
@@ -197,7 +197,7 @@ void TestFiller::kernelThreadsAreListedWithTheirNamesInBrackets()
 
 void TestFiller::parentIsNormallyInTheMap()
 {
-    const Child child([](const Gate &) {});
+    const ScriptedChild child([](const Gate &) {});
     const auto all = filler()->getProcesses(AllProcesses);
     QCOMPARE(all.at(child.pid()).getPPid(), int(getpid()));
     QCOMPARE(all.count(getpid()), std::size_t(1));
@@ -209,7 +209,7 @@ void TestFiller::otherUsersProcessesAreNotMine()
     if (geteuid() != 0) {
         QSKIP("only root can start a process of another user");
     }
-    const Child child([](const Gate &) {
+    const ScriptedChild child([](const Gate &) {
         if (setuid(65534) != 0) {
             _exit(1);
         }
@@ -228,14 +228,14 @@ void TestFiller::realUserDecidesWhatIsMine()
         QSKIP("only root can start a process of another user");
     }
     const QString root = QString::fromLocal8Bit(getpwuid(0)->pw_name);
-    const Child effective([](const Gate &) {
+    const ScriptedChild effective([](const Gate &) {
         if (seteuid(65534) != 0) {
             _exit(1);
         }
     });
     QTRY_VERIFY_WITH_TIMEOUT(shown(effective.pid(), UserColumn) != root, deadline);
     QVERIFY(listed(effective.pid(), MyProcesses));
-    const Child real([](const Gate &) {
+    const ScriptedChild real([](const Gate &) {
         if (setreuid(65534, 0) != 0) {
             _exit(1);
         }
@@ -247,7 +247,7 @@ void TestFiller::realUserDecidesWhatIsMine()
 void TestFiller::counterGrowsInTheUnitOfTheMachinesTotal()
 {
     glibtop_cpu total;
-    const Child child([](const Gate &) { work(); });
+    const ScriptedChild child([](const Gate &) { work(); });
     glibtop_get_cpu(&total);
     const quint64 totalBefore = total.total;
     const int before = counterOf(child.pid());
@@ -277,7 +277,7 @@ void TestFiller::counterGrowsInTheUnitOfTheMachinesTotal()
 
 void TestFiller::stateOfAStoppedProcessIs16()
 {
-    const Child child([](const Gate &) { raise(SIGSTOP); });
+    const ScriptedChild child([](const Gate &) { raise(SIGSTOP); });
     QTRY_COMPARE_WITH_TIMEOUT(sorted(child.pid(), StateColumn), QVariant(GLIBTOP_PROCESS_STOPPED), deadline);
     QCOMPARE(GLIBTOP_PROCESS_STOPPED, 16);
     QCOMPARE(shown(child.pid(), StateColumn), QStringLiteral("Stopped"));
@@ -287,7 +287,7 @@ void TestFiller::stateOfAStoppedProcessIs16()
 
 void TestFiller::stateOfAZombieIsShown()
 {
-    const Child child([](const Gate &) {
+    const ScriptedChild child([](const Gate &) {
         prctl(PR_SET_NAME, "gone soon");
         _exit(0);
     });
@@ -300,7 +300,7 @@ void TestFiller::stateOfAProcessThatWaitsUninterruptibly()
 {
     // As long as what it started by vfork lives in its memory, a process waits and takes no signal but the
     // last.
-    const Child child([](const Gate &) {
+    const ScriptedChild child([](const Gate &) {
         if (vfork() == 0) {
             prctl(PR_SET_PDEATHSIG, SIGKILL);
             pause();
@@ -313,7 +313,7 @@ void TestFiller::stateOfAProcessThatWaitsUninterruptibly()
 
 void TestFiller::stateOfATracedProcessIsOther()
 {
-    const Child child([](const Gate &) {
+    const ScriptedChild child([](const Gate &) {
         if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) {
             _exit(1);
         }
@@ -325,7 +325,7 @@ void TestFiller::stateOfATracedProcessIsOther()
 
 void TestFiller::processesThatComeAndGoLeaveNothingHalfEmpty()
 {
-    const Child spawner([](const Gate &) {
+    const ScriptedChild spawner([](const Gate &) {
         for (;;) {
             const int pid = fork();
             if (pid == 0) {

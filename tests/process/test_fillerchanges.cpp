@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever a process can change, the next snapshot shows it: values shared between snapshots are never stale.
-#include "child.h"
+#include "scriptedchild.h"
 
 #include <QtTest>
 
@@ -68,7 +68,7 @@ void TestFillerChanges::initTestCase()
 
 void TestFillerChanges::renamedProcess()
 {
-    const Child child([](const Gate &gate) {
+    const ScriptedChild child([](const Gate &gate) {
         prctl(PR_SET_NAME, "first name");
         gate.wait();
         prctl(PR_SET_NAME, "second name");
@@ -80,7 +80,7 @@ void TestFillerChanges::renamedProcess()
 
 void TestFillerChanges::nameThatIsNotUtf8IsShown()
 {
-    const Child child([](const Gate &) { prctl(PR_SET_NAME, "\xff) S 1\n("); });
+    const ScriptedChild child([](const Gate &) { prctl(PR_SET_NAME, "\xff) S 1\n("); });
     const QString name = QString(QChar::ReplacementCharacter) + QStringLiteral(") S 1 (");
     QTRY_COMPARE_WITH_TIMEOUT(shown(child.pid(), NameColumn), name, deadline);
     QCOMPARE(sorted(child.pid(), ParentPidColumn), QVariant(int(getpid())));
@@ -88,7 +88,7 @@ void TestFillerChanges::nameThatIsNotUtf8IsShown()
 
 void TestFillerChanges::execChangesNameAndCommandLine()
 {
-    const Child child([this](const Gate &gate) {
+    const ScriptedChild child([this](const Gate &gate) {
         prctl(PR_SET_NAME, "before exec");
         gate.wait();
         execSleep(sleeper, "sleeping for long");
@@ -101,7 +101,7 @@ void TestFillerChanges::execChangesNameAndCommandLine()
 
 void TestFillerChanges::rewrittenTitle()
 {
-    const Child child([](const Gate &gate) {
+    const ScriptedChild child([](const Gate &gate) {
         gate.wait();
         std::memset(programTitle, 'Z', std::strlen(programTitle));
     });
@@ -114,7 +114,8 @@ void TestFillerChanges::rewrittenTitle()
 
 void TestFillerChanges::lineBreaksInArgumentsGiveOneLine()
 {
-    const Child child([this](const Gate &) { execSleep(sleeper, "two\nlines\tand \xff\xe2\x80\xae"); });
+    const ScriptedChild child(
+        [this](const Gate &) { execSleep(sleeper, "two\nlines\tand \xff\xe2\x80\xae"); });
     const QString broken(QChar::ReplacementCharacter);
     const QString line = QStringLiteral("two lines and ") + broken + broken + QStringLiteral(" 1000");
     QTRY_COMPARE_WITH_TIMEOUT(shown(child.pid(), CommandLineColumn), line, deadline);
@@ -123,14 +124,14 @@ void TestFillerChanges::lineBreaksInArgumentsGiveOneLine()
 void TestFillerChanges::hugeArgumentsAreShownShortened()
 {
     const QByteArray title(100 * 1024, 'x');
-    const Child child([this, &title](const Gate &) { execSleep(sleeper, title); });
+    const ScriptedChild child([this, &title](const Gate &) { execSleep(sleeper, title); });
     const QString line = QString(1023, QLatin1Char('x')) + QChar(0x2026);
     QTRY_COMPARE_WITH_TIMEOUT(shown(child.pid(), CommandLineColumn), line, deadline);
 }
 
 void TestFillerChanges::reniced()
 {
-    const Child child([](const Gate &) {});
+    const ScriptedChild child([](const Gate &) {});
     const int nice = sorted(child.pid(), NiceColumn).toInt();
     QCOMPARE(setpriority(PRIO_PROCESS, id_t(child.pid()), nice + 1), 0);
     QCOMPARE(sorted(child.pid(), NiceColumn), QVariant(nice + 1));
@@ -140,7 +141,7 @@ void TestFillerChanges::reniced()
 void TestFillerChanges::grownMemory()
 {
     constexpr std::size_t size = 33554432;
-    const Child child([](const Gate &gate) {
+    const ScriptedChild child([](const Gate &gate) {
         gate.wait();
         void *memory = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
         std::memset(memory, 1, size);
@@ -159,7 +160,7 @@ void TestFillerChanges::changedUser()
     if (geteuid() != 0) {
         QSKIP("only root can become another user");
     }
-    const Child child([](const Gate &gate) {
+    const ScriptedChild child([](const Gate &gate) {
         gate.wait();
         if (setuid(65534) != 0) {
             _exit(1);
@@ -178,7 +179,7 @@ void TestFillerChanges::parentThatEnded()
 {
     int ends[2];
     QCOMPARE(pipe(ends), 0);
-    Child parent([&ends](const Gate &) {
+    ScriptedChild parent([&ends](const Gate &) {
         const int pid = fork();
         if (pid == 0) {
             alarm(60); // the test ends it earlier, unless it fails
@@ -201,7 +202,7 @@ void TestFillerChanges::parentThatEnded()
 
 void TestFillerChanges::stoppedAndContinued()
 {
-    const Child child([](const Gate &) {});
+    const ScriptedChild child([](const Gate &) {});
     QTRY_COMPARE_WITH_TIMEOUT(shown(child.pid(), StateColumn), QStringLiteral("Sleeping"), deadline);
     kill(child.pid(), SIGSTOP);
     QTRY_COMPARE_WITH_TIMEOUT(sorted(child.pid(), StateColumn), QVariant(GLIBTOP_PROCESS_STOPPED), deadline);
@@ -212,7 +213,7 @@ void TestFillerChanges::stoppedAndContinued()
 
 void TestFillerChanges::endedProcessIsLeftOut()
 {
-    Child child([](const Gate &) {});
+    ScriptedChild child([](const Gate &) {});
     const int pid = child.pid();
     QVERIFY(listed(pid, AllProcesses));
     child.end();
@@ -221,7 +222,7 @@ void TestFillerChanges::endedProcessIsLeftOut()
 
 void TestFillerChanges::startStaysTheSame()
 {
-    const Child child([](const Gate &) {});
+    const ScriptedChild child([](const Gate &) {});
     const QVariant start = sorted(child.pid(), StartedColumn);
     const QString text = shown(child.pid(), StartedColumn);
     for (int i = 0; i < 20; ++i) {
@@ -234,7 +235,7 @@ void TestFillerChanges::startStaysTheSame()
 
 void TestFillerChanges::counterOnlyGrows()
 {
-    const Child child([](const Gate &) {
+    const ScriptedChild child([](const Gate &) {
         for (volatile unsigned i = 0;; i = i + 1) {
         }
     });

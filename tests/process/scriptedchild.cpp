@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "child.h"
+#include "scriptedchild.h"
 
 #include <signal.h>
 #include <sys/prctl.h>
@@ -16,7 +16,7 @@ void Gate::wait() const
     }
 }
 
-Child::Child(const std::function<void(const Gate &)> &body)
+ScriptedChild::ScriptedChild(const std::function<void(const Gate &)> &body)
 {
     int ends[2];
     if (pipe(ends) != 0) {
@@ -35,20 +35,20 @@ Child::Child(const std::function<void(const Gate &)> &body)
     fd = ends[1];
 }
 
-Child::~Child()
+ScriptedChild::~ScriptedChild()
 {
     end();
     close(fd);
 }
 
-void Child::go() const
+void ScriptedChild::go() const
 {
     if (write(fd, "", 1) != 1) {
         qFatal("the child is gone");
     }
 }
 
-void Child::end()
+void ScriptedChild::end()
 {
     if (id > 0) {
         kill(id, SIGKILL);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#ifndef TESTS_PROCESS_CHILD_H
-#define TESTS_PROCESS_CHILD_H
+#ifndef TESTS_PROCESS_SCRIPTEDCHILD_H
+#define TESTS_PROCESS_SCRIPTEDCHILD_H
 
 #include "process/gtop_wrappers/filler.h"
 
@@ -8,7 +8,7 @@
 
 #include <functional>
 
-/// Blocks in a child until the test calls Child::go().
+/// Blocks in a child until the test calls ScriptedChild::go().
 class Gate
 {
 public:
@@ -21,13 +21,13 @@ private:
 
 /// A process of the test's own: does what it is told, then sleeps until it is killed, at the latest with this
 /// object. What it does must be safe between fork and exec.
-class Child
+class ScriptedChild
 {
 public:
-    explicit Child(const std::function<void(const Gate &)> &body);
-    ~Child();
-    Child(const Child &) = delete;
-    Child &operator=(const Child &) = delete;
+    explicit ScriptedChild(const std::function<void(const Gate &)> &body);
+    ~ScriptedChild();
+    ScriptedChild(const ScriptedChild &) = delete;
+    ScriptedChild &operator=(const ScriptedChild &) = delete;
 
     int pid() const { return id; }
     void go() const;
