@@ -5,10 +5,11 @@ namespace gtop_wrappers {
 
 namespace {
 
-bool turnsDirection(ushort c)
+/// Characters without a shape that act on their neighbours or turn the direction of the text; the two joiners
+/// are not among them, scripts and pictures need these.
+bool actsUnseen(QChar c)
 {
-    return c == 0x061c || c == 0x200e || c == 0x200f || (c >= 0x202a && c <= 0x202e) ||
-           (c >= 0x2066 && c <= 0x2069);
+    return c.category() == QChar::Other_Format && c != QChar(0x200c) && c != QChar(0x200d);
 }
 
 QChar harmless(QChar c)
@@ -16,7 +17,7 @@ QChar harmless(QChar c)
     if (c.isNull() || c.isSpace()) {
         return QLatin1Char(' '); // arguments come with a null behind each
     }
-    if (c.category() == QChar::Other_Control || turnsDirection(c.unicode())) {
+    if (c.category() == QChar::Other_Control || actsUnseen(c)) {
         return QChar::ReplacementCharacter;
     }
     return c;

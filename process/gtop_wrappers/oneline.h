@@ -11,8 +11,8 @@ namespace gtop_wrappers {
 constexpr int longestText = 1024;
 
 /// Bytes that a process chose itself (its name, its arguments) as one harmless line for the eye: blanks at
-/// the end fall away, line breaks and the like become blanks, and what is no text (broken UTF-8, control
-/// characters, marks that turn the direction of what follows) becomes U+FFFD.
+/// the end fall away, line breaks and the like become blanks, and what is no visible text (broken UTF-8,
+/// control characters, marks that turn the direction of what follows) becomes U+FFFD.
 QString oneLine(const QByteArray &bytes);
 
 } // namespace gtop_wrappers

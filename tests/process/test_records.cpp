@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/gtop_wrappers/record.h"
+
+#include <QtTest>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+
+using namespace gtop_wrappers;
+
+namespace {
+
+constexpr unsigned everything = ReadState | ReadUid | ReadTime | ReadMemory | ReadArguments;
+constexpr guint64 allFlags = ~guint64(0);
+constexpr guint64 highest = std::numeric_limits<guint64>::max();
+
+RawProcess rawProcess()
+{
+    RawProcess raw = {};
+    raw.state.flags = raw.uid.flags = raw.time.flags = raw.memory.flags = raw.argumentsInfo.flags = allFlags;
+    std::strcpy(raw.state.cmd, "bash");
+    raw.state.state = GLIBTOP_PROCESS_STOPPED;
+    raw.state.uid = 1000;
+    raw.uid.uid = 1001;
+    raw.uid.euid = 1002;
+    raw.uid.ppid = 7;
+    raw.uid.nice = -5;
+    raw.time.utime = 30;
+    raw.time.stime = 12;
+    raw.time.cutime = 1000;
+    raw.time.cstime = 1000;
+    raw.time.frequency = 100;
+    raw.time.start_time = 1700000000;
+    raw.memory.size = 3;
+    raw.memory.resident = 2;
+    raw.memory.share = 1;
+    raw.arguments = QByteArray("bash\0-l\0", 8);
+    return raw;
+}
+
+/// A process that has ended, its pid not reused within the test.
+int endedPid()
+{
+    const int pid = fork();
+    if (pid == 0) {
+        _exit(0);
+    }
+    waitpid(pid, nullptr, 0);
+    return pid;
+}
+
+} // namespace
+
+class TestRecords : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fieldsComeFromLibgtopsRecords();
+    void nothingIsLeftOfTheProcessBefore();
+    void endedWhileReadIsLeftOut_data();
+    void endedWhileReadIsLeftOut();
+    void recordsNotAskedForAreNotLookedAt();
+    void nameWithoutItsEndIsBounded();
+    void extremesAreTaken();
+    void realProcessThatEndedIsLeftOut();
+    void pidsAreAscendingUniqueAndPositive();
+    void onlyTheAskedRealUserIsRead();
+    void numberOfArgumentBytesIsBounded();
+};
+
+void TestRecords::fieldsComeFromLibgtopsRecords()
+{
+    ProcessRecord record;
+    QVERIFY(reduce(42, everything, rawProcess(), record));
+    QCOMPARE(record.pid, 42);
+    QCOMPARE(record.name, QByteArray("bash"));
+    QCOMPARE(record.state, 16);
+    QCOMPARE(record.user, 1000);
+    QCOMPARE(record.realUser, 1001);
+    QCOMPARE(record.parent, 7);
+    QCOMPARE(record.nice, -5);
+    QCOMPARE(record.cpuTime, quint64(42)); // its own, without that of its children
+    QCOMPARE(record.frequency, quint64(100));
+    QCOMPARE(record.started, quint64(1700000000));
+    QCOMPARE(record.virtualSize, quint64(3));
+    QCOMPARE(record.resident, quint64(2));
+    QCOMPARE(record.shared, quint64(1));
+    QCOMPARE(record.arguments, QByteArray("bash\0-l\0", 8));
+}
+
+void TestRecords::nothingIsLeftOfTheProcessBefore()
+{
+    ProcessRecord record;
+    QVERIFY(reduce(42, everything, rawProcess(), record));
+    QVERIFY(reduce(43, 0, rawProcess(), record));
+    QCOMPARE(record.pid, 43);
+    QCOMPARE(record.name, QByteArray());
+    QCOMPARE(record.resident, quint64(0));
+    QCOMPARE(record.arguments, QByteArray());
+}
+
+void TestRecords::endedWhileReadIsLeftOut_data()
+{
+    QTest::addColumn<unsigned>("zeroed");
+    QTest::newRow("before the state") << unsigned(ReadState);
+    QTest::newRow("before the user") << unsigned(ReadUid);
+    QTest::newRow("before the times") << unsigned(ReadTime);
+    QTest::newRow("before the memory") << unsigned(ReadMemory);
+    QTest::newRow("before the arguments") << unsigned(ReadArguments);
+    QTest::newRow("from the start") << everything;
+}
+
+void TestRecords::endedWhileReadIsLeftOut()
+{
+    QFETCH(unsigned, zeroed);
+    RawProcess raw = rawProcess();
+    if (zeroed & ReadState) {
+        raw.state = {};
+    }
+    if (zeroed & ReadUid) {
+        raw.uid = {};
+    }
+    if (zeroed & ReadTime) {
+        raw.time = {};
+    }
+    if (zeroed & ReadMemory) {
+        raw.memory = {};
+    }
+    if (zeroed & ReadArguments) {
+        raw.argumentsInfo = {};
+    }
+    ProcessRecord record;
+    QVERIFY(!reduce(42, everything, raw, record));
+}
+
+void TestRecords::recordsNotAskedForAreNotLookedAt()
+{
+    RawProcess raw = rawProcess();
+    raw.memory = {};
+    raw.argumentsInfo = {};
+    ProcessRecord record;
+    QVERIFY(reduce(42, ReadState | ReadUid | ReadTime, raw, record));
+    QCOMPARE(record.arguments, QByteArray());
+}
+
+void TestRecords::nameWithoutItsEndIsBounded()
+{
+    RawProcess raw = rawProcess();
+    std::fill(std::begin(raw.state.cmd), std::end(raw.state.cmd), 'x');
+    ProcessRecord record;
+    QVERIFY(reduce(42, everything, raw, record));
+    QCOMPARE(record.name, QByteArray(sizeof raw.state.cmd, 'x'));
+}
+
+void TestRecords::extremesAreTaken()
+{
+    RawProcess raw = rawProcess();
+    raw.state.state = std::numeric_limits<unsigned>::max();
+    raw.state.uid = -1;
+    raw.uid.ppid = std::numeric_limits<gint32>::max();
+    raw.uid.nice = std::numeric_limits<gint32>::min();
+    raw.time.utime = raw.time.stime = raw.time.start_time = raw.time.frequency = highest;
+    raw.memory.size = raw.memory.resident = raw.memory.share = highest;
+    ProcessRecord record;
+    QVERIFY(reduce(42, everything, raw, record));
+    QCOMPARE(record.state, -1);
+    QCOMPARE(record.user, -1);
+    QCOMPARE(record.parent, std::numeric_limits<int>::max());
+    QCOMPARE(record.nice, std::numeric_limits<int>::min());
+    QCOMPARE(record.cpuTime, quint64(highest - 1)); // wrapped, as unsigned counters do
+    QCOMPARE(record.resident, quint64(highest));
+}
+
+void TestRecords::realProcessThatEndedIsLeftOut()
+{
+    const int pid = endedPid();
+    for (const unsigned reads : {ReadState, ReadUid, ReadTime, ReadMemory, ReadArguments}) {
+        RawProcess raw;
+        ProcessRecord record;
+        readRaw(pid, reads, raw);
+        QVERIFY2(!reduce(pid, reads, raw, record), QByteArray::number(reads).constData());
+    }
+}
+
+void TestRecords::pidsAreAscendingUniqueAndPositive()
+{
+    const std::vector<int> pids = readPids();
+    QVERIFY(std::adjacent_find(pids.begin(), pids.end(), std::greater_equal<int>()) == pids.end());
+    QVERIFY(pids.front() > 0);
+    QVERIFY(std::binary_search(pids.begin(), pids.end(), getpid()));
+}
+
+void TestRecords::onlyTheAskedRealUserIsRead()
+{
+    const std::vector<ProcessRecord> mine = readProcesses(getuid(), ReadState);
+    QVERIFY(std::any_of(mine.begin(), mine.end(), [](const ProcessRecord &r) { return r.pid == getpid(); }));
+    // The highest id means "none" to the system, so that nobody has it.
+    QVERIFY(readProcesses(std::numeric_limits<uid_t>::max(), ReadState).empty());
+    QVERIFY(!readProcesses(std::nullopt, ReadState).empty());
+}
+
+void TestRecords::numberOfArgumentBytesIsBounded()
+{
+    const int pid = fork();
+    if (pid == 0) {
+        const std::string title(102400, 'x');
+        execlp("sleep", title.c_str(), "1000", nullptr);
+        _exit(1);
+    }
+    RawProcess raw;
+    const auto execDone = [&raw, pid] {
+        readRaw(pid, ReadArguments, raw);
+        return raw.arguments.startsWith("xxx");
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(execDone(), 10000);
+    QVERIFY(raw.arguments.size() < 10000);
+    kill(pid, SIGKILL);
+    waitpid(pid, nullptr, 0);
+}
+
+QTEST_GUILESS_MAIN(TestRecords)
+#include "test_records.moc"
