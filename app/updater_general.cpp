@@ -7,6 +7,7 @@
 #include "resources/qprog.h"
 #include "resources/systeminfo.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QScrollArea>
@@ -66,6 +67,8 @@ void Updater::scrollGeneralPageIfTooHigh()
     ui.tabWidget->insertTab(GeneralPage, scrollAreaOf(ui.tab), title);
     ui.tabWidget->setCurrentIndex(GeneralPage);
     ui.tabWidget->blockSignals(signalsWereBlocked);
+    // At once, or the window that is about to get its size would still be bound by the page's height.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 void Updater::refreshGeneral()

@@ -143,6 +143,7 @@ const std::array<Column, ColumnCount> table = {{
     {QT_TRANSLATE_NOOP("ProcessFiller", "Started"), ReadTime, makeStarted, same<&Record::started>},
     {QT_TRANSLATE_NOOP("ProcessFiller", "Command line"), ReadArguments | ReadState, makeCommandLine,
      same<&Record::arguments, &Record::name>},
+    intColumn<&Record::processor>(QT_TRANSLATE_NOOP("ProcessFiller", "Processor"), ReadState),
 }};
 
 } // namespace

@@ -23,6 +23,7 @@ enum ProcessColumn : unsigned long {
     CpuTimeColumn, ///< sorts by jiffies
     StartedColumn,
     CommandLineColumn,
+    ProcessorColumn,
     ColumnCount
 };
 

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <utility>
 
@@ -107,6 +108,8 @@ bool reduce(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &recor
             QByteArray(raw.state.cmd, static_cast<int>(strnlen(raw.state.cmd, sizeof raw.state.cmd)));
         record.state = static_cast<int>(raw.state.state);
         record.user = raw.state.uid;
+        // libgtop reads it without a flag of its own. From 1, as the cores of the System page are counted.
+        record.processor = std::clamp(raw.state.last_processor, -1, std::numeric_limits<int>::max() - 1) + 1;
     }
     if (reads & ReadUid) {
         record.realUser = raw.uid.uid;

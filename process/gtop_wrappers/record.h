@@ -18,7 +18,7 @@ namespace gtop_wrappers {
 
 /// The libgtop calls that reading a process can take; they are what a refresh costs, so none is made in vain.
 enum Reads : unsigned {
-    ReadState = 1, ///< name, state, effective user
+    ReadState = 1, ///< name, state, effective user, processor
     ReadUid = 2,   ///< real user, parent, nice value
     ReadTime = 4,  ///< CPU time, start
     ReadMemory = 8,
@@ -46,6 +46,7 @@ struct ProcessRecord
     int realUser = -1;
     int parent = 0;
     int nice = 0;
+    int processor = 0;     ///< that it last ran on, counted from 1; 0 if unknown
     quint64 cpuTime = 0;   ///< user and system time in jiffies
     quint64 frequency = 0; ///< jiffies per second
     quint64 started = 0;   ///< seconds since the epoch

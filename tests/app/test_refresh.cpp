@@ -21,6 +21,7 @@ private Q_SLOTS:
     void theFirstRefreshIsFull();
     void withoutAStartPageTheGeneralPageIsShown();
     void aStartPageIsRefreshedAgainAndHasItsMenuBeforeTheWindowIsShown();
+    void theProcessListIsThereWhenTheWindowIsShown();
     void theShownPageIsRefreshedOnItsIntervalAndOthersAreNot_data();
     void theShownPageIsRefreshedOnItsIntervalAndOthersAreNot();
     void theNetworkIsSampledOnItsOwnIntervalWhateverIsShown();
@@ -128,6 +129,14 @@ void TestRefresh::aStartPageIsRefreshedAgainAndHasItsMenuBeforeTheWindowIsShown(
     QMenu *edit = Fixture::window()->menuBar()->actions().at(1)->menu();
     QVERIFY(edit->actions().at(1)->isVisible());
     QVERIFY(edit->actions().at(1)->isEnabled());
+}
+
+// Reading the settings resets the list twice per column, and each reset is a tick that refreshes only if due: with
+// the number of columns that there are and the default interval one of the last two is.
+void TestRefresh::theProcessListIsThereWhenTheWindowIsShown()
+{
+    fixture->start(1);
+    QCOMPARE(Fixture::find<QTreeView>("treeView")->model()->rowCount(), 4);
 }
 
 void TestRefresh::theShownPageIsRefreshedOnItsIntervalAndOthersAreNot_data()

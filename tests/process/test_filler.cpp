@@ -29,7 +29,7 @@ constexpr int deadline = 20000; // milliseconds; only a failure takes that long
 
 const char *const names[] = {"Name",           "CPU",           "PID",  "User",       "Memory",   "State",
                              "Virtual memory", "Shared memory", "Nice", "Parent PID", "CPU time", "Started",
-                             "Command line"};
+                             "Command line",   "Processor"};
 
 class Translator : public QTranslator
 {
@@ -105,7 +105,7 @@ void TestFiller::thereIsOneFiller()
 
 void TestFiller::columnsAreNamedUniquely()
 {
-    QCOMPARE(filler()->size(), 13UL);
+    QCOMPARE(filler()->size(), 14UL);
     std::set<QString> seen;
     for (unsigned long i = 0; i < filler()->size(); ++i) {
         QCOMPARE(filler()->name(i), QString::fromLatin1(names[i]));
@@ -115,7 +115,7 @@ void TestFiller::columnsAreNamedUniquely()
 
 void TestFiller::namesPastTheEndAreEmpty()
 {
-    for (const unsigned long i : {13UL, std::numeric_limits<unsigned long>::max()}) {
+    for (const unsigned long i : {14UL, std::numeric_limits<unsigned long>::max()}) {
         QCOMPARE(filler()->name(i), QString());
         QCOMPARE(filler()->title(i), QString());
     }

@@ -137,7 +137,8 @@ void TestProcess::columnNumbersAreFixed()
     QCOMPARE(int(CpuTimeColumn), 10);
     QCOMPARE(int(StartedColumn), 11);
     QCOMPARE(int(CommandLineColumn), 12);
-    QCOMPARE(int(ColumnCount), 13);
+    QCOMPARE(int(ProcessorColumn), 13);
+    QCOMPARE(int(ColumnCount), 14);
 }
 
 QTEST_GUILESS_MAIN(TestProcess)

@@ -24,6 +24,7 @@ ProcessRecord recordOf(int pid)
     record.state = GLIBTOP_PROCESS_INTERRUPTIBLE;
     record.user = record.realUser = 0;
     record.parent = 1;
+    record.processor = 3;
     record.cpuTime = 100;
     record.frequency = 100;
     record.started = 1700000000;
@@ -102,6 +103,7 @@ void TestProcessTable::everyColumnIsFilled()
     QCOMPARE(shown(process, CpuTimeColumn), QStringLiteral("0:00:01"));
     QVERIFY(shown(process, StartedColumn).startsWith(QLatin1String("2023-11-1")));
     QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("bash -l"));
+    QCOMPARE(shown(process, ProcessorColumn), QStringLiteral("3"));
 }
 
 void TestProcessTable::numbersSortAsNumbers_data()
@@ -116,6 +118,7 @@ void TestProcessTable::numbersSortAsNumbers_data()
     QTest::newRow("shared") << int(SharedMemoryColumn) << QVariant(quint64(512));
     QTest::newRow("nice") << int(NiceColumn) << QVariant(0);
     QTest::newRow("parent") << int(ParentPidColumn) << QVariant(1);
+    QTest::newRow("processor") << int(ProcessorColumn) << QVariant(3);
     QTest::newRow("CPU time") << int(CpuTimeColumn) << QVariant(quint64(100));
     QTest::newRow("started") << int(StartedColumn) << QVariant(quint64(1700000000));
 }
@@ -204,6 +207,7 @@ void TestProcessTable::changedValuesAreMadeAnew_data()
     row("parent", [](ProcessRecord &r) { r.parent = 2; }, {ParentPidColumn});
     row("CPU time", [](ProcessRecord &r) { r.cpuTime = 101; }, {CpuTimeColumn});
     row("start", [](ProcessRecord &r) { r.started = 1700000001; }, {StartedColumn});
+    row("processor", [](ProcessRecord &r) { r.processor = 1; }, {ProcessorColumn});
     row("arguments", [](ProcessRecord &r) { r.arguments = "x"; }, {CommandLineColumn});
 }
 
@@ -340,7 +344,7 @@ void TestProcessTable::columnsNotWantedAreNeitherReadNorFilled_data()
                           << QVector<int>{CpuColumn,          PidColumn,   UserColumn,
                                           MemoryColumn,       StateColumn, VirtualMemoryColumn,
                                           SharedMemoryColumn, NiceColumn,  StartedColumn,
-                                          CommandLineColumn};
+                                          CommandLineColumn,  ProcessorColumn};
     QTest::newRow("short list") << std::vector<bool>{true, false} << everything << QVector<int>{CpuColumn};
 }
 

@@ -162,6 +162,7 @@ void TestRecords::extremesAreTaken()
     RawProcess raw = rawProcess();
     raw.state.state = std::numeric_limits<unsigned>::max();
     raw.state.uid = -1;
+    raw.state.last_processor = std::numeric_limits<int>::max();
     raw.uid.ppid = std::numeric_limits<gint32>::max();
     raw.uid.nice = std::numeric_limits<gint32>::min();
     raw.time.utime = raw.time.stime = raw.time.start_time = raw.time.frequency = highest;
@@ -172,6 +173,13 @@ void TestRecords::extremesAreTaken()
     QCOMPARE(record.user, -1);
     QCOMPARE(record.parent, std::numeric_limits<int>::max());
     QCOMPARE(record.nice, std::numeric_limits<int>::min());
+    QCOMPARE(record.processor, std::numeric_limits<int>::max());
+    raw.state.last_processor = -7;
+    QVERIFY(reduce(42, everything, raw, record));
+    QCOMPARE(record.processor, 0);
+    raw.state.last_processor = 0;
+    QVERIFY(reduce(42, everything, raw, record));
+    QCOMPARE(record.processor, 1);
     QCOMPARE(record.cpuTime, quint64(highest - 1)); // wrapped, as unsigned counters do
     QCOMPARE(record.resident, quint64(highest));
 }
