@@ -7,7 +7,6 @@
 #include "resources/qprog.h"
 #include "resources/systeminfo.h"
 
-#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QScrollArea>
@@ -68,7 +67,8 @@ void Updater::scrollGeneralPageIfTooHigh()
     ui.tabWidget->setCurrentIndex(GeneralPage);
     ui.tabWidget->blockSignals(signalsWereBlocked);
     // At once, or the window that is about to get its size would still be bound by the page's height.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    ui.verticalLayout->activate();
+    mainWindow.layout()->activate();
 }
 
 void Updater::refreshGeneral()
