@@ -67,7 +67,8 @@ void Updater::scrollGeneralPageIfTooHigh()
     ui.tabWidget->setCurrentIndex(GeneralPage);
     ui.tabWidget->blockSignals(signalsWereBlocked);
     // At once, or the window that is about to get its size would still be bound by the page's height.
-    ui.verticalLayout->activate();
+    ui.tabWidget->updateGeometry();
+    ui.centralwidget->updateGeometry();
     mainWindow.layout()->activate();
 }
 
