@@ -82,6 +82,7 @@ private:
     void buildCpuRows();
     void fillGeneralPage();
     void scrollGeneralPageIfTooHigh();
+    void forgetWindowSizes();
     void sampleCpuLoad();
     void refreshGeneral();
     // updater_processes.cpp, updater_filesystems.cpp, updater_network.cpp

@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr int frameHeight = 40; // what a window manager's frame may take of the screen
+
 // Frameless, vertical only, and as wide as the page needs.
 QScrollArea *scrollAreaOf(QWidget *page)
 {
@@ -24,6 +26,9 @@ QScrollArea *scrollAreaOf(QWidget *page)
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setMinimumWidth(page->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
     area->setWidget(page);
+    // The ground of the tab shines through, as on a page that doesn't scroll.
+    page->setAutoFillBackground(false);
+    area->viewport()->setAutoFillBackground(false);
     return area;
 }
 
@@ -56,8 +61,10 @@ void Updater::fillGeneralPage()
 
 void Updater::scrollGeneralPageIfTooHigh()
 {
+    forgetWindowSizes();
     const QScreen *screen = QGuiApplication::primaryScreen();
-    if (screen == nullptr || mainWindow.minimumSizeHint().height() <= screen->availableGeometry().height()) {
+    if (screen == nullptr
+        || mainWindow.minimumSizeHint().height() + frameHeight <= screen->availableGeometry().height()) {
         return;
     }
     const QString title = ui.tabWidget->tabText(GeneralPage);
@@ -66,7 +73,13 @@ void Updater::scrollGeneralPageIfTooHigh()
     ui.tabWidget->insertTab(GeneralPage, scrollAreaOf(ui.tab), title);
     ui.tabWidget->setCurrentIndex(GeneralPage);
     ui.tabWidget->blockSignals(signalsWereBlocked);
-    // At once, or the window that is about to get its size would still be bound by the page's height.
+    forgetWindowSizes();
+}
+
+// A hidden window doesn't hear from inside its tabs that a page needs another size.
+void Updater::forgetWindowSizes()
+{
+    ui.verticalLayout_4->activate();
     ui.tabWidget->updateGeometry();
     ui.centralwidget->updateGeometry();
     mainWindow.layout()->activate();

@@ -198,7 +198,7 @@ void TestWindow::aPageThatFitsHasNoScrollArea()
 void TestWindow::aPageThatIsTooHighScrolls_data()
 {
     QTest::addColumn<int>("cpus");
-    for (int cpus : {64, 256, 1024}) {
+    for (int cpus : {10, 16, 64, 256, 1024}) {
         QTest::newRow(QByteArray::number(cpus).constData()) << cpus;
     }
 }
