@@ -30,8 +30,6 @@ enum CommandKind {
 };
 const int none = -1;
 
-const unsigned long stateColumn = 5;
-const unsigned long niceColumn = 8;
 const int stoppedState = 16; // libgtop's code
 
 /// The question before a signal. The texts are meant as they are, wording included.
@@ -93,7 +91,7 @@ int niceOf(const Process &process)
             return nice;
         }
     }
-    const auto nice = intParam(process, niceColumn);
+    const auto nice = intParam(process, gtop_wrappers::NiceColumn);
     return nice ? nice->value() : 0;
 }
 
@@ -222,7 +220,8 @@ void ProcessMenu::updateListActions()
 void ProcessMenu::updateSignalActions()
 {
     const bool isProcess = selected.pid() != -1;
-    const auto state = isProcess ? intParam(selected, stateColumn) : std::tr1::shared_ptr<IntProcessParam>();
+    const auto state =
+        isProcess ? intParam(selected, gtop_wrappers::StateColumn) : std::tr1::shared_ptr<IntProcessParam>();
     for (QAction *const action :
          {stopProcess, continueProcess, terminateProcess, killProcess, changePriority}) {
         action->setVisible(state != nullptr);

@@ -63,7 +63,7 @@ bool ProcItem::update(const gtop_wrappers::Process &fresh, quint64 totalDelta)
         return false;
     }
     cpuPercent = takeCpuShare(fresh.getCpuLoad(), totalDelta);
-    const gtop_wrappers::ParamPtr load = fresh.getParam(1);
+    const gtop_wrappers::ParamPtr load = fresh.getParam(gtop_wrappers::CpuColumn);
     if (auto *const cpu = dynamic_cast<gtop_wrappers::CpuProcessParam *>(load.get())) {
         cpu->setDisplayValue(QString::number(cpuPercent, 'f', 1) + QStringLiteral(" %"));
         cpu->setPercent(cpuPercent);

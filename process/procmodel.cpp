@@ -19,9 +19,6 @@ using gtop_wrappers::ProcessFiller;
 
 namespace {
 
-const unsigned long firstHiddenColumn = 6;
-const unsigned long lastHiddenColumn = 9;
-
 /// A pid that was taken by another program, or a process that got another parent, is not the same.
 bool isSameProcess(const Process &known, const Process &fresh)
 {
@@ -51,9 +48,8 @@ ProcModel::ProcModel(QObject *parent)
     : QAbstractItemModel(parent), root(new ProcItem(QList<QVariant>(), nullptr)), flat(true),
       columnVisibility(ProcessFiller::instance()->size(), true)
 {
-    const unsigned long end = std::min<unsigned long>(lastHiddenColumn + 1, columnVisibility.size());
-    for (unsigned long i = firstHiddenColumn; i < end; ++i) {
-        columnVisibility[i] = false;
+    for (unsigned long i = gtop_wrappers::VirtualMemoryColumn; i <= gtop_wrappers::ParentPidColumn; ++i) {
+        columnVisibility.at(i) = false;
     }
     rebuildVisibleColumns();
 }

@@ -8,14 +8,14 @@ using namespace gtop_wrappers;
 Process makeProcess(const Facts &facts)
 {
     Process process(facts.pid);
-    process.params.resize(13);
-    process.params[0].reset(new SimpleProcessParam(facts.name));
-    process.params[1].reset(new CpuProcessParam);
-    process.params[2].reset(new IntProcessParam(facts.pid));
-    process.params[5].reset(new IntProcessParam(facts.state, QStringLiteral("state")));
-    process.params[8].reset(new IntProcessParam(facts.nice));
-    process.params[9].reset(new IntProcessParam(facts.ppid));
-    process.params[10].reset(new IntProcessParam(facts.cpuCounter));
+    process.params.resize(ColumnCount);
+    process.params[NameColumn].reset(new SimpleProcessParam(facts.name));
+    process.params[CpuColumn].reset(new CpuProcessParam);
+    process.params[PidColumn].reset(new IntProcessParam(facts.pid));
+    process.params[StateColumn].reset(new IntProcessParam(facts.state, QStringLiteral("state")));
+    process.params[NiceColumn].reset(new IntProcessParam(facts.nice));
+    process.params[ParentPidColumn].reset(new IntProcessParam(facts.ppid));
+    process.params[CpuTimeColumn].reset(new IntProcessParam(facts.cpuCounter));
     return process;
 }
 
