@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/dlgnice.h"
-#include "tests/support/modaldriver.h"
+#include "tests/process/support/modaldriver.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/process/support/child.h"
 #include "tests/process/support/menus.h"
-#include "tests/support/modaldriver.h"
+#include "tests/process/support/modaldriver.h"
 
 #include <QSlider>
 

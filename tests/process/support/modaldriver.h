@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#ifndef TESTS_SUPPORT_MODALDRIVER_H
-#define TESTS_SUPPORT_MODALDRIVER_H
+#ifndef TESTS_PROCESS_MODALDRIVER_H
+#define TESTS_PROCESS_MODALDRIVER_H
 
 #include <QApplication>
 #include <QMessageBox>
@@ -11,7 +11,8 @@
 #include <functional>
 #include <vector>
 
-/// Works on modal dialogs while they run: each handler gets one dialog, in the order of their coming.
+/// Works on modal dialogs while they run: each handler gets one dialog, in the order of their coming. A
+/// dialog that nobody expects fails the test; handlers that got none go with this object.
 class ModalDriver : public QObject
 {
 public:
