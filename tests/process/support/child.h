@@ -16,7 +16,7 @@ public:
 
     pid_t pid() const { return id; }
     /// Waits for the next change of state: the signal that stopped or ended the child, SIGCONT if it
-    /// continued. 0 if it left by itself.
+    /// continued. 0 if it left by itself, -1 if nothing comes for ten seconds.
     int waitForSignal();
     /// Whether a change of state is there to be read.
     bool hasChanged() const;
