@@ -150,7 +150,7 @@ void ProcModel::update(const Snapshot &snapshot, unsigned long totalDelta, int)
 {
     // The order of the signals matters to proxy and view: rows of processes that are not the same any more
     // go before the layout change is announced, and nothing comes or goes between its two signals.
-    const Matches matches = match(snapshot);
+    const Matches matches = matchSnapshot(snapshot);
     Q_EMIT layoutAboutToBeChanged();
     updateKnown(matches.known, totalDelta);
     Q_EMIT layoutChanged(); // stands for dataChanged() too: makes proxy and view read everything again
@@ -223,7 +223,7 @@ QModelIndex ProcModel::indexOf(const ProcItem *item) const
 }
 
 /// Sorts the snapshot into known and new processes, and removes the items whose pid now means another.
-ProcModel::Matches ProcModel::match(const Snapshot &snapshot)
+ProcModel::Matches ProcModel::matchSnapshot(const Snapshot &snapshot)
 {
     std::vector<int> before;
     before.reserve(items.size());

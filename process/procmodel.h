@@ -74,7 +74,7 @@ private:
     ProcItem *itemByPid(int pid) const;
     QModelIndex indexOf(const ProcItem *item) const;
 
-    Matches match(const Snapshot &snapshot);
+    Matches matchSnapshot(const Snapshot &snapshot);
     void updateKnown(const ProcessList &known, quint64 totalDelta);
     ProcessList lineage(const gtop_wrappers::Process &process, const Snapshot &snapshot) const;
     void insertWithAncestors(const gtop_wrappers::Process &process, const Snapshot &snapshot,
