@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A process that the desktop tests look for in the process list:
 //   sample_process <name> <what> [<user id>]
-// takes that name (15 bytes of it) and user, writes the pid of its child or 0, and then, by <what>, sleeps
-// ("sleep"), computes ("busy") or sleeps beside a child called "<name>c" ("parent"). Every one calls itself
-// "<name>n" when it gets SIGUSR1. It ends with the process that started it.
+// takes that name (15 bytes of it) and user, writes a line, and then, by <what>, sleeps ("sleep"), computes
+// ("busy") or starts a child called "<name>c" fifty times a second, each of which lives for 0.4 seconds
+// ("parent"). Every one calls itself "<name>n" when it gets SIGUSR1. It ends with the process that started
+// it.
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <string>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -48,14 +50,24 @@ bool takeUser(const char *id)
     }
 }
 
-int startChild(const std::string &name)
+void sleepFor(long milliseconds)
 {
-    const pid_t child = fork();
-    if (child != 0)
-        return child;
-    endWithStarter();
-    takeName(name);
-    sleepOn();
+    const timespec time = {0, milliseconds * 1000000};
+    nanosleep(&time, nullptr);
+}
+
+[[noreturn]] void startChildren(const std::string &name)
+{
+    std::signal(SIGCHLD, SIG_IGN); // the kernel clears them away
+    for (;;) {
+        if (fork() == 0) {
+            endWithStarter();
+            takeName(name);
+            sleepFor(400);
+            _exit(0);
+        }
+        sleepFor(20);
+    }
 }
 
 } // namespace
@@ -72,8 +84,10 @@ int main(int argc, char *argv[])
     endWithStarter();
     std::signal(SIGUSR1, takeNextName);
     takeName(name);
-    std::printf("%d\n", what == "parent" ? startChild(name + 'c') : 0);
+    std::puts("ready");
     std::fflush(stdout);
+    if (what == "parent")
+        startChildren(name + 'c');
     if (what == "busy")
         compute();
     sleepOn();

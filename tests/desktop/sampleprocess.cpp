@@ -17,7 +17,6 @@ SampleProcess::SampleProcess(const QString &name, What what, int user)
     while (!m_process.canReadLine() && m_process.waitForReadyRead()) {
     }
     m_ready = m_process.canReadLine();
-    m_child = m_process.readLine().trimmed().toInt();
 }
 
 SampleProcess::~SampleProcess()

@@ -9,6 +9,7 @@
 class SampleProcess
 {
 public:
+    /// A Parent always has children that have just been started.
     enum What { Sleeping, Busy, Parent };
 
     /// `name` has up to 4 characters; the rest makes it unlike that of any other test that runs.
@@ -22,15 +23,13 @@ public:
     QString name() const { return m_name; }
     QString renamed() const { return m_name + QLatin1Char('n'); } ///< its name after SIGUSR1
     int pid() const { return static_cast<int>(m_process.processId()); }
-    QString pidText() const { return QString::number(pid()); }
-    int childPid() const { return m_child; } ///< of a Parent
+    QString childName() const { return m_name + QLatin1Char('c'); } ///< that of a Parent's children
     bool sendSignal(int signal) const;
     char state() const; ///< the kernel's letter: S sleeping, R running, T stopped, Z ended; 0 if it is gone
 
 private:
     QProcess m_process;
     QString m_name;
-    int m_child = 0;
     bool m_ready = false;
 };
 

@@ -188,7 +188,7 @@ bool DesktopSession::start(const QStringList &arguments)
 
 bool DesktopSession::waitForExit()
 {
-    if (!m_program->waitForFinished(desktopDeadline) && m_program->state() != QProcess::NotRunning)
+    if (isRunning() && !m_program->waitForFinished(desktopDeadline))
         return fail(QStringLiteral("the program doesn't end"));
     collectOutput();
     return true;
@@ -196,18 +196,24 @@ bool DesktopSession::waitForExit()
 
 int DesktopSession::exitCode() const
 {
-    const bool ended =
-        m_program->state() == QProcess::NotRunning && m_program->exitStatus() == QProcess::NormalExit;
+    const bool ended = m_program && !isRunning() && m_program->exitStatus() == QProcess::NormalExit;
     return ended ? m_program->exitCode() : -1;
+}
+
+bool DesktopSession::isRunning() const
+{
+    return m_program && m_program->state() != QProcess::NotRunning;
 }
 
 qint64 DesktopSession::pid() const
 {
-    return m_program->processId();
+    return m_program ? m_program->processId() : 0;
 }
 
 void DesktopSession::collectOutput()
 {
+    if (!m_program)
+        return;
     m_output += m_program->readAllStandardOutput();
     m_errors += m_program->readAllStandardError();
 }
@@ -246,7 +252,7 @@ bool DesktopSession::waitFor(const std::function<bool()> &condition, int deadlin
     for (elapsed.start(); !elapsed.hasExpired(deadlineMs); QTest::qWait(20)) {
         if (condition())
             return true;
-        if (m_program->state() == QProcess::NotRunning)
+        if (!isRunning())
             return fail(QStringLiteral("the program has ended: ") + QString::fromLocal8Bit(standardError()));
     }
     return condition() || fail(QStringLiteral("a condition wasn't met in time; standard error: ") +

@@ -48,7 +48,8 @@ public:
     /// Waits for the program to end by itself.
     bool waitForExit();
     int exitCode() const; ///< -1 if it runs or was ended by a signal
-    qint64 pid() const;
+    bool isRunning() const;
+    qint64 pid() const; ///< 0 if it doesn't run
     QByteArray standardOutput();
     QByteArray standardError();
 

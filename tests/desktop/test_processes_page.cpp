@@ -65,6 +65,8 @@ void TestProcessesPage::init()
 {
     m_session = std::make_unique<DesktopSession>();
     QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
+    // The settings that were read have reset the list; it is there again at the next tick that is due.
+    QVERIFY2(waitForRow(getpid()), qPrintable(m_session->error()));
 }
 
 void TestProcessesPage::cleanup()
@@ -153,7 +155,7 @@ void TestProcessesPage::aBusyProcessShowsItsShareOfTheMachine()
     QVERIFY2(m_session->waitFor([&] { return share(text(busy.pid(), "CPU")) >= 1.0; }),
              qPrintable(text(busy.pid(), "CPU")));
     QCOMPARE(text(busy.pid(), "State"), QStringLiteral("Running"));
-    QCOMPARE(text(idle.pid(), "CPU"), QStringLiteral("0.0 %"));
+    QVERIFY2(share(text(idle.pid(), "CPU")) < 1.0, qPrintable(text(idle.pid(), "CPU")));
     const double whole = 100.0 / double(sysconf(_SC_NPROCESSORS_ONLN));
     QVERIFY2(share(text(busy.pid(), "CPU")) <= whole + 1.0,
              "one thread can't have more than one CPU's share");
@@ -227,7 +229,7 @@ void TestProcessesPage::aClickOnAHeaderSortsByTheColumn()
         QVERIFY(pids.size() > 1);
         QVERIFY2(std::is_sorted(pids.begin(), pids.end()), "numbers sort as numbers");
     }
-    QCOMPARE(orders.toSet(), (QSet<bool>{false, true}));
+    QVERIFY(orders.first() != orders.last());
 }
 
 void TestProcessesPage::sortingByCpuGoesByTheShare()
@@ -247,25 +249,20 @@ void TestProcessesPage::sortingByCpuGoesByTheShare()
     QVERIFY(std::is_sorted(shares.begin(), shares.end()));
 }
 
-// A process that appears takes copies of all its ancestors with it, so a later one in the same refresh may
-// take them over. Then the next attempt's child is the later one.
+// A process that appears takes copies of all its ancestors with it, and one that comes later in the same
+// refresh takes them over. So the child to look for is always one of the latest.
 void TestProcessesPage::theTreeHangsAChildUnderItsParent()
 {
+    const SampleProcess sample(QStringLiteral("par"), SampleProcess::Parent);
+    QVERIFY(sample.isReady());
     QVERIFY(m_session->key(QStringLiteral("ctrl+f")));
-    bool hung = false;
-    for (int attempt = 0; attempt < 10 && !hung; ++attempt) {
-        const SampleProcess sample(QStringLiteral("tr%1").arg(attempt), SampleProcess::Parent);
-        QVERIFY(sample.isReady());
-        hung = m_session->waitFor(
-            [&] {
-                const Table now = list();
-                const int parent = now.parentOf(rowOf(now, sample.childPid()));
-                return parent >= 0 && now.text(parent, QStringLiteral("PID")) == sample.pidText() &&
-                       now.text(now.parentOf(parent), QStringLiteral("PID")) == QString::number(getpid());
-            },
-            5000);
-    }
-    QVERIFY(hung);
+    QVERIFY2(m_session->waitFor([&] {
+        const Table now = list();
+        const int parent = now.parentOf(now.find(QStringLiteral("Name"), sample.childName()));
+        return parent >= 0 && now.text(parent, QStringLiteral("PID")) == QString::number(sample.pid()) &&
+               now.text(now.parentOf(parent), QStringLiteral("PID")) == QString::number(getpid());
+    }),
+             qPrintable(m_session->error()));
     QVERIFY(m_session->savePicture(QStringLiteral("processes-tree")));
     QVERIFY(m_session->key(QStringLiteral("ctrl+f")));
     QVERIFY(m_session->waitFor([&] {
@@ -300,7 +297,6 @@ void TestProcessesPage::theColumnMenuHidesAndShowsAColumn()
     QStringList without = before;
     QVERIFY(without.removeOne(QStringLiteral("Memory")));
     for (const QStringList &expected : {without, before}) {
-        QVERIFY(waitForRow(getpid()));
         QVERIFY2(openContextMenu(getpid()), qPrintable(m_session->error()));
         QVERIFY2(m_session->clickMenu(QStringLiteral("Visible columns")), qPrintable(m_session->error()));
         QVERIFY(m_session->waitFor([&] { return m_session->menuTexts().value(0) == QLatin1String("Name"); }));
@@ -309,6 +305,7 @@ void TestProcessesPage::theColumnMenuHidesAndShowsAColumn()
                  expected == without);
         QVERIFY2(m_session->clickMenu(QStringLiteral("Memory")), qPrintable(m_session->error()));
         QVERIFY(m_session->waitFor([&] { return list().visibleHeaders() == expected; }));
+        QVERIFY(waitForRow(getpid()));
     }
 }
 

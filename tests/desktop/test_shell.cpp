@@ -54,7 +54,7 @@ void TestShell::init()
 // Ends what the test before has left running, so that each starts the program as it wants it.
 bool TestShell::start(const QStringList &arguments)
 {
-    if (m_session->pid() > 0) {
+    if (m_session->isRunning()) {
         m_session->closeMainWindow();
         m_session->waitForExit();
     }
