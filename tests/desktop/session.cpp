@@ -119,7 +119,17 @@ bool DesktopSession::startDesktop()
         return fail(QStringLiteral("no temporary directory"));
     QFile::setPermissions(m_directory.filePath(QStringLiteral("run")),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    return startServer() && startWindowManager();
+    return writeSettings() && startServer() && startWindowManager();
+}
+
+bool DesktopSession::writeSettings()
+{
+    if (m_options.settings.isEmpty())
+        return true;
+    QFile file(settingsFile());
+    return (QFileInfo(file).dir().mkpath(QStringLiteral(".")) && file.open(QIODevice::WriteOnly) &&
+            file.write(m_options.settings) == m_options.settings.size()) ||
+           fail(QStringLiteral("can't write ") + settingsFile());
 }
 
 QProcessEnvironment DesktopSession::programEnvironment() const
@@ -259,9 +269,17 @@ bool DesktopSession::waitFor(const std::function<bool()> &condition, int deadlin
                                QString::fromLocal8Bit(standardError()));
 }
 
+// Of a screen that stands still, so that what was asked to be shown has been painted.
 bool DesktopSession::savePicture(const QString &name)
 {
     const QString folder = QStringLiteral(ZSM_PICTURES);
-    return QDir().mkpath(folder) &&
-           m_x.screenshot().save(folder + QLatin1Char('/') + name + QStringLiteral(".png"));
+    QImage picture;
+    const bool still = waitFor([&] {
+        const QImage now = screenshot();
+        const bool same = now == picture;
+        picture = now;
+        return same;
+    });
+    return still && QDir().mkpath(folder) &&
+           picture.save(folder + QLatin1Char('/') + name + QStringLiteral(".png"));
 }

@@ -24,6 +24,7 @@ struct SessionOptions
     QSize screen = {1280, 1024};        ///< of the virtual screen, in pixels
     int dpi = 96;                       ///< of the virtual screen
     QMap<QString, QString> environment; ///< added to the program's own; an empty value takes a variable away
+    QByteArray settings;                ///< contents of the program's settings file at the first start
     std::optional<standin::Machine> machine; ///< what libgtop tells the program; the real machine unless set
 };
 
@@ -96,6 +97,7 @@ public:
 
 private:
     bool startDesktop();
+    bool writeSettings();
     bool startServer();
     bool startWindowManager();
     QProcessEnvironment programEnvironment() const;

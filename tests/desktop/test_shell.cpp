@@ -22,6 +22,7 @@ private Q_SLOTS:
     void ctrlQQuitsFromEveryPage();
     void exitInTheFileMenuQuits();
     void closingTheWindowQuits();
+    void atTheFirstStartTheWindowIsWhollyOnTheScreen();
     void everyPageIsDrawnAtEachResolution_data();
     void everyPageIsDrawnAtEachResolution();
 
@@ -206,8 +207,17 @@ void TestShell::everyPageIsDrawnAtEachResolution()
         }));
         QVERIFY(session.savePicture(QStringLiteral("page%1-%2dpi").arg(page + 1).arg(dpi)));
     }
-    const QRect window = rectOf(session.mainWindow().value(QLatin1String("frame")));
-    QVERIFY2(QRect(QPoint(), screen).contains(window), "the window is wholly on the screen");
+    QCOMPARE(session.standardError(), QByteArray());
+}
+
+void TestShell::atTheFirstStartTheWindowIsWhollyOnTheScreen()
+{
+    m_session = std::make_unique<DesktopSession>();
+    QVERIFY2(start({}), qPrintable(m_session->error()));
+    const QRect frame = rectOf(m_session->mainWindow().value(QLatin1String("frame")));
+    const QRect client = rectOf(m_session->mainWindow().value(QLatin1String("rect")));
+    QVERIFY2(frame.top() < client.top(), "the window manager draws a title bar");
+    QVERIFY2(QRect(QPoint(), m_session->screenshot().size()).contains(frame), "title bar and all");
 }
 
 QTEST_GUILESS_MAIN(TestShell)
