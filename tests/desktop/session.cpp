@@ -2,6 +2,7 @@
 #include "tests/desktop/session.h"
 
 #include <QDir>
+#include <QJsonDocument>
 #include <QStandardPaths>
 #include <QtTest>
 
@@ -184,16 +185,23 @@ bool DesktopSession::start(const QStringList &arguments)
     m_program->start(m_options.program, arguments);
     if (!m_program->waitForStarted())
         return fail(QStringLiteral("can't start ") + m_options.program);
+    return waitForWindow();
+}
+
+bool DesktopSession::waitForWindow()
+{
+    QJsonObject window;
     QRect before;
     const bool shown = waitFor([&] {
-        const QJsonObject window = mainWindow();
+        window = mainWindow();
         const QRect now = rectOf(window.value(QLatin1String("rect")));
         const bool still = !now.isEmpty() && now == before;
         before = now;
         return still && window.value(QLatin1String("exposed")).toBool() &&
                window.value(QLatin1String("active")).toBool();
     });
-    return shown || fail(QStringLiteral("no window came up: ") + m_error);
+    return shown || fail(QStringLiteral("no window came up: %1; the last seen: %2")
+                             .arg(m_error, QString::fromUtf8(QJsonDocument(window).toJson())));
 }
 
 bool DesktopSession::waitForExit()

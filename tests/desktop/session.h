@@ -101,6 +101,7 @@ private:
     bool startServer();
     bool startWindowManager();
     QProcessEnvironment programEnvironment() const;
+    bool waitForWindow();
     bool connectProbe();
     QByteArray readLine();
     void leaveDoubleClickInterval();
