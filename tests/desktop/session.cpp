@@ -2,6 +2,7 @@
 #include "tests/desktop/session.h"
 
 #include <QDir>
+#include <QJsonDocument>
 #include <QStandardPaths>
 #include <QtTest>
 
@@ -119,7 +120,17 @@ bool DesktopSession::startDesktop()
         return fail(QStringLiteral("no temporary directory"));
     QFile::setPermissions(m_directory.filePath(QStringLiteral("run")),
                           QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    return startServer() && startWindowManager();
+    return writeSettings() && startServer() && startWindowManager();
+}
+
+bool DesktopSession::writeSettings()
+{
+    if (m_options.settings.isEmpty())
+        return true;
+    QFile file(settingsFile());
+    return (QFileInfo(file).dir().mkpath(QStringLiteral(".")) && file.open(QIODevice::WriteOnly) &&
+            file.write(m_options.settings) == m_options.settings.size()) ||
+           fail(QStringLiteral("can't write ") + settingsFile());
 }
 
 QProcessEnvironment DesktopSession::programEnvironment() const
@@ -174,21 +185,28 @@ bool DesktopSession::start(const QStringList &arguments)
     m_program->start(m_options.program, arguments);
     if (!m_program->waitForStarted())
         return fail(QStringLiteral("can't start ") + m_options.program);
+    return waitForWindow();
+}
+
+bool DesktopSession::waitForWindow()
+{
+    QJsonObject window;
     QRect before;
     const bool shown = waitFor([&] {
-        const QJsonObject window = mainWindow();
+        window = mainWindow();
         const QRect now = rectOf(window.value(QLatin1String("rect")));
         const bool still = !now.isEmpty() && now == before;
         before = now;
         return still && window.value(QLatin1String("exposed")).toBool() &&
                window.value(QLatin1String("active")).toBool();
     });
-    return shown || fail(QStringLiteral("no window came up: ") + m_error);
+    return shown || fail(QStringLiteral("no window came up: %1; the last seen: %2")
+                             .arg(m_error, QString::fromUtf8(QJsonDocument(window).toJson())));
 }
 
 bool DesktopSession::waitForExit()
 {
-    if (!m_program->waitForFinished(desktopDeadline) && m_program->state() != QProcess::NotRunning)
+    if (isRunning() && !m_program->waitForFinished(desktopDeadline))
         return fail(QStringLiteral("the program doesn't end"));
     collectOutput();
     return true;
@@ -196,18 +214,24 @@ bool DesktopSession::waitForExit()
 
 int DesktopSession::exitCode() const
 {
-    const bool ended =
-        m_program->state() == QProcess::NotRunning && m_program->exitStatus() == QProcess::NormalExit;
+    const bool ended = m_program && !isRunning() && m_program->exitStatus() == QProcess::NormalExit;
     return ended ? m_program->exitCode() : -1;
+}
+
+bool DesktopSession::isRunning() const
+{
+    return m_program && m_program->state() != QProcess::NotRunning;
 }
 
 qint64 DesktopSession::pid() const
 {
-    return m_program->processId();
+    return m_program ? m_program->processId() : 0;
 }
 
 void DesktopSession::collectOutput()
 {
+    if (!m_program)
+        return;
     m_output += m_program->readAllStandardOutput();
     m_errors += m_program->readAllStandardError();
 }
@@ -246,16 +270,24 @@ bool DesktopSession::waitFor(const std::function<bool()> &condition, int deadlin
     for (elapsed.start(); !elapsed.hasExpired(deadlineMs); QTest::qWait(20)) {
         if (condition())
             return true;
-        if (m_program->state() == QProcess::NotRunning)
+        if (!isRunning())
             return fail(QStringLiteral("the program has ended: ") + QString::fromLocal8Bit(standardError()));
     }
     return condition() || fail(QStringLiteral("a condition wasn't met in time; standard error: ") +
                                QString::fromLocal8Bit(standardError()));
 }
 
+// Of a screen that stands still, so that what was asked to be shown has been painted.
 bool DesktopSession::savePicture(const QString &name)
 {
     const QString folder = QStringLiteral(ZSM_PICTURES);
-    return QDir().mkpath(folder) &&
-           m_x.screenshot().save(folder + QLatin1Char('/') + name + QStringLiteral(".png"));
+    QImage picture;
+    const bool still = waitFor([&] {
+        const QImage now = screenshot();
+        const bool same = now == picture;
+        picture = now;
+        return same;
+    });
+    return still && QDir().mkpath(folder) &&
+           picture.save(folder + QLatin1Char('/') + name + QStringLiteral(".png"));
 }

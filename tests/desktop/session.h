@@ -24,6 +24,7 @@ struct SessionOptions
     QSize screen = {1280, 1024};        ///< of the virtual screen, in pixels
     int dpi = 96;                       ///< of the virtual screen
     QMap<QString, QString> environment; ///< added to the program's own; an empty value takes a variable away
+    QByteArray settings;                ///< contents of the program's settings file at the first start
     std::optional<standin::Machine> machine; ///< what libgtop tells the program; the real machine unless set
 };
 
@@ -48,7 +49,8 @@ public:
     /// Waits for the program to end by itself.
     bool waitForExit();
     int exitCode() const; ///< -1 if it runs or was ended by a signal
-    qint64 pid() const;
+    bool isRunning() const;
+    qint64 pid() const; ///< 0 if it doesn't run
     QByteArray standardOutput();
     QByteArray standardError();
 
@@ -95,9 +97,11 @@ public:
 
 private:
     bool startDesktop();
+    bool writeSettings();
     bool startServer();
     bool startWindowManager();
     QProcessEnvironment programEnvironment() const;
+    bool waitForWindow();
     bool connectProbe();
     QByteArray readLine();
     void leaveDoubleClickInterval();

@@ -4,7 +4,6 @@
 #include <QStringList>
 
 #include <X11/XKBlib.h>
-#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
@@ -33,18 +32,35 @@ void XClient::close()
     if (m_display)
         XCloseDisplay(m_display);
     m_display = nullptr;
+    m_shown = 0;
 }
 
-bool XClient::hasWindowManager() const
+bool XClient::hasWindowManager()
+{
+    if (!hasRootProperty("_NET_SUPPORTING_WM_CHECK"))
+        return false;
+    if (m_shown == 0)
+        m_shown = XCreateSimpleWindow(m_display, DefaultRootWindow(m_display), 0, 0, 64, 64, 0, 0, 0);
+    XMapWindow(m_display, m_shown);
+    XSync(m_display, False);
+    XWindowAttributes attributes;
+    if (XGetWindowAttributes(m_display, m_shown, &attributes) == 0 || attributes.map_state != IsViewable)
+        return false;
+    XDestroyWindow(m_display, m_shown);
+    XSync(m_display, False);
+    m_shown = 0;
+    return true;
+}
+
+bool XClient::hasRootProperty(const char *name) const
 {
     Atom type = 0;
     int format = 0;
     unsigned long count = 0;
     unsigned long left = 0;
     unsigned char *data = nullptr;
-    XGetWindowProperty(m_display, DefaultRootWindow(m_display),
-                       XInternAtom(m_display, "_NET_SUPPORTING_WM_CHECK", False), 0, 1, False, XA_WINDOW,
-                       &type, &format, &count, &left, &data);
+    XGetWindowProperty(m_display, DefaultRootWindow(m_display), XInternAtom(m_display, name, False), 0, 1,
+                       False, AnyPropertyType, &type, &format, &count, &left, &data);
     if (data)
         XFree(data);
     return count > 0;

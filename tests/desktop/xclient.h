@@ -24,7 +24,10 @@ public:
     bool open(const QString &display);
     void close();
 
-    bool hasWindowManager() const;
+    /// Whether a window manager is at work: one that starts may announce itself and still miss a window
+    /// that appears at that moment, so this shows it a window and looks whether it is taken up. Ask again
+    /// until it is true; then the window is gone again.
+    bool hasWindowManager();
 
     void moveTo(const QPoint &point);
     /// Mouse buttons: 1 left, 2 middle, 3 right, 4 wheel up, 5 wheel down.
@@ -46,11 +49,13 @@ public:
     QImage screenshot() const;
 
 private:
+    bool hasRootProperty(const char *name) const;
     bool typeKeysym(unsigned long keysym);
     void sendKey(unsigned long keysym, bool down);
     void sendToWindowManager(unsigned long id, const char *message, const long (&data)[5]);
 
     _XDisplay *m_display = nullptr;
+    unsigned long m_shown = 0; ///< the window shown to the window manager, 0 if there is none
 };
 
 #endif

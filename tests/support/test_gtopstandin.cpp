@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/gtopstandin.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <glib.h>
@@ -20,8 +18,6 @@
 #include <glibtop/proctime.h>
 #include <glibtop/procuid.h>
 #include <unistd.h>
-
-#include <stdexcept>
 
 class TestGtopStandin : public QObject
 {
@@ -44,45 +40,10 @@ private Q_SLOTS:
     void processesAreListedByPidAndByUser();
     void aProcessGivesItsData();
     void aProcessCanEndWhileItIsRead();
-    void theTextFormKeepsEveryField();
-    void anEmptyListIsNotAnUnsetOne();
-    void aLineThatCannotBeReadIsNamed_data();
-    void aLineThatCannotBeReadIsNamed();
-    void savingReplacesTheFileInOneStep();
     void callsAreCounted();
 };
 
 namespace {
-
-standin::Machine fullMachine()
-{
-    standin::Machine machine;
-    machine.cpus = {{1, 2}, {3, ~std::uint64_t(0)}};
-    machine.memory = standin::Memory{100, 20, 3, 4};
-    standin::Mount mount{"/dev/sd a", "/mnt/\xff%\n", "", 5, 4, 3, 2, 512, false, 0};
-    mount.fails = true;
-    mount.blocksForMs = 7;
-    machine.mounts = {mount, standin::Mount{}};
-    machine.mountListFails = true;
-    machine.interfaces = {{"eth0", 0x0100007f, 0xff, 11, 12, 13, true}};
-    machine.interfaceListFails = true;
-    standin::Process process;
-    process.parent = -2;
-    process.name = "a b";
-    process.uid = 1000;
-    process.state = 16;
-    process.nice = -20;
-    process.userTime = 1;
-    process.systemTime = 2;
-    process.startTime = 3;
-    process.virtualSize = 4;
-    process.resident = 5;
-    process.shared = 6;
-    process.arguments = std::string("a\0b\0", 4);
-    process.answersBeforeEnd = 2;
-    machine.processes = {{42, process}, {43, standin::Process{}}};
-    return machine;
-}
 
 std::vector<pid_t> listedPids(gint64 which = GLIBTOP_KERN_PROC_ALL, gint64 arg = 0)
 {
@@ -272,8 +233,20 @@ void TestGtopStandin::processesAreListedByPidAndByUser()
 
 void TestGtopStandin::aProcessGivesItsData()
 {
-    standin::machine() = fullMachine();
-    standin::machine().processes->at(42).answersBeforeEnd = -1;
+    standin::Process process;
+    process.parent = -2;
+    process.name = "a b";
+    process.uid = 1000;
+    process.state = 16;
+    process.nice = -20;
+    process.userTime = 1;
+    process.systemTime = 2;
+    process.startTime = 3;
+    process.virtualSize = 4;
+    process.resident = 5;
+    process.shared = 6;
+    process.arguments = std::string("a\0b\0", 4);
+    standin::machine().processes = {{42, process}};
     glibtop_proc_state state;
     glibtop_get_proc_state(&state, 42);
     QCOMPARE(state.cmd, "a b");
@@ -322,85 +295,9 @@ void TestGtopStandin::aProcessCanEndWhileItIsRead()
     }
 }
 
-void TestGtopStandin::theTextFormKeepsEveryField()
-{
-    const std::string text = standin::toText(fullMachine());
-    const standin::Machine read = standin::fromText(text);
-    QCOMPARE(standin::toText(read), text);
-    QCOMPARE(read.mounts->at(0).directory, std::string("/mnt/\xff%\n"));
-    QCOMPARE(read.mounts->at(0).type, std::string());
-    QVERIFY(read.mounts->at(0).fails);
-    QVERIFY(read.mountListFails);
-    QVERIFY(read.interfaceListFails);
-    QVERIFY(read.interfaces->at(0).fails);
-    QCOMPARE(read.cpus->at(1).total, ~std::uint64_t(0));
-    QCOMPARE(read.processes->at(42).arguments, std::string("a\0b\0", 4));
-    QCOMPARE(read.processes->at(42).nice, -20);
-    QCOMPARE(read.processes->at(42).answersBeforeEnd, 2);
-    QCOMPARE(read.processes->at(43).answersBeforeEnd, -1);
-}
-
-void TestGtopStandin::anEmptyListIsNotAnUnsetOne()
-{
-    QCOMPARE(standin::toText({}), std::string());
-    QVERIFY(!standin::fromText("# nothing\n\n").mounts);
-    standin::Machine machine;
-    machine.mounts.emplace();
-    machine.interfaces.emplace();
-    machine.processes.emplace();
-    machine.cpus.emplace();
-    const standin::Machine read = standin::fromText(standin::toText(machine));
-    QVERIFY(read.mounts && read.mounts->empty());
-    QVERIFY(read.interfaces && read.interfaces->empty());
-    QVERIFY(read.processes && read.processes->empty());
-    QVERIFY(read.cpus && read.cpus->empty());
-    QVERIFY(!read.memory);
-}
-
-void TestGtopStandin::aLineThatCannotBeReadIsNamed_data()
-{
-    QTest::addColumn<QByteArray>("line");
-    QTest::newRow("unknown kind") << QByteArray("disk a b");
-    QTest::newRow("unknown field") << QByteArray("cpu busy 5");
-    QTest::newRow("not a number") << QByteArray("cpu idle x");
-    QTest::newRow("out of range") << QByteArray("mount bsize 4294967296");
-    QTest::newRow("cut escape") << QByteArray("net name a%");
-}
-
-void TestGtopStandin::aLineThatCannotBeReadIsNamed()
-{
-    QFETCH(QByteArray, line);
-    QByteArray message;
-    try {
-        standin::fromText(line.toStdString());
-    } catch (const std::runtime_error &error) {
-        message = error.what();
-    }
-    QVERIFY2(message.contains('"' + line + '"'), message.constData());
-}
-
-void TestGtopStandin::savingReplacesTheFileInOneStep()
-{
-    QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("machine"));
-    standin::save(fullMachine(), path.toStdString());
-    QFile opened(path);
-    QVERIFY(opened.open(QIODevice::ReadOnly));
-    standin::save({}, path.toStdString());
-    QCOMPARE(opened.readAll().toStdString(), standin::toText(fullMachine()));
-    QCOMPARE(QFileInfo(path).size(), 0);
-    bool failed = false;
-    try {
-        standin::save({}, directory.filePath(QStringLiteral("no/such")).toStdString());
-    } catch (const std::runtime_error &) {
-        failed = true;
-    }
-    QVERIFY(failed);
-}
-
 void TestGtopStandin::callsAreCounted()
 {
-    standin::machine() = fullMachine();
+    standin::machine().processes.emplace();
     standin::resetCalls();
     glibtop_mem memory;
     glibtop_get_mem(&memory);

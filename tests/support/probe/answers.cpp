@@ -116,7 +116,10 @@ QJsonObject menu(const QString &)
 {
     const auto *const bar = qobject_cast<QMenuBar *>(visibleWidgets("QMenuBar").value(0));
     QJsonArray open;
-    const QWidgetList menus = visibleWidgets("QMenu");
+    QWidgetList menus = visibleWidgets("QMenu");
+    QWidget *const innermost = QApplication::activePopupWidget();
+    if (menus.removeOne(innermost))
+        menus.append(innermost);
     for (const QWidget *each : menus)
         open.append(describeMenu(qobject_cast<const QMenu *>(each)));
     return {{QStringLiteral("bar"), bar ? describeMenuBar(bar) : QJsonArray()},

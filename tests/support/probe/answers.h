@@ -13,7 +13,7 @@ namespace probe {
 ///   widgets CLASS  all visible widgets of that class or derived from it
 ///   tree           all named widgets
 ///   table NAME     an item view, found as by `widget`, with headers and rows
-///   menu           the entries of the menu bar, and the open menus
+///   menu           the entries of the menu bar, and the open menus, the innermost last
 ///   dialog         the active modal dialog with its buttons; {} if there is none
 ///   focus          the widget that has the focus; {} if there is none
 /// A line that can't be answered gives an object with the one key "error".
