@@ -190,8 +190,8 @@
     <message>
         <source>You can set time interval (in secs)
  between updates for page </source>
-        <translation>Hier legen Sie den Zeitabstand (in Sekunden) fest
- zwischen den Aktualisierungen der Seite </translation>
+        <translation>Zeitabstand (in Sekunden) zwischen zwei
+ Aktualisierungen der Seite </translation>
     </message>
 </context>
 <context>

@@ -328,7 +328,7 @@ You would be able to resume it later.</source>
         <source>Are you really want to terminate process?
 Process will have ability to finish normally.</source>
         <translation>本当にプロセスを終了しますか？
-プロセスは正常に終了処理を行えます。</translation>
+プロセスは正常に終了できます。</translation>
     </message>
     <message>
         <source>Process killing</source>
@@ -339,7 +339,7 @@ Process will have ability to finish normally.</source>
 Process will no have ability to finish normally.
 All process data can be lost.</source>
         <translation>本当にプロセスを強制終了しますか？
-プロセスは正常な終了処理を行えません。
+プロセスは正常に終了できません。
 プロセスのすべてのデータが失われる可能性があります。</translation>
     </message>
     <message>

@@ -63,7 +63,7 @@
     </message>
     <message>
         <source>Total space</source>
-        <translation>Całe miejsce</translation>
+        <translation>Całkowite miejsce</translation>
     </message>
     <message>
         <source>Free space</source>

@@ -25,7 +25,10 @@ private Q_SLOTS:
     void theProgramFollowsTheEnvironment();
 
 private:
-    static QList<QTranslator *> translators() { return qApp->findChildren<QTranslator *>(); }
+    static QList<QTranslator *> translators()
+    {
+        return QCoreApplication::instance()->findChildren<QTranslator *>();
+    }
     static void everyTextIsTheSourceText()
     {
         const std::vector<Message> texts = sourceTexts();
@@ -99,7 +102,7 @@ void TestLanguageChoice::everyCatalogueIsChosenByItsOwnName()
 void TestLanguageChoice::theCLocaleLeavesEverySourceTextAsItIs()
 {
     QLocale::setDefault(QLocale::c());
-    installTranslations(qApp);
+    installTranslations(QCoreApplication::instance());
     QVERIFY(translators().isEmpty());
     everyTextIsTheSourceText();
 }
@@ -108,7 +111,7 @@ void TestLanguageChoice::aLocaleWithoutATranslationLeavesEverySourceTextAsItIs()
 {
     for (const char *name : {"fi_FI", "en_US", "ar_EG", "zh_TW"}) {
         QLocale::setDefault(QLocale(QLatin1String(name)));
-        installTranslations(qApp);
+        installTranslations(QCoreApplication::instance());
         QVERIFY2(translators().isEmpty(), name);
     }
     everyTextIsTheSourceText();
@@ -117,7 +120,7 @@ void TestLanguageChoice::aLocaleWithoutATranslationLeavesEverySourceTextAsItIs()
 void TestLanguageChoice::everyTextComesInTheLocalesLanguage()
 {
     QLocale::setDefault(QLocale(QStringLiteral("ru_RU")));
-    installTranslations(qApp);
+    installTranslations(QCoreApplication::instance());
     for (const Message &message : catalogue(QStringLiteral("ru"))) {
         QCOMPARE(QCoreApplication::translate(message.context.toUtf8().constData(),
                                              message.source.toUtf8().constData()),
@@ -132,7 +135,7 @@ void TestLanguageChoice::theToolkitsOwnTextsComeInTheLocalesLanguage()
         QSKIP("the toolkit's own catalogues are not installed");
     }
     QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
-    installTranslations(qApp);
+    installTranslations(QCoreApplication::instance());
     QVERIFY(QCoreApplication::translate("QPlatformTheme", "Close") != QLatin1String("Close"));
     QCOMPARE(translators().size(), 2);
 }
