@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>Neznámé</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>Procesor</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>Unbekannt</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>Prozessor</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>Desconocido</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>Procesador</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

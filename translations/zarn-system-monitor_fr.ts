@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>Inconnu</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>Processeur</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

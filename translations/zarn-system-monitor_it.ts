@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>Sconosciuto</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>Processore</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>不明</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>プロセッサー</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>알 수 없음</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>프로세서</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>Desconhecido</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>Processador</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>Неизвестно</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>Процессор</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>Okänt</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>Processor</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>Bilinmiyor</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>İşlemci</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

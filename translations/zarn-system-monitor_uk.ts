@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>Невідомо</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>Процесор</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>

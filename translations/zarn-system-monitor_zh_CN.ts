@@ -299,6 +299,10 @@
         <source>Unknown</source>
         <translation>未知</translation>
     </message>
+    <message>
+        <source>Processor</source>
+        <translation>处理器</translation>
+    </message>
 </context>
 <context>
     <name>ProcessMenu</name>
