@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/startpage.h"
+#include "app/translations.h"
 #include "app/updater.h"
 #include "integration/zarninit.h"
 #include "process/gtop_wrappers/filler.h"
@@ -34,6 +35,7 @@ int main(int argc, char **argv)
     QCoreApplication::setOrganizationName(QStringLiteral("Telmorra"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("telmorra.example"));
     QCoreApplication::setApplicationName(QStringLiteral("zarn-system-monitor"));
+    installTranslations(&application);
     zarnInit("1.2.2", description);
     const int startPage = startPageFromArguments(argc, argv, std::cout);
     gtop_wrappers::ProcessFiller::instance();

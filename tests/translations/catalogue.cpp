@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "catalogue.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+
+namespace {
+
+const QString prefix = QStringLiteral("zarn-system-monitor_");
+
+Message readMessage(QXmlStreamReader &xml, const QString &context)
+{
+    Message message;
+    message.context = context;
+    while (xml.readNextStartElement()) {
+        if (xml.name() == QLatin1String("source")) {
+            message.source = xml.readElementText();
+        } else if (xml.name() == QLatin1String("translation")) {
+            message.finished = !xml.attributes().hasAttribute(QLatin1String("type"));
+            message.translation = xml.readElementText();
+        } else {
+            xml.skipCurrentElement();
+        }
+    }
+    return message;
+}
+
+std::vector<Message> readFile(const QString &path)
+{
+    std::vector<Message> messages;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return messages;
+    }
+    QXmlStreamReader xml(&file);
+    QString context;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (!xml.isStartElement()) {
+            continue;
+        }
+        if (xml.name() == QLatin1String("name")) {
+            context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("message")) {
+            messages.push_back(readMessage(xml, context));
+        }
+    }
+    return xml.hasError() ? std::vector<Message>() : messages;
+}
+
+} // namespace
+
+QStringList catalogueLanguages()
+{
+    QStringList languages;
+    const QStringList files =
+        QDir(QStringLiteral(ZSM_TRANSLATIONS)).entryList({prefix + QLatin1String("*.ts")}, QDir::Files);
+    for (const QString &file : files) {
+        languages << file.mid(prefix.size()).section(QLatin1Char('.'), 0, 0);
+    }
+    return languages;
+}
+
+std::vector<Message> catalogue(const QString &language)
+{
+    return readFile(QStringLiteral(ZSM_TRANSLATIONS "/") + prefix + language + QLatin1String(".ts"));
+}
+
+std::vector<Message> sourceTexts()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("texts.ts"));
+    QProcess update;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LUPDATE"), QStringLiteral(ZSM_LUPDATE));
+    update.setProcessEnvironment(environment);
+    update.setStandardErrorFile(QProcess::nullDevice());
+    update.start(QStringLiteral(ZSM_TRANSLATIONS "/update.sh"), {file});
+    update.waitForFinished();
+    return readFile(file);
+}
