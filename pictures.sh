@@ -18,7 +18,9 @@ cleanup() {
 }
 trap cleanup EXIT
 
-Xvfb -displayfd 3 -screen 0 "${SIZE:-1280x1024}x24" -dpi "${DPI:-96}" -nolisten tcp 3>"$work/display" 2>"$work/xvfb.log" &
+# Without -noreset, the server starts over whenever its last client leaves, and drops those that are just coming.
+Xvfb -displayfd 3 -screen 0 "${SIZE:-1280x1024}x24" -dpi "${DPI:-96}" -nolisten tcp -noreset \
+    3>"$work/display" 2>"$work/xvfb.log" &
 children+=($!)
 for _ in $(seq 100); do
     [ -s "$work/display" ] && break
@@ -32,6 +34,11 @@ mkdir -m 700 "$work/config" "$work/runtime"
 export XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime
 openbox >"$work/openbox.log" 2>&1 &
 children+=($!)
+# A window that comes while the window manager is still starting is never shown.
+for _ in $(seq 100); do
+    xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id' && break
+    sleep 0.1
+done
 
 # picture <tab> <file>: starts the program on a page, takes the picture after a few refreshes, ends it.
 picture() {

@@ -5,6 +5,6 @@ set -euo pipefail
 cd "$(dirname "$0")"
 . ./setup.sh
 
-need_packages $build_packages $window_packages
+need_packages $build_packages $window_packages $check_packages
 build asan
 ctest --test-dir build/asan --output-on-failure -j "$(nproc)" "$@"
