@@ -52,7 +52,7 @@ public:
     bool isRunning() const;
     qint64 pid() const; ///< 0 if it doesn't run
     QByteArray standardOutput();
-    QByteArray standardError();
+    QByteArray standardError(); ///< without what the toolkit says of windows of the window manager
 
     QString home() const;
     QString settingsFile() const; ///< where the program keeps its settings, there or not

@@ -206,7 +206,8 @@ void TestShell::everyPageIsDrawnAtEachResolution()
         QVERIFY(session.waitFor([&] {
             return session.widget(QLatin1String(shownWidgets[page])).value(QLatin1String("visible")).toBool();
         }));
-        QVERIFY(session.savePicture(QStringLiteral("page%1-%2dpi").arg(page + 1).arg(dpi)));
+        QVERIFY2(session.savePicture(QStringLiteral("page%1-%2dpi").arg(page + 1).arg(dpi)),
+                 qPrintable(session.error()));
     }
     QCOMPARE(session.standardError(), QByteArray());
 }
