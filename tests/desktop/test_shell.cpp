@@ -231,10 +231,6 @@ void TestShell::atTheFirstStartTheTitleBarIsOnTheScreen()
     const QRect frame = rectOf(session.mainWindow().value(QLatin1String("frame")));
     const QRect client = rectOf(session.mainWindow().value(QLatin1String("rect")));
     QVERIFY2(frame.top() < client.top(), "the window manager draws a title bar");
-    // Known defect: the rows grow when they are polished, after the window was placed, and the toolkit then
-    // places the window's inside where its frame was asked for.
-    QEXPECT_FAIL("8", "the title bar is above the screen", Continue);
-    QEXPECT_FAIL("16", "the title bar is above the screen", Continue);
     QVERIFY2(frame.top() >= 0, qPrintable(QString::number(frame.top())));
 }
 
