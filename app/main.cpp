@@ -35,6 +35,8 @@ int main(int argc, char **argv)
     QCoreApplication::setOrganizationName(QStringLiteral("Telmorra"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("telmorra.example"));
     QCoreApplication::setApplicationName(QStringLiteral("zarn-system-monitor"));
+    // Under Wayland a task bar finds the menu entry, and with it the icon, by this name.
+    QGuiApplication::setDesktopFileName(QStringLiteral("zarn-system-monitor"));
     installTranslations(&application);
     zarnInit("1.2.2", description);
     const int startPage = startPageFromArguments(argc, argv, std::cout);

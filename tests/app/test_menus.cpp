@@ -308,10 +308,11 @@ void TestMenus::aThousandContextMenusLeaveNothingBehind()
     for (int i = 0; i < 1000; ++i) {
         open();
     }
-    QCOMPARE(QApplication::allWidgets().size(), widgets);
-    QCOMPARE(fixture->updater().findChildren<QObject *>().size() +
-                 Fixture::window()->findChildren<QObject *>().size(),
-             objects);
+    // Not more than before; the toolkit drops things of its own now and then.
+    QVERIFY(QApplication::allWidgets().size() <= widgets);
+    QVERIFY(fixture->updater().findChildren<QObject *>().size()
+                + Fixture::window()->findChildren<QObject *>().size()
+            <= objects);
     QCOMPARE(processEntry()->actions().size(), entries);
 }
 
