@@ -19,6 +19,14 @@ QRect availableGeometry()
     return screen == nullptr ? QRect() : screen->availableGeometry();
 }
 
+// Any number is taken as it is; what is no number at all counts as not stored.
+int readableInterval(const QVariant &value)
+{
+    bool readable = false;
+    const int ticks = value.toInt(&readable);
+    return readable ? ticks : settings::defaultInterval;
+}
+
 } // namespace
 
 void Updater::loadSettings()
@@ -28,7 +36,7 @@ void Updater::loadSettings()
     zarnRestoreGeometry(&mainWindow, &stored, defaultGeometry(availableGeometry()), false);
     for (int page = 0; page < settings::pageCount; ++page) {
         const QString key = QLatin1String(settings::intervalKeys[page].readFrom);
-        intervals->setInterval(page, stored.value(key, settings::defaultInterval).toInt());
+        intervals->setInterval(page, readableInterval(stored.value(key, settings::defaultInterval)));
     }
     for (unsigned long i = 0; i < filler->size(); ++i) {
         const QString key = settings::columnKey(filler->name(i));

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void aBadFileGivesTheDefaultsAndNoMessage();
     void aFolderInPlaceOfTheFileIsSurvived();
     void wrongTypesAreSurvived();
+    void intervalsThatAreNoNumbersAreTheDefault();
     void aSortColumnThatIsNotThereIsSurvived_data();
     void aSortColumnThatIsNotThereIsSurvived();
     void anIntervalOfZeroFromTheFileIsDueOnEveryTick();
@@ -291,6 +292,19 @@ void TestSettings::wrongTypesAreSurvived()
         fixture->start(1);
         QMetaObject::invokeMethod(&fixture->updater(), "update");
         fixture->stop();
+    }
+}
+
+void TestSettings::intervalsThatAreNoNumbersAreTheDefault()
+{
+    for (const char *key : {"interval/general", "interval/procs", "interval/fs", "interval/net"}) {
+        store(key, QStringLiteral("often"));
+    }
+    fixture->start(0);
+    QCOMPARE(generalRefreshesOf(12), 4);
+    fixture->stop();
+    for (const char *key : {"interval/general", "interval/procs", "interval/fs", "interval/nwt"}) {
+        QCOMPARE(stored(key).toInt(), 3);
     }
 }
 
