@@ -2,7 +2,7 @@
 # Sourced by run.sh, test.sh, package.sh and bench.sh: installs Debian packages that are missing, and builds.
 
 build_packages="g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools libgtop2-dev libglib2.0-dev"
-window_packages="xvfb xauth openbox xdotool imagemagick x11-utils fonts-dejavu-core"
+window_packages="xvfb xauth openbox xdotool imagemagick x11-utils fonts-dejavu-core libxtst-dev"
 check_packages="appstream desktop-file-utils file man-db valgrind"
 
 # need_packages <package>...: installs what is missing, as root or through sudo; elsewhere says what to install.
