@@ -3,7 +3,7 @@
 
 build_packages="g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools libgtop2-dev libglib2.0-dev"
 window_packages="xvfb xauth openbox xdotool imagemagick x11-utils fonts-dejavu-core libxtst-dev"
-check_packages="appstream desktop-file-utils file man-db valgrind"
+check_packages="appstream desktop-file-utils file man-db valgrind iproute2 e2fsprogs"
 
 # need_packages <package>...: installs what is missing, as root or through sudo; elsewhere says what to install.
 need_packages() {

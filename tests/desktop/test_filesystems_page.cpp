@@ -288,8 +288,9 @@ void TestFileSystemsPage::eachOfFiveHundredMountsCanBeChosen()
     start(mounts);
     QVERIFY(m_session->waitFor([&] { return mountPoints().size() == 500; }));
     QVERIFY2(m_session->clickRow(QStringLiteral("tableFS"), QStringLiteral("Mountpoint"),
-                                 QStringLiteral("/m1000")),
+                                 QStringLiteral("/m1003")),
              qPrintable(m_session->error()));
+    QVERIFY(waitForDevice("/dev/disk3"));
     QVERIFY(m_session->key(QStringLiteral("End")));
     QVERIFY(waitForDevice("/dev/disk499"));
     QVERIFY(waitForPie("bbbbbbbb"));
