@@ -25,6 +25,8 @@ QScrollArea *scrollAreaOf(QWidget *page)
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setMinimumWidth(page->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    // It is this page that keeps the window from getting too flat for the others' chart and graph.
+    area->setMinimumHeight(area->minimumWidth() / 2);
     area->setWidget(page);
     // The ground of the tab shines through, as on a page that doesn't scroll.
     page->setAutoFillBackground(false);
