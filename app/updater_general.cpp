@@ -15,9 +15,10 @@
 namespace {
 
 constexpr int frameHeight = 40; // what a window manager's frame may take of the screen
+constexpr int leastLines = 20;  // of text, in the page that scrolls
 
 // Frameless, vertical only, and as wide as the page needs.
-QScrollArea *scrollAreaOf(QWidget *page)
+QScrollArea *scrollAreaOf(QWidget *page, int screenHeight)
 {
     auto *area = new QScrollArea;
     area->setObjectName(QStringLiteral("generalScroll"));
@@ -26,7 +27,7 @@ QScrollArea *scrollAreaOf(QWidget *page)
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setMinimumWidth(page->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
     // It is this page that keeps the window from getting too flat for the others' chart and graph.
-    area->setMinimumHeight(area->minimumWidth() / 2);
+    area->setMinimumHeight(qMin(area->fontMetrics().lineSpacing() * leastLines, screenHeight / 2));
     area->setWidget(page);
     // The ground of the tab shines through, as on a page that doesn't scroll.
     page->setAutoFillBackground(false);
@@ -72,7 +73,7 @@ void Updater::scrollGeneralPageIfTooHigh()
     const QString title = ui.tabWidget->tabText(GeneralPage);
     const bool signalsWereBlocked = ui.tabWidget->blockSignals(true);
     ui.tabWidget->removeTab(GeneralPage);
-    ui.tabWidget->insertTab(GeneralPage, scrollAreaOf(ui.tab), title);
+    ui.tabWidget->insertTab(GeneralPage, scrollAreaOf(ui.tab, screen->availableGeometry().height()), title);
     ui.tabWidget->setCurrentIndex(GeneralPage);
     ui.tabWidget->blockSignals(signalsWereBlocked);
     forgetWindowSizes();

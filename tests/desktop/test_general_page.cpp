@@ -229,7 +229,9 @@ void TestGeneralPage::theWindowOpensAtItsDefaultSizeAndEachGaugeCanBeReached()
     const QJsonObject window = m_session->mainWindow();
     const QRect rect = rectOf(window.value(QLatin1String("rect")));
     QVERIFY2(QRect(0, 0, 1280, 1024).contains(rect), "the window is on the screen");
-    const QSize least = rectOf(window.value(QLatin1String("minimumSize"))).size();
+    const bool scrolls = m_session->widget(QStringLiteral("generalScroll")).contains(QLatin1String("rect"));
+    QVERIFY(scrolls ? cpus > 2 : cpus < 64);
+    const QSize least = scrolls ? QSize() : rectOf(window.value(QLatin1String("minimumSize"))).size();
     QCOMPARE(rect.size(), QSize(640, 480).expandedTo(least));
     QCOMPARE(m_session->widgets(QStringLiteral("QProg")).size(), cpus + 2);
     if (lastGaugeIsShown())
