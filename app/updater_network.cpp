@@ -4,30 +4,34 @@
 #include "resources/timehisto.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QScrollBar>
 
 namespace {
 
-/// Where the user is in the open list of a chooser, by position as the choice itself.
+/// The open list of a chooser; null while it is closed.
+QAbstractItemView *openList(const QComboBox *chooser)
+{
+    const QWidget *popup = QApplication::activePopupWidget();
+    return popup != nullptr && popup->parent() == chooser ? chooser->view() : nullptr;
+}
+
+/// Where the user is in the open list, by position as the choice itself.
 struct ListPlace
 {
-    bool open;
     int highlighted; ///< -1 if no row is
     int scrolled;
 };
 
 ListPlace placeIn(const QAbstractItemView *list)
 {
-    return {list->isVisible(), list->currentIndex().row(), list->verticalScrollBar()->value()};
+    return {list->currentIndex().row(), list->verticalScrollBar()->value()};
 }
 
 // A list that is filled anew has no row highlighted and begins at its top: without this, nobody could look
 // for an entry, nor choose one by key, for longer than an update interval.
 void restore(const ListPlace &place, QAbstractItemView *list)
 {
-    if (!place.open) {
-        return;
-    }
     list->setCurrentIndex(list->model()->index(place.highlighted, 0));
     list->doItemsLayout();
     list->verticalScrollBar()->setValue(place.scrolled);
@@ -38,12 +42,15 @@ void restore(const ListPlace &place, QAbstractItemView *list)
 void Updater::refreshNetwork()
 {
     netDevices = collectNetDevices();
-    const ListPlace place = placeIn(ui.comboNet->view());
+    QAbstractItemView *const open = openList(ui.comboNet);
+    const ListPlace place = open != nullptr ? placeIn(open) : ListPlace();
     ui.comboNet->clear();
     for (const NetRec &device : netDevices) {
         ui.comboNet->addItem(device.name);
     }
-    restore(place, ui.comboNet->view());
+    if (open != nullptr) {
+        restore(place, open);
+    }
     // Meant: the choice is kept by its position in the list and not by its name.
     if (currentNetDevice != -1) {
         ui.comboNet->setCurrentIndex(currentNetDevice);

@@ -6,6 +6,7 @@
 #include "integration/geometry.h"
 #include "process/gtop_wrappers/filler.h"
 #include "process/proxyprocmodel.h"
+#include "resources/timehisto.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -37,6 +38,9 @@ void Updater::loadSettings()
     for (int page = 0; page < settings::pageCount; ++page) {
         const QString key = QLatin1String(settings::intervalKeys[page].readFrom);
         intervals->setInterval(page, readableInterval(stored.value(key, settings::defaultInterval)));
+    }
+    if (intervals->interval(NetworkPage) != settings::defaultInterval) {
+        timeHisto->setInterval(intervals->interval(NetworkPage)); // or its times would be wrong
     }
     for (unsigned long i = 0; i < filler->size(); ++i) {
         const QString key = settings::columnKey(filler->name(i));
