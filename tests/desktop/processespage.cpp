@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/processespage.h"
 
-#include <QFileInfo>
+#include <QJsonArray>
 
 #include <unistd.h>
 
@@ -103,6 +103,18 @@ bool ProcessesPage::waitForMenu(const QString &entry, int deadlineMs)
     return m_session.waitFor(
         [&] { return !rectOf(m_session.menuEntry(entry).value(QLatin1String("rect"))).isEmpty(); },
         deadlineMs);
+}
+
+// A key may overtake a click on its way through the window manager: the page is there when this returns.
+bool ProcessesPage::showPage(const QString &tab)
+{
+    const auto isShown = [&] {
+        const QJsonObject tabs = m_session.widget(QStringLiteral("tabWidget"));
+        const QJsonValue current =
+            tabs.value(QLatin1String("tabs")).toArray().at(tabs.value(QLatin1String("currentIndex")).toInt());
+        return current[QLatin1String("text")].toString() == tab;
+    };
+    return m_session.clickTab(tab) && m_session.waitFor(isShown);
 }
 
 bool ProcessesPage::closeMenus()

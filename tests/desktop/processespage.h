@@ -30,6 +30,8 @@ public:
     bool openContextMenuOnEmptySpace();
     /// "Process" in the "Edit" menu.
     bool openProcessMenu();
+    /// The page of that tab.
+    bool showPage(const QString &tab);
     bool closeMenus();
     bool waitForDialog(const QString &title);
     bool waitForNoDialog();
