@@ -67,9 +67,9 @@ bool ProcessesPage::waitForNoRow(int pid)
 bool ProcessesPage::select(int pid)
 {
     return m_session.waitFor([&] {
-        return isSelected(pid) || (m_session.clickRow(QStringLiteral("treeView"), QStringLiteral("PID"),
-                                                      QString::number(pid)) &&
-                                   isSelected(pid));
+        return isSelected(pid) ||
+               (m_session.clickRow(QStringLiteral("treeView"), QStringLiteral("PID"), QString::number(pid)) &&
+                isSelected(pid));
     });
 }
 
@@ -87,8 +87,7 @@ bool ProcessesPage::openContextMenu(int pid)
 bool ProcessesPage::openContextMenuOnEmptySpace()
 {
     const QRect viewport = list().viewport;
-    return m_session.click(
-               [&] { return QRect(viewport.bottomLeft() + QPoint(5, -8), QSize(4, 4)); }, 3) &&
+    return m_session.click([&] { return QRect(viewport.bottomLeft() + QPoint(5, -8), QSize(4, 4)); }, 3) &&
            waitForMenu(QStringLiteral("Visible columns"));
 }
 
@@ -132,5 +131,21 @@ bool ProcessesPage::waitForDialog(const QString &title)
 
 bool ProcessesPage::waitForNoDialog()
 {
-    return m_session.waitFor([&] { return m_session.probe(QStringLiteral("dialog")).isEmpty(); });
+    return m_session.waitFor([&] {
+        return m_session.probe(QStringLiteral("dialog")).isEmpty() &&
+               m_session.mainWindow().value(QLatin1String("active")).toBool();
+    });
+}
+
+bool ProcessesPage::dismissAll()
+{
+    const bool closed = closeMenus() && m_session.waitFor([&] {
+        return m_session.dialog().isEmpty() || (m_session.key(QStringLiteral("Escape")) && false);
+    });
+    return closed && waitForNoDialog();
+}
+
+bool ProcessesPage::quit()
+{
+    return dismissAll() && m_session.key(QStringLiteral("ctrl+q")) && m_session.waitForExit();
 }

@@ -34,7 +34,12 @@ public:
     bool showPage(const QString &tab);
     bool closeMenus();
     bool waitForDialog(const QString &title);
+    /// And for the main window to be where the keys go.
     bool waitForNoDialog();
+    /// Closes open menus and dialogs with Escape.
+    bool dismissAll();
+    /// With Ctrl+Q.
+    bool quit();
 
 private:
     bool waitForMenu(const QString &entry, int deadlineMs = desktopDeadline);

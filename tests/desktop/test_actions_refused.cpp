@@ -58,18 +58,14 @@ void TestActionsRefused::cleanup()
         qWarning("%s", qPrintable(m_session->error()));
         m_session->savePicture(QLatin1String("failed-") + QLatin1String(QTest::currentTestFunction()));
     }
-    m_page->closeMenus();
-    QVERIFY(m_session->waitFor([&] {
-        return m_session->dialog().isEmpty() || (m_session->key(QStringLiteral("Escape")) && false);
-    }));
+    QVERIFY(m_page->dismissAll());
 }
 
 void TestActionsRefused::cleanupTestCase()
 {
     if (!m_session)
         return;
-    QVERIFY(m_session->key(QStringLiteral("ctrl+q")));
-    QVERIFY2(m_session->waitForExit(), qPrintable(m_session->error()));
+    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
     QCOMPARE(m_session->standardError(), QByteArray());
     QCOMPARE(m_session->exitCode(), 0);
 }

@@ -57,11 +57,7 @@ void TestDialogsInterval::cleanup()
         qWarning("%s", qPrintable(m_session->error()));
         m_session->savePicture(QLatin1String("failed-") + QLatin1String(QTest::currentTestFunction()));
     }
-    QVERIFY(m_session->waitFor([&] {
-        return m_session->dialog().isEmpty() || (m_session->key(QStringLiteral("Escape")) && false);
-    }));
-    QVERIFY(m_session->key(QStringLiteral("ctrl+q")));
-    QVERIFY2(m_session->waitForExit(), qPrintable(m_session->error()));
+    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
     QCOMPARE(m_session->standardError(), QByteArray());
     QCOMPARE(m_session->exitCode(), 0);
 }
@@ -122,7 +118,8 @@ bool TestDialogsInterval::aTickHasPassed()
     const int pid = 1000 + int(m_machine.processes->size());
     (*m_machine.processes)[pid] = process;
     m_session->setMachine(m_machine);
-    return m_session->waitFor([&] { return m_page->list().find(QStringLiteral("PID"), QString::number(pid)) >= 0; });
+    return m_session->waitFor(
+        [&] { return m_page->list().find(QStringLiteral("PID"), QString::number(pid)) >= 0; });
 }
 
 QString TestDialogsInterval::graph()
@@ -208,11 +205,9 @@ void TestDialogsInterval::anAcceptedIntervalIsUsed()
     QVERIFY(m_session->waitFor([&] { return okIsEnabled(); }));
     QCOMPARE(m_session->text(QStringLiteral("lblMemFree")), before);
     QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_session->waitFor([&] {
-        return m_session->text(QStringLiteral("lblMemFree")).startsWith(QStringLiteral("3.00 MB"));
-    }));
-    QVERIFY(m_session->key(QStringLiteral("ctrl+q")));
-    QVERIFY(m_session->waitForExit());
+    QVERIFY(m_session->waitFor(
+        [&] { return m_session->text(QStringLiteral("lblMemFree")).startsWith(QStringLiteral("3.00 MB")); }));
+    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
     QFile file(m_session->settingsFile());
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readAll().contains("\ngeneral=1\n"));
