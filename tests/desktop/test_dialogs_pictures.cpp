@@ -5,6 +5,32 @@
 #include <QJsonArray>
 #include <QtTest>
 
+namespace {
+
+// The toolkit's only platform theme that reads the colors of widgets from a file.
+void takeDesktopColors(SessionOptions &options)
+{
+    options.environment[QStringLiteral("QT_QPA_PLATFORMTHEME")] = QStringLiteral("kde");
+    options.environment[QStringLiteral("XDG_CURRENT_DESKTOP")] = QStringLiteral("KDE");
+    options.environment[QStringLiteral("KDE_SESSION_VERSION")] = QStringLiteral("5");
+    options.environment[QStringLiteral("QT_STYLE_OVERRIDE")] = QStringLiteral("fusion");
+}
+
+void writeDarkColors(const QString &home)
+{
+    const QByteArray background = "BackgroundNormal=40,44,52\nBackgroundAlternate=48,52,60\n";
+    const QByteArray foreground = "ForegroundNormal=235,235,235\nForegroundInactive=150,150,150\n"
+                                  "ForegroundLink=100,160,255\nForegroundVisited=180,140,255\n";
+    QByteArray text;
+    for (const char *group : {"Window", "View", "Button", "Tooltip"})
+        text += "[Colors:" + QByteArray(group) + "]\n" + background + foreground;
+    text += "[Colors:Selection]\nBackgroundNormal=60,110,180\n" + foreground;
+    QFile file(home + QStringLiteral("/.config/kdeglobals"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+}
+
+} // namespace
+
 // Every menu and dialog, drawn for a look at them; nothing in a dialog is cut off.
 class TestDialogsPictures : public QObject
 {
@@ -29,21 +55,31 @@ void TestDialogsPictures::everyMenuAndDialogIsDrawn_data()
 {
     QTest::addColumn<int>("dpi");
     QTest::addColumn<QSize>("screen");
-    QTest::newRow("96 dpi") << 96 << QSize(1024, 768);
-    QTest::newRow("192 dpi") << 192 << QSize(2048, 1536);
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("96 dpi") << 96 << QSize(1024, 768) << false;
+    QTest::newRow("192 dpi") << 192 << QSize(2048, 1536) << false;
+    QTest::newRow("dark") << 96 << QSize(1024, 768) << true;
 }
 
 void TestDialogsPictures::everyMenuAndDialogIsDrawn()
 {
     QFETCH(int, dpi);
     QFETCH(QSize, screen);
+    QFETCH(bool, dark);
     SessionOptions options;
     options.dpi = dpi;
     options.screen = screen;
-    m_suffix = QStringLiteral("-%1dpi").arg(dpi);
+    m_suffix = dark ? QStringLiteral("-dark") : QStringLiteral("-%1dpi").arg(dpi);
+    if (dark)
+        takeDesktopColors(options);
     m_session = std::make_unique<DesktopSession>(asTestUser(options));
     m_page = std::make_unique<ProcessesPage>(*m_session);
     QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
+    if (dark) { // the home is there now
+        QVERIFY(m_page->quit());
+        writeDarkColors(m_session->home());
+        QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
+    }
     const SampleProcess sample(QStringLiteral("pic"), SampleProcess::Sleeping, testUser());
     QVERIFY(sample.isReady());
     QVERIFY(m_page->waitForRow(sample.pid()));

@@ -72,16 +72,16 @@ void TestSettingsRounds::whatIsChangedIsThereAtTheNextStart()
         [&] { return !m_page->list().visibleHeaders().contains(QStringLiteral("User")); }));
 
     QVERIFY(m_page->showPage(QStringLiteral("File systems")));
-    const auto tableHeight = [&] {
-        return rectOf(m_session->widget(QStringLiteral("tableFS")).value(QLatin1String("rect"))).height();
+    const auto tableWidth = [&] {
+        return rectOf(m_session->widget(QStringLiteral("tableFS")).value(QLatin1String("rect"))).width();
     };
     const QSize size(900, 640);
     QVERIFY(m_session->resizeMainWindow(size));
     const QRect table = rectOf(m_session->widget(QStringLiteral("tableFS")).value(QLatin1String("rect")));
-    const QPoint handle(table.center().x(), table.bottom() + 3);
-    m_session->drag(handle, handle - QPoint(0, 40));
-    QVERIFY(m_session->waitFor([&] { return tableHeight() < table.height(); }));
-    const int height = tableHeight();
+    const QPoint handle(table.right() + 3, table.center().y());
+    m_session->drag(handle, handle - QPoint(60, 0));
+    QVERIFY(m_session->waitFor([&] { return tableWidth() < table.width(); }));
+    const int width = tableWidth();
 
     QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
     QCOMPARE(m_session->exitCode(), 0);
@@ -94,7 +94,7 @@ void TestSettingsRounds::whatIsChangedIsThereAtTheNextStart()
 
     QVERIFY2(m_session->start({QStringLiteral("filesystems")}), qPrintable(m_session->error()));
     QCOMPARE(rectOf(m_session->mainWindow().value(QLatin1String("rect"))).size(), size);
-    QVERIFY(m_session->waitFor([&] { return tableHeight() == height; }));
+    QVERIFY(m_session->waitFor([&] { return tableWidth() == width; }));
     QVERIFY(m_page->showPage(QStringLiteral("Processes")));
     QVERIFY(!m_page->list().visibleHeaders().contains(QStringLiteral("User")));
     QCOMPARE(m_page->list().sortSection, 1);
