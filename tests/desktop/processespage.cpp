@@ -123,10 +123,10 @@ bool ProcessesPage::closeMenus()
     });
 }
 
-bool ProcessesPage::waitForDialog(const QString &title)
+bool ProcessesPage::waitForDialog(const QString &title, int deadlineMs)
 {
     return m_session.waitFor(
-        [&] { return m_session.dialog().value(QLatin1String("title")).toString() == title; });
+        [&] { return m_session.dialog().value(QLatin1String("title")).toString() == title; }, deadlineMs);
 }
 
 bool ProcessesPage::waitForNoDialog()

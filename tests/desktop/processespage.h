@@ -33,7 +33,7 @@ public:
     /// The page of that tab.
     bool showPage(const QString &tab);
     bool closeMenus();
-    bool waitForDialog(const QString &title);
+    bool waitForDialog(const QString &title, int deadlineMs = desktopDeadline);
     /// And for the main window to be where the keys go.
     bool waitForNoDialog();
     /// Closes open menus and dialogs with Escape.

@@ -104,7 +104,13 @@ bool TestActionsSignals::trigger(Way way, const Command &command, int pid)
 // The box is the required one, and Cancel its default.
 bool TestActionsSignals::ask(Way way, const Command &command, int pid)
 {
-    if (!trigger(way, command, pid) || !m_page->waitForDialog(QLatin1String(command.title)))
+    const int patience = 4000; // a click on a loaded machine may find its menu closed
+    const bool asked = m_session->waitFor([&] {
+        return (trigger(way, command, pid) &&
+                m_page->waitForDialog(QLatin1String(command.title), patience)) ||
+               (m_page->dismissAll() && false);
+    });
+    if (!asked)
         return false;
     const QJsonObject box = m_session->dialog();
     QMap<QString, bool> isDefault;
