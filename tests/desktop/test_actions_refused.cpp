@@ -46,7 +46,8 @@ void TestActionsRefused::initTestCase()
     if (testUser() < 0)
         QSKIP("only root can start processes of two users");
     SessionOptions options;
-    options.settings = "[interval]\nprocs=1\n[column]\nNice=true\n";
+    // By user: ids without a name come first, where the list of all processes stands still.
+    options.settings = "[General]\nproc_sort_column=3\n[interval]\nprocs=1\n[column]\nNice=true\n";
     m_session = std::make_unique<DesktopSession>(asTestUser(options));
     m_page = std::make_unique<ProcessesPage>(*m_session);
     QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));

@@ -30,7 +30,7 @@ const Command killCommand = {"Kill process", "ctrl+k", "Process killing",
                              "normally.\nAll process data can be lost."};
 
 /// The ways of a user to a command.
-enum Way { MenuBar, ContextMenu, Shortcut };
+enum Way { MenuBar, Shortcut };
 
 } // namespace
 
@@ -93,8 +93,6 @@ bool TestActionsSignals::trigger(Way way, const Command &command, int pid)
     switch (way) {
     case MenuBar:
         return m_page->select(pid) && m_page->openProcessMenu() && m_session->clickMenu(entry);
-    case ContextMenu:
-        return m_page->openContextMenu(pid) && m_session->clickMenu(entry);
     case Shortcut:
         break;
     }
@@ -131,7 +129,6 @@ void TestActionsSignals::everyWayAsksAndSendsTheSignal_data()
 {
     QTest::addColumn<int>("way");
     QTest::newRow("menu bar") << int(MenuBar);
-    QTest::newRow("context menu") << int(ContextMenu);
     QTest::newRow("shortcut") << int(Shortcut);
 }
 
@@ -216,7 +213,8 @@ void TestActionsSignals::aShortcutActsOnTheRowThatIsHighlighted()
     const SampleProcess first(QStringLiteral("one"), SampleProcess::Sleeping, testUser());
     const SampleProcess second(QStringLiteral("two"), SampleProcess::Sleeping, testUser());
     QVERIFY(first.isReady() && second.isReady());
-    QVERIFY(m_page->openContextMenu(first.pid())); // the process of the last menu
+    QVERIFY(m_page->select(first.pid()));
+    QVERIFY(m_page->openProcessMenu()); // the process of the last menu
     QVERIFY(m_page->closeMenus());
     QVERIFY(m_page->select(second.pid()));
     QVERIFY(m_session->key(QStringLiteral("ctrl+k")));
@@ -279,7 +277,7 @@ void TestActionsSignals::onOtherPagesTheShortcutsDoNothing()
     QVERIFY(m_page->showPage(QStringLiteral("Processes")));
     QVERIFY(m_session->waitFor([&] { return m_page->isSelected(sample.pid()); }));
     QVERIFY(m_session->dialog().isEmpty());
-    QVERIFY2(ask(ContextMenu, killCommand, sample.pid()), "a tree or all processes would be shown otherwise");
+    QVERIFY2(ask(MenuBar, killCommand, sample.pid()), "a tree or all processes would be shown otherwise");
     QVERIFY(m_session->key(QStringLiteral("Escape")));
     QVERIFY(m_page->waitForNoDialog());
     QVERIFY(m_page->openProcessMenu());
