@@ -12,6 +12,10 @@ void Updater::refreshProcesses()
     procModel->setTotalCpuTime(totalCpuTime());
     const auto types = static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes());
     procModel->refresh(filler->getProcesses(types), 0);
+    // The selected process may have stopped, gone on or ended, and the shortcuts go by what is known of it.
+    if (ui.tabWidget->currentIndex() == ProcessesPage) {
+        updateProcessActions();
+    }
 }
 
 QMenu *Updater::menuVisibleColumns()

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void offTheProcessesPageItsShortcutsAreDead();
     void aboutToShowBringsTheMenusUpToDate();
     void aChangedSelectionReachesTheActionsAtOnce();
+    void aStateThatChangesReachesTheActionsWithTheRefresh();
+    void aRefreshOnAnotherPageEnablesNothing();
     void aResetLeavesNoProcessSelected();
     void theContextMenuHasTheActionsAndTheColumns();
     void theContextMenuIsATickWhateverWasChosen();
@@ -201,6 +203,29 @@ void TestMenus::aChangedSelectionReachesTheActionsAtOnce()
     QVERIFY(!processAction("Kill process")->isVisible());
     QVERIFY(!processAction("Stop process")->isEnabled());
     QVERIFY(!processAction("Continue process")->isEnabled());
+}
+
+void TestMenus::aStateThatChangesReachesTheActionsWithTheRefresh()
+{
+    startOnProcesses();
+    select(2);
+    QVERIFY(processAction("Stop process")->isEnabled());
+    (*standin::machine().processes)[300].state = 16;
+    for (int i = 0; i < 3; ++i) {
+        QMetaObject::invokeMethod(&fixture->updater(), "update");
+    }
+    QVERIFY(!processAction("Stop process")->isEnabled());
+    QVERIFY(processAction("Continue process")->isEnabled());
+}
+
+void TestMenus::aRefreshOnAnotherPageEnablesNothing()
+{
+    startOnProcesses();
+    select(2);
+    Fixture::choosePage(0);
+    QMetaObject::invokeMethod(&fixture->updater(), "update", Q_ARG(bool, true));
+    QVERIFY(!processAction("Stop process")->isEnabled());
+    QVERIFY(!processAction("Kill process")->isEnabled());
 }
 
 void TestMenus::aResetLeavesNoProcessSelected()

@@ -30,6 +30,12 @@ bool SampleProcess::sendSignal(int signal) const
     return pid() > 0 && ::kill(pid(), signal) == 0;
 }
 
+int SampleProcess::endedBy() const
+{
+    const bool ended = m_process.state() == QProcess::NotRunning;
+    return ended && m_process.exitStatus() == QProcess::CrashExit ? m_process.exitCode() : 0;
+}
+
 char SampleProcess::state() const
 {
     QFile file(QStringLiteral("/proc/%1/stat").arg(pid()));

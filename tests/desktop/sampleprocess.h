@@ -25,7 +25,8 @@ public:
     int pid() const { return static_cast<int>(m_process.processId()); }
     QString childName() const { return m_name + QLatin1Char('c'); } ///< that of a Parent's children
     bool sendSignal(int signal) const;
-    char state() const; ///< the kernel's letter: S sleeping, R running, T stopped, Z ended; 0 if it is gone
+    int endedBy() const; ///< the signal that has ended it; 0 if it runs or has ended otherwise
+    char state() const;  ///< the kernel's letter: S sleeping, R running, T stopped, Z ended; 0 if it is gone
 
 private:
     QProcess m_process;
