@@ -2,6 +2,7 @@
 #include "app/defaultgeometry.h"
 #include "app/pageintervals.h"
 #include "app/settingskeys.h"
+#include "app/storedsettings.h"
 #include "app/updater.h"
 #include "integration/geometry.h"
 #include "process/gtop_wrappers/filler.h"
@@ -10,6 +11,9 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
+#include <QSplitter>
+
+#include <new>
 
 namespace {
 
@@ -27,11 +31,21 @@ int readableInterval(const QVariant &value)
     return readable ? ticks : settings::defaultInterval;
 }
 
+// A state whose list of sizes has no end asks for more memory than there is; it leaves the splitter alone.
+void restoreSplitter(QSplitter *splitter, const QByteArray &state)
+{
+    try {
+        splitter->restoreState(state);
+    } catch (const std::bad_alloc &) {
+    }
+}
+
 } // namespace
 
 void Updater::loadSettings()
 {
     static const gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
+    setAsideUnsafeSettings();
     QSettings stored;
     zarnRestoreGeometry(&mainWindow, &stored, defaultGeometry(availableGeometry()), false);
     for (int page = 0; page < settings::pageCount; ++page) {
@@ -48,7 +62,7 @@ void Updater::loadSettings()
                               order == Qt::DescendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder);
     const QByteArray splitter = stored.value(QLatin1String(settings::splitter)).toByteArray();
     if (!splitter.isNull()) {
-        ui.splitter->restoreState(splitter);
+        restoreSplitter(ui.splitter, splitter);
     }
 }
 
