@@ -11,9 +11,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
-#include <QSplitter>
-
-#include <new>
+#include <QtEndian>
 
 namespace {
 
@@ -31,13 +29,13 @@ int readableInterval(const QVariant &value)
     return readable ? ticks : settings::defaultInterval;
 }
 
-// A state whose list of sizes has no end asks for more memory than there is; it leaves the splitter alone.
-void restoreSplitter(QSplitter *splitter, const QByteArray &state)
+// The state of a splitter is a marker, a version, the number of sizes and the sizes, each of four bytes.
+// Restoring one that promises more sizes than it holds would ask for as much memory as it says.
+bool isWholeSplitterState(const QByteArray &state)
 {
-    try {
-        splitter->restoreState(state);
-    } catch (const std::bad_alloc &) {
-    }
+    constexpr int head = 12;
+    return state.size() >= head &&
+           qFromBigEndian<quint32>(state.constData() + 8) <= static_cast<quint32>(state.size() - head) / 4;
 }
 
 } // namespace
@@ -61,8 +59,8 @@ void Updater::loadSettings()
     ui.treeView->sortByColumn(column,
                               order == Qt::DescendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder);
     const QByteArray splitter = stored.value(QLatin1String(settings::splitter)).toByteArray();
-    if (!splitter.isNull()) {
-        restoreSplitter(ui.splitter, splitter);
+    if (isWholeSplitterState(splitter)) {
+        ui.splitter->restoreState(splitter);
     }
 }
 

@@ -8,13 +8,6 @@
 
 #include <random>
 
-// An allocation that is too large fails here as it does without the sanitizer.
-extern "C" const char *__asan_default_options();
-extern "C" const char *__asan_default_options()
-{
-    return "allocator_may_return_null=1";
-}
-
 namespace {
 
 const char *const nastyValues[] = {

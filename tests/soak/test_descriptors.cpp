@@ -96,7 +96,7 @@ void TestDescriptors::withNoneLeftARefreshShowsTheMachine()
     {
         const NoDescriptors none(256);
         QCOMPARE(open("/dev/null", O_RDONLY), -1);
-        for (int i = 0; i < 10; ++i) {
+        for (int i = 0; i < 3; ++i) {
             refreshAll();
         }
         QCOMPARE(open("/dev/null", O_RDONLY), -1); // the reserve was taken back
@@ -151,7 +151,7 @@ void TestDescriptors::aRefreshKeepsNoDescriptor()
 {
     refreshAll();
     const int before = openDescriptors();
-    for (int i = 0; i < 20; ++i) {
+    for (int i = 0; i < 5; ++i) {
         refreshAll();
         QCOMPARE(openDescriptors(), before);
     }
