@@ -88,6 +88,7 @@ private:
     void refreshGeneral();
     // updater_processes.cpp, updater_filesystems.cpp, updater_network.cpp
     void refreshProcesses();
+    int selectedPid() const; // -1 without a selection
     void refreshFileSystems();
     void refreshNetwork();
     void showNetDevice(const NetRec &device);

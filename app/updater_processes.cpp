@@ -3,6 +3,7 @@
 #include "process/gtop_wrappers/filler.h"
 #include "process/proxyprocmodel.h"
 
+#include <QItemSelectionModel>
 #include <QMenu>
 #include <QtDebug>
 
@@ -11,7 +12,19 @@ void Updater::refreshProcesses()
     static gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
     procModel->setTotalCpuTime(totalCpuTime());
     const auto types = static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes());
+    const int selected = selectedPid();
     procModel->refresh(filler->getProcesses(types), 0);
+    // When a selected row goes, the view selects its neighbour. The next signal would hit a process that
+    // nobody chose.
+    if (selectedPid() != selected) {
+        ui.treeView->selectionModel()->clear();
+    }
+}
+
+int Updater::selectedPid() const
+{
+    const bool any = ui.treeView->selectionModel()->hasSelection();
+    return procModel->processAt(any ? ui.treeView->currentIndex() : QModelIndex()).pid();
 }
 
 QMenu *Updater::menuVisibleColumns()
