@@ -19,7 +19,7 @@ QByteArray randomText(std::mt19937 &random)
         QByteArray(1, '\0'),    "\xe2\x80\xae", "\xff", "\\x",        "\\", "@Variant(", "-tab=", "general",
         "Debian GNU/Linux"};
     QByteArray text;
-    for (unsigned parts = random() % 30; parts > 0; --parts) {
+    for (auto parts = random() % 30; parts > 0; --parts) {
         text += random() % 3 == 0
                     ? QByteArray(static_cast<int>(random() % 4), static_cast<char>(random() % 256))
                     : pieces[random() % std::size(pieces)];
