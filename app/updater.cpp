@@ -46,6 +46,7 @@ Updater::Updater(int startPage)
 
 Updater::~Updater()
 {
+    const ReleasedDescriptors released(descriptors); // the settings file takes some to be written
     saveSettings();
     glibtop_close();
 }
@@ -58,6 +59,15 @@ void Updater::startTimer()
 }
 
 void Updater::update(bool _updateAll)
+{
+    const ReleasedDescriptors released(descriptors);
+    if (released.enough()) {
+        refreshWhatIsDue(_updateAll);
+    }
+    ++tick;
+}
+
+void Updater::refreshWhatIsDue(bool _updateAll)
 {
     const int shown = ui.tabWidget->currentIndex();
     const auto wanted = [&](Page page) {
@@ -76,7 +86,6 @@ void Updater::update(bool _updateAll)
     if (intervals->isDue(NetworkPage, tick)) {
         refreshNetwork();
     }
-    ++tick;
 }
 
 void Updater::update()

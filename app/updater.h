@@ -2,6 +2,7 @@
 #ifndef APP_UPDATER_H
 #define APP_UPDATER_H
 
+#include "app/descriptorreserve.h"
 #include "resources/cpuload.h"
 #include "resources/netdevices.h"
 #include "ui_mainwindow.h"
@@ -40,7 +41,7 @@ public:
 public Q_SLOTS:
     // The order of the slots is fixed: callers may know them by their meta-object index.
     /// One tick: refreshes what is due and shown; with _updateAll General, Processes and File systems in any
-    /// case.
+    /// case. A tick on which no file could be opened shows nothing new.
     void update(bool _updateAll);
     void update();
     /// Shows the interface at this position of the chooser and samples it; ignores a position that isn't
@@ -87,11 +88,13 @@ private:
     void refreshGeneral();
     // updater_processes.cpp, updater_filesystems.cpp, updater_network.cpp
     void refreshProcesses();
+    int selectedPid() const; // -1 without a selection
     void refreshFileSystems();
     void refreshNetwork();
     void showNetDevice(const NetRec &device);
     // updater.cpp, updater_settings.cpp
     void startTimer();
+    void refreshWhatIsDue(bool _updateAll);
     void loadSettings();
     void saveSettings() const;
 
@@ -119,6 +122,7 @@ private:
     quint64 cpuTotalDelta; ///< jiffies of all CPUs between the last two samples; kept, not shown
     quint64 lastBytesIn;
     quint64 lastBytesOut;
+    DescriptorReserve descriptors;
 };
 
 #endif

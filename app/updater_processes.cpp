@@ -3,6 +3,7 @@
 #include "process/gtop_wrappers/filler.h"
 #include "process/proxyprocmodel.h"
 
+#include <QItemSelectionModel>
 #include <QMenu>
 #include <QtDebug>
 
@@ -11,11 +12,23 @@ void Updater::refreshProcesses()
     static gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
     procModel->setTotalCpuTime(totalCpuTime());
     const auto types = static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes());
+    const int selected = selectedPid();
     procModel->refresh(filler->getProcesses(types), 0);
-    // The selected process may have stopped, gone on or ended, and the shortcuts go by what is known of it.
+    // When a selected row goes, the view selects its neighbour. The next signal would hit a process that
+    // nobody chose.
+    if (selectedPid() != selected) {
+        ui.treeView->selectionModel()->clear();
+    }
+    // The selected process may have stopped or gone on, and the shortcuts go by what is known of it.
     if (ui.tabWidget->currentIndex() == ProcessesPage) {
         updateProcessActions();
     }
+}
+
+int Updater::selectedPid() const
+{
+    const bool any = ui.treeView->selectionModel()->hasSelection();
+    return procModel->processAt(any ? ui.treeView->currentIndex() : QModelIndex()).pid();
 }
 
 QMenu *Updater::menuVisibleColumns()

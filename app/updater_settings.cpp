@@ -2,6 +2,7 @@
 #include "app/defaultgeometry.h"
 #include "app/pageintervals.h"
 #include "app/settingskeys.h"
+#include "app/storedsettings.h"
 #include "app/updater.h"
 #include "integration/geometry.h"
 #include "process/gtop_wrappers/filler.h"
@@ -11,6 +12,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
+#include <QtEndian>
 
 namespace {
 
@@ -28,11 +30,21 @@ int readableInterval(const QVariant &value)
     return readable ? ticks : settings::defaultInterval;
 }
 
+// The state of a splitter is a marker, a version, the number of sizes and the sizes, each of four bytes.
+// Restoring one that promises more sizes than it holds would ask for as much memory as it says.
+bool isWholeSplitterState(const QByteArray &state)
+{
+    constexpr int head = 12;
+    return state.size() >= head &&
+           qFromBigEndian<quint32>(state.constData() + 8) <= static_cast<quint32>(state.size() - head) / 4;
+}
+
 } // namespace
 
 void Updater::loadSettings()
 {
     static const gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
+    setAsideUnsafeSettings();
     QSettings stored;
     zarnRestoreGeometry(&mainWindow, &stored, defaultGeometry(availableGeometry()), false);
     for (int page = 0; page < settings::pageCount; ++page) {
@@ -51,7 +63,7 @@ void Updater::loadSettings()
     ui.treeView->sortByColumn(column,
                               order == Qt::DescendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder);
     const QByteArray splitter = stored.value(QLatin1String(settings::splitter)).toByteArray();
-    if (!splitter.isNull()) {
+    if (isWholeSplitterState(splitter)) {
         ui.splitter->restoreState(splitter);
     }
 }

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/storedsettings.h"
+
+#include <QFile>
+#include <QSettings>
+
+namespace {
+
+constexpr qint64 largestFile = 64 * 1024; // ours has less than 4 KiB
+
+/// Value of a hexadecimal (base 16) or octal (base 8) digit; -1 for any other character.
+int digitValue(char character, int base)
+{
+    const int value = character >= '0' && character <= '9'   ? character - '0'
+                      : character >= 'a' && character <= 'f' ? character - 'a' + 10
+                      : character >= 'A' && character <= 'F' ? character - 'A' + 10
+                                                             : base;
+    return value < base ? value : -1;
+}
+
+/// Decodes the number of an escape sequence and moves `at` past it.
+char escapedCharacter(const QByteArray &content, int &at, int base)
+{
+    unsigned value = 0;
+    for (; at < content.size() && digitValue(content.at(at), base) >= 0; ++at) {
+        value =
+            (value * static_cast<unsigned>(base) + static_cast<unsigned>(digitValue(content.at(at), base))) &
+            0xffffU;
+    }
+    return value < 0x80U ? static_cast<char>(value) : '?';
+}
+
+/// The content without its quotes and escapes: what a value can come to when it is read.
+QByteArray unescaped(const QByteArray &content)
+{
+    QByteArray plain;
+    for (int at = 0; at < content.size();) {
+        const char character = content.at(at++);
+        if (character != '\\') {
+            plain += character == '"' ? QByteArray() : QByteArray(1, character);
+        } else if (at < content.size() && content.at(at) == 'x') {
+            plain += escapedCharacter(content, ++at, 16);
+        } else if (at < content.size() && digitValue(content.at(at), 8) >= 0) {
+            plain += escapedCharacter(content, at, 8);
+        } else {
+            ++at;
+        }
+    }
+    return plain;
+}
+
+bool isSafe(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return true; // nothing will be read
+    }
+    return file.size() <= largestFile && !holdsSerializedObject(file.readAll());
+}
+
+} // namespace
+
+bool holdsSerializedObject(const QByteArray &content)
+{
+    const QByteArray plain = unescaped(content);
+    return plain.contains("@Variant(") || plain.contains("@DateTime(");
+}
+
+void setAsideUnsafeSettings()
+{
+    const QString path = QSettings().fileName();
+    if (!isSafe(path)) {
+        const QString aside = path + QStringLiteral(".damaged");
+        QFile::remove(aside);
+        QFile::rename(path, aside);
+    }
+}
