@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// bench_list <rounds>: the libraries alone, without a window of the desktop. CPU time in microseconds per process
-// of a snapshot as the program takes it, and of model, proxy and view brought up to it; one line a round.
+// bench_list <rounds>: the libraries alone, without a window of the desktop. CPU time in microseconds per
+// process of a snapshot as the program takes it, and of model, proxy and view brought up to it; one line a
+// round.
 #include "process/gtop_wrappers/filler.h"
 #include "process/proxyprocmodel.h"
 

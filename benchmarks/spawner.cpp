@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// bench_spawner <n>: keeps n sleeping processes until its standard input ends; says "ready" when all are there.
+// bench_spawner <n>: keeps n sleeping processes until its standard input ends; says "ready" when all are
+// there.
 #include <signal.h>
 #include <sys/prctl.h>
 #include <unistd.h>

@@ -43,16 +43,14 @@ void ProcessTable::setWanted(const std::vector<bool> &wanted)
 
 unsigned ProcessTable::reads() const
 {
-    bool all = true;
     unsigned together = 0;
     for (std::size_t i = 0; i < wantedAtOnce.size(); ++i) {
-        const Column &column = columns()[i];
-        all = all && wantedAtOnce[i];
         // complete() sees to the parents, which would take the costliest read.
-        const bool always = !column.makeLate && i != ParentPidColumn;
-        together |= always || wantedAtOnce[i] ? column.reads : 0U;
+        if (i != ParentPidColumn && (wantedAtOnce[i] || !columns()[i].makeLate)) {
+            together |= columns()[i].reads;
+        }
     }
-    return all ? unsigned(ReadEverything) : together;
+    return together;
 }
 
 void ProcessTable::complete(std::vector<ProcessRecord> &records)
@@ -134,9 +132,9 @@ std::map<int, Process> ProcessTable::update(std::vector<ProcessRecord> records)
 
 const ProcessTable::Entry *ProcessTable::find(int pid) const
 {
-    const auto found =
-        std::lower_bound(last.begin(), last.end(), pid,
-                         [](const Entry &entry, int wanted) { return entry.record.pid < wanted; });
+    const auto found = std::lower_bound(last.begin(), last.end(), pid, [](const Entry &entry, int wanted) {
+        return entry.record.pid < wanted;
+    });
     return found != last.end() && found->record.pid == pid ? &*found : nullptr;
 }
 

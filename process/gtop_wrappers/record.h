@@ -54,9 +54,9 @@ struct ProcessRecord
     quint64 resident = 0;  ///< this and the next two in bytes
     quint64 virtualSize = 0;
     quint64 shared = 0;
-    QByteArray arguments; ///< the beginning of them, a null character behind each
+    QByteArray arguments;     ///< the beginning of them, a null character behind each
     bool parentHolds = false; ///< the parent can't change before it ends in sight
-    unsigned late = 0;    ///< reads (Reads, or-ed) that were not made, and are left for when they are asked for
+    unsigned late = 0; ///< reads (Reads, or-ed) that were not made, and are left for when they are asked for
 };
 
 /// The pids that libgtop lists, ascending, each once.
