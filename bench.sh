@@ -21,6 +21,7 @@ ticks=${TICKS:-600}
 work=$(mktemp -d)
 children=()
 cleanup() {
+    exec 8>&- # a load ends with its input
     [ ${#children[@]} -eq 0 ] || kill "${children[@]}" 2>/dev/null || true
     wait 2>/dev/null || true
     rm -rf "$work"
@@ -68,7 +69,7 @@ wait_refreshes() {
     local until=$(($(count_refreshes) + $1))
     while [ "$(count_refreshes)" -lt "$until" ]; do sleep 0.05; done
 }
-processes() { find /proc -maxdepth 1 -name '[0-9]*' | wc -l; }
+processes() { ls /proc | grep -c '^[0-9]'; }
 
 # spread: of the numbers on the input, "min / median / max".
 spread() { sort -g | awk '{ v[NR] = $1 } END { printf "%.2f / %.2f / %.2f", v[1], v[int((NR + 1) / 2)], v[NR] }'; }

@@ -37,6 +37,7 @@ int main(int argc, char **argv)
     QTreeView view;
     ProxyProcModel list(nullptr);
     list.setView(&view);
+    view.setUniformRowHeights(true); // as in the program's window
     view.setSortingEnabled(true);
     view.sortByColumn(0, Qt::AscendingOrder);
     view.resize(800, 600);
