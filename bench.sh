@@ -62,7 +62,7 @@ stop_monitor() {
 }
 
 # CPU time of all threads of the monitor in nanoseconds.
-cpu_time() { awk '{ sum += $1 } END { printf "%d", sum }' /proc/"$monitor"/task/*/schedstat; }
+cpu_time() { awk '{ sum += $1 } END { printf "%.0f", sum }' /proc/"$monitor"/task/*/schedstat; }
 resident_mb() { awk '/^VmRSS/ { printf "%.1f", $2 / 1024 }' "/proc/$monitor/status"; }
 count_refreshes() { od -An -t u8 "$work/refreshes" | tr -d ' '; }
 wait_refreshes() {
