@@ -11,6 +11,12 @@ void Updater::refreshProcesses()
 {
     static gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
     procModel->setTotalCpuTime(totalCpuTime());
+    std::vector<bool> wanted(filler->size(), false);
+    const int sortedBy = procModel->sortedColumn();
+    if (sortedBy >= 0) {
+        wanted[static_cast<std::size_t>(sortedBy)] = true;
+    }
+    filler->setWanted(wanted);
     const auto types = static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes());
     const int selected = selectedPid();
     procModel->refresh(filler->getProcesses(types), 0);

@@ -91,8 +91,8 @@ int niceOf(const Process &process)
             return nice;
         }
     }
-    const auto nice = intParam(process, gtop_wrappers::NiceColumn);
-    return nice ? nice->value() : 0;
+    const gtop_wrappers::ParamPtr nice = process.getParam(gtop_wrappers::NiceColumn);
+    return nice ? nice->sortValue().toInt() : 0;
 }
 
 /// How an action is checked.

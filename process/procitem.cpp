@@ -65,8 +65,7 @@ bool ProcItem::update(const gtop_wrappers::Process &fresh, quint64 totalDelta)
     cpuPercent = takeCpuShare(fresh.getCpuLoad(), totalDelta);
     const gtop_wrappers::ParamPtr load = fresh.getParam(gtop_wrappers::CpuColumn);
     if (auto *const cpu = dynamic_cast<gtop_wrappers::CpuProcessParam *>(load.get())) {
-        cpu->setDisplayValue(QString::number(cpuPercent, 'f', 1) + QStringLiteral(" %"));
-        cpu->setPercent(cpuPercent);
+        cpu->showPercent(cpuPercent);
     }
     itemProcess.id = fresh.id;
     itemProcess.params = fresh.params;

@@ -19,9 +19,21 @@ using gtop_wrappers::ProcessFiller;
 
 namespace {
 
+/// Unchanged values are the same objects from one snapshot to the next, most of the time.
+bool sharesIdentity(const Process &known, const Process &fresh)
+{
+    using namespace gtop_wrappers;
+    return known.params.size() == ColumnCount && fresh.params.size() == ColumnCount &&
+           known.params[NameColumn] == fresh.params[NameColumn] &&
+           known.params[ParentPidColumn] == fresh.params[ParentPidColumn];
+}
+
 /// A pid that was taken by another program, or a process that got another parent, is not the same.
 bool isSameProcess(const Process &known, const Process &fresh)
 {
+    if (sharesIdentity(known, fresh)) {
+        return true;
+    }
     return known.getPPid() == fresh.getPPid() && known.getName() == fresh.getName();
 }
 
@@ -98,7 +110,9 @@ QVariant ProcModel::data(const QModelIndex &index, int role) const
         return QVariant();
     }
     const unsigned long column = visibleColumns[static_cast<std::size_t>(index.column())];
-    const gtop_wrappers::ParamPtr param = item->process().getParam(column);
+    // Not through getParam(): a sort comes here often enough for copies of the pointer to be felt.
+    const std::vector<gtop_wrappers::ParamPtr> &params = item->process().params;
+    const gtop_wrappers::IProcessParam *const param = column < params.size() ? params[column].get() : nullptr;
     if (!param) {
         return QVariant();
     }
@@ -137,6 +151,13 @@ void ProcModel::setColumnVisible(unsigned long i, bool on)
 {
     columnVisibility.at(i) = on;
     rebuildVisibleColumns();
+}
+
+int ProcModel::processColumn(int column) const
+{
+    return column >= 0 && column < columnCount()
+               ? static_cast<int>(visibleColumns[static_cast<std::size_t>(column)])
+               : -1;
 }
 
 void ProcModel::clear()

@@ -43,6 +43,9 @@ public:
     /// Throws std::out_of_range past the last process column. Sends no signal: the caller resets.
     void setColumnVisible(unsigned long i, bool on);
 
+    /// The process column that a column of the view shows; -1 outside.
+    int processColumn(int column) const;
+
     void clear();
     /// Brings the model to the snapshot. `totalDelta`: CPU time of the machine since the last refresh, in the
     /// unit of Process::getCpuLoad(). The third argument is unused.

@@ -36,6 +36,9 @@ public:
     bool isColumnVisible(unsigned long i) const;
     void setColumnVisible(unsigned long i, bool on);
 
+    /// The process column that the list is sorted by; -1 if it is not sorted.
+    int sortedColumn() const { return source->processColumn(sortColumn()); }
+
     /// The process of a row of this proxy; Process(-1) for an invalid index.
     gtop_wrappers::Process processAt(const QModelIndex &index) const;
     gtop_wrappers::Process processByPid(int pid) const;

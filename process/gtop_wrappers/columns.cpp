@@ -114,35 +114,51 @@ ParamPtr makeCommandLine(const ProcessRecord &record, SharedParams &)
 }
 
 template <auto Member>
-constexpr Column intColumn(const char *name, unsigned reads)
+ParamPtr makeLateSize(const LatePtr &values)
 {
-    return {name, reads, makeInt<Member>, same<Member>};
+    return ParamPtr(new LateSizeParam(values, Member));
+}
+
+ParamPtr makeLateNice(const LatePtr &values)
+{
+    return ParamPtr(new LateNiceParam(values));
+}
+
+ParamPtr makeLateCommandLine(const LatePtr &values)
+{
+    return ParamPtr(new LateCommandLineParam(values));
+}
+
+template <auto Member>
+constexpr Column intColumn(const char *name, unsigned reads, decltype(Column::makeLate) late = nullptr)
+{
+    return {name, reads, makeInt<Member>, same<Member>, late};
 }
 
 template <auto Member>
 constexpr Column sizeColumn(const char *name)
 {
-    return {name, ReadMemory, makeSize<Member>, same<Member>};
+    return {name, ReadMemory, makeSize<Member>, same<Member>, makeLateSize<Member>};
 }
 
 using Record = ProcessRecord;
 
 const std::array<Column, ColumnCount> table = {{
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Name"), ReadState, makeName, same<&Record::name>},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU"), ReadTime, makeCpu, neverSame},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Name"), ReadState, makeName, same<&Record::name>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU"), ReadTime, makeCpu, neverSame, nullptr},
     intColumn<&Record::pid>(QT_TRANSLATE_NOOP("ProcessFiller", "PID"), 0),
-    {QT_TRANSLATE_NOOP("ProcessFiller", "User"), ReadState, makeUser, same<&Record::user>},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "User"), ReadState, makeUser, same<&Record::user>, nullptr},
     sizeColumn<&Record::resident>(QT_TRANSLATE_NOOP("ProcessFiller", "Memory")),
-    {QT_TRANSLATE_NOOP("ProcessFiller", "State"), ReadState, makeState, same<&Record::state>},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "State"), ReadState, makeState, same<&Record::state>, nullptr},
     sizeColumn<&Record::virtualSize>(QT_TRANSLATE_NOOP("ProcessFiller", "Virtual memory")),
     sizeColumn<&Record::shared>(QT_TRANSLATE_NOOP("ProcessFiller", "Shared memory")),
-    intColumn<&Record::nice>(QT_TRANSLATE_NOOP("ProcessFiller", "Nice"), ReadUid),
+    intColumn<&Record::nice>(QT_TRANSLATE_NOOP("ProcessFiller", "Nice"), ReadUid, makeLateNice),
     intColumn<&Record::parent>(QT_TRANSLATE_NOOP("ProcessFiller", "Parent PID"), ReadUid),
     {QT_TRANSLATE_NOOP("ProcessFiller", "CPU time"), ReadTime, makeCpuTime,
-     same<&Record::cpuTime, &Record::frequency>},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Started"), ReadTime, makeStarted, same<&Record::started>},
+     same<&Record::cpuTime, &Record::frequency>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Started"), ReadTime, makeStarted, same<&Record::started>, nullptr},
     {QT_TRANSLATE_NOOP("ProcessFiller", "Command line"), ReadArguments | ReadState, makeCommandLine,
-     same<&Record::arguments, &Record::name>},
+     same<&Record::arguments, &Record::name>, makeLateCommandLine},
     intColumn<&Record::processor>(QT_TRANSLATE_NOOP("ProcessFiller", "Processor"), ReadState),
 }};
 

@@ -2,6 +2,7 @@
 #ifndef GTOP_WRAPPERS_COLUMNS_H
 #define GTOP_WRAPPERS_COLUMNS_H
 
+#include "process/gtop_wrappers/latevalues.h"
 #include "process/gtop_wrappers/param.h"
 #include "process/gtop_wrappers/process.h"
 #include "process/gtop_wrappers/record.h"
@@ -35,6 +36,8 @@ struct Column
     ParamPtr (*make)(const ProcessRecord &record, SharedParams &shared);
     /// Whether both records give the same value, so that the first one's can stand for the second.
     bool (*same)(const ProcessRecord &before, const ProcessRecord &now);
+    /// A value that is read when it is first asked for; null if the column can't be read late.
+    ParamPtr (*makeLate)(const LatePtr &values);
 };
 
 /// The columns by number (ProcessColumn). A new column is a row here and a number there.

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <optional>
+#include <utility>
 
 namespace gtop_wrappers {
 
@@ -41,7 +42,9 @@ std::map<int, Process> ProcessFiller::getProcesses(ProcessTypes types)
 {
     // A value that is neither of the two lists all, as the first does.
     const auto realUser = types == MyProcesses ? std::optional<uid_t>(getuid()) : std::nullopt;
-    return table->update(readProcesses(realUser, table->reads()));
+    std::vector<ProcessRecord> records = readProcesses(realUser, table->reads());
+    table->complete(records);
+    return table->update(std::move(records));
 }
 
 void ProcessFiller::setWanted(const std::vector<bool> &columns)

@@ -34,9 +34,10 @@ public:
     /// since the last snapshot are the same objects as in it, except those of the CPU column.
     std::map<int, Process> getProcesses(ProcessTypes types);
 
-    /// Tells which columns are wanted in the next snapshots, to save reading the others; an empty list
-    /// (as at the start) or a missing entry means yes. A column not wanted may have empty pointers; name,
-    /// parent pid and CPU counter are there in any case.
+    /// Tells which columns are to be read with the next snapshots because all rows of them will be asked for,
+    /// as for sorting; an empty list (as at the start) or a missing entry means yes. The costly values among
+    /// the others are read when they are first asked for, again after each snapshot. That may be after the
+    /// process has ended: then they stay as last known, or are empty.
     void setWanted(const std::vector<bool> &columns);
 
 private:

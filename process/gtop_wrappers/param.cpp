@@ -45,7 +45,7 @@ QVariant IntProcessParam::sortValue() const
     return number;
 }
 
-CpuProcessParam::CpuProcessParam() : load(0.0)
+CpuProcessParam::CpuProcessParam() : load(0.0), textIsDue(false)
 {}
 
 double CpuProcessParam::percent() const
@@ -56,6 +56,21 @@ double CpuProcessParam::percent() const
 void CpuProcessParam::setPercent(double percent)
 {
     load = percent;
+}
+
+void CpuProcessParam::showPercent(double percent)
+{
+    load = percent;
+    display = QVariant();
+    textIsDue = true;
+}
+
+QVariant CpuProcessParam::displayValue() const
+{
+    if (textIsDue && !display.isValid()) {
+        display = QString::number(load, 'f', 1) + QStringLiteral(" %");
+    }
+    return display;
 }
 
 QVariant CpuProcessParam::sortValue() const

@@ -62,12 +62,17 @@ public:
 
     double percent() const;
     void setPercent(double percent);
+    /// Sets the percentage, and as display value its text with one decimal and " %", which is made when it is
+    /// first asked for.
+    void showPercent(double percent);
+    QVariant displayValue() const override;
     /// The percentage; for one that is not a number, a value below all others, so that sorting stays an
     /// order.
     QVariant sortValue() const override;
 
 private:
     double load;
+    bool textIsDue;
 };
 
 } // namespace gtop_wrappers

@@ -3,6 +3,7 @@
 #define GTOP_WRAPPERS_PROCESSTABLE_H
 
 #include "process/gtop_wrappers/columns.h"
+#include "process/gtop_wrappers/startclock.h"
 
 #include <array>
 #include <map>
@@ -20,8 +21,11 @@ public:
 
     /// As ProcessFiller::setWanted().
     void setWanted(const std::vector<bool> &columns);
-    /// What must be read for the columns in use (Reads, or-ed).
+    /// What must be read of every process (Reads, or-ed).
     unsigned reads() const;
+    /// Reads what single records need beside: the parent, unless it is the one of the last snapshot; and
+    /// all of a process that is too young to be known again by its start. Leaves out those that ended.
+    void complete(std::vector<ProcessRecord> &records);
     /// The snapshot of these records, which are ascending by pid.
     std::map<int, Process> update(std::vector<ProcessRecord> records);
 
@@ -30,13 +34,20 @@ private:
     {
         ProcessRecord record;
         Process process;
+        LatePtr late; ///< null if nothing was left to be read late
     };
 
-    Process make(const ProcessRecord &record, const Entry *before);
+    const Entry *find(int pid) const;
+    bool completeRecord(const std::vector<ProcessRecord> &all, ProcessRecord &record,
+                        StartClock::Time now) const;
+    bool keepsParent(const Entry &before, const std::vector<ProcessRecord> &all) const;
+    LatePtr lateValues(const ProcessRecord &record, const Entry *before) const;
+    Process make(const ProcessRecord &record, const Entry *before, const LatePtr &late);
 
-    std::array<bool, ColumnCount> used;
+    std::array<bool, ColumnCount> wantedAtOnce;
     std::vector<Entry> last; ///< ascending by pid
     SharedParams shared;
+    StartClock clock;
 };
 
 } // namespace gtop_wrappers

@@ -61,6 +61,37 @@ void readArguments(int pid, RawProcess &raw)
     raw.arguments = bytes ? QByteArray(bytes.get(), static_cast<int>(size)) : QByteArray();
 }
 
+/// Fills in what these reads have brought.
+void take(unsigned reads, const RawProcess &raw, ProcessRecord &record)
+{
+    if (reads & ReadState) {
+        record.name =
+            QByteArray(raw.state.cmd, static_cast<int>(strnlen(raw.state.cmd, sizeof raw.state.cmd)));
+        record.state = static_cast<int>(raw.state.state);
+        record.user = raw.state.uid;
+        // libgtop reads it without a flag of its own. From 1, as the cores of the System page are counted.
+        record.processor = std::clamp(raw.state.last_processor, -1, std::numeric_limits<int>::max() - 1) + 1;
+    }
+    if (reads & ReadUid) {
+        record.realUser = raw.uid.uid;
+        record.parent = raw.uid.ppid;
+        record.nice = raw.uid.nice;
+    }
+    if (reads & ReadTime) {
+        record.cpuTime = raw.time.utime + raw.time.stime;
+        record.frequency = raw.time.frequency;
+        record.started = raw.time.start_time;
+    }
+    if (reads & ReadMemory) {
+        record.resident = raw.memory.resident;
+        record.virtualSize = raw.memory.size; // libgtop's flags promise this one, not its twin vsize
+        record.shared = raw.memory.share;
+    }
+    if (reads & ReadArguments) {
+        record.arguments = raw.arguments;
+    }
+}
+
 } // namespace
 
 std::vector<int> readPids()
@@ -103,37 +134,29 @@ bool reduce(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &recor
     }
     record = ProcessRecord();
     record.pid = pid;
-    if (reads & ReadState) {
-        record.name =
-            QByteArray(raw.state.cmd, static_cast<int>(strnlen(raw.state.cmd, sizeof raw.state.cmd)));
-        record.state = static_cast<int>(raw.state.state);
-        record.user = raw.state.uid;
-        // libgtop reads it without a flag of its own. From 1, as the cores of the System page are counted.
-        record.processor = std::clamp(raw.state.last_processor, -1, std::numeric_limits<int>::max() - 1) + 1;
+    record.late = ReadEverything & ~reads;
+    take(reads, raw, record);
+    return true;
+}
+
+bool readAlso(unsigned reads, ProcessRecord &record)
+{
+    RawProcess raw;
+    readRaw(record.pid, reads, raw);
+    readRaw(record.pid, ReadTime, raw); // last: the process that is still there is the one that was read
+    if (!complete(reads | ReadTime, raw) || raw.time.start_time != record.started) {
+        return false;
     }
-    if (reads & ReadUid) {
-        record.realUser = raw.uid.uid;
-        record.parent = raw.uid.ppid;
-        record.nice = raw.uid.nice;
-    }
-    if (reads & ReadTime) {
-        record.cpuTime = raw.time.utime + raw.time.stime;
-        record.frequency = raw.time.frequency;
-        record.started = raw.time.start_time;
-    }
-    if (reads & ReadMemory) {
-        record.resident = raw.memory.resident;
-        record.virtualSize = raw.memory.size; // libgtop's flags promise this one, not its twin vsize
-        record.shared = raw.memory.share;
-    }
-    if (reads & ReadArguments) {
-        record.arguments = raw.arguments;
-    }
+    take(reads, raw, record);
+    record.late &= ~reads;
     return true;
 }
 
 std::vector<ProcessRecord> readProcesses(std::optional<uid_t> realUser, unsigned reads)
 {
+    if (realUser) {
+        reads |= ReadUid;
+    }
     std::vector<ProcessRecord> records;
     RawProcess raw;
     ProcessRecord record;

@@ -22,7 +22,8 @@ enum Reads : unsigned {
     ReadUid = 2,   ///< real user, parent, nice value
     ReadTime = 4,  ///< CPU time, start
     ReadMemory = 8,
-    ReadArguments = 16
+    ReadArguments = 16,
+    ReadEverything = 31
 };
 
 /// libgtop's answers about one process; only those of the calls that were made mean anything.
@@ -53,7 +54,9 @@ struct ProcessRecord
     quint64 resident = 0;  ///< this and the next two in bytes
     quint64 virtualSize = 0;
     quint64 shared = 0;
-    QByteArray arguments; ///< the beginning of them, a null character behind each
+    QByteArray arguments;     ///< the beginning of them, a null character behind each
+    bool parentHolds = false; ///< the parent can't change before it ends in sight
+    unsigned late = 0; ///< reads (Reads, or-ed) that were not made, and are left for when they are asked for
 };
 
 /// The pids that libgtop lists, ascending, each once.
@@ -65,6 +68,10 @@ void readRaw(int pid, unsigned reads, RawProcess &raw);
 /// What was read in short; false if the process ended before all of it was there, which libgtop shows by a
 /// record without the flags of its fields.
 bool reduce(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &record);
+
+/// Makes further reads (Reads, or-ed) for a process whose start has been read. False, and nothing changed, if
+/// it has ended meanwhile, also if its pid has gone to a process with another start.
+bool readAlso(unsigned reads, ProcessRecord &record);
 
 /// Reads the processes, ascending by pid, without those that end meanwhile.
 /// realUser: only those of this real user id; none for all.

@@ -77,9 +77,10 @@ private Q_SLOTS:
     void snapshotHasThePidsOfTheRecords();
     void extremeRecordsAreShown();
     void zeroedRecordIsShown();
-    void columnsNotWantedAreNeitherReadNorFilled_data();
-    void columnsNotWantedAreNeitherReadNorFilled();
-    void columnWantedAgainIsFilledAgain();
+    void onlyCostlyReadsAreLeftOut_data();
+    void onlyCostlyReadsAreLeftOut();
+    void everyColumnIsFilledWhateverWasLeftOut();
+    void changeBetweenAtOnceAndLate();
 };
 
 void TestProcessTable::everyColumnIsFilled()
@@ -326,57 +327,61 @@ void TestProcessTable::zeroedRecordIsShown()
     QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("[]"));
 }
 
-void TestProcessTable::columnsNotWantedAreNeitherReadNorFilled_data()
+void TestProcessTable::onlyCostlyReadsAreLeftOut_data()
 {
     QTest::addColumn<std::vector<bool>>("wanted");
     QTest::addColumn<unsigned>("reads");
-    QTest::addColumn<QVector<int>>("empty");
     std::vector<bool> wanted;
-    QTest::newRow("nothing said") << wanted << everything << QVector<int>();
+    QTest::newRow("nothing said") << wanted << everything;
     wanted.assign(ColumnCount, true);
-    QTest::newRow("all") << wanted << everything << QVector<int>();
+    QTest::newRow("all") << wanted << everything;
     wanted[CommandLineColumn] = false;
-    QTest::newRow("no command line") << wanted << (everything & ~ReadArguments)
-                                     << QVector<int>{CommandLineColumn};
+    QTest::newRow("all but the command line") << wanted << (everything & ~ReadArguments);
     wanted.assign(100, false);
-    // Name, parent pid and CPU counter are needed to tell processes apart, whatever is shown.
-    QTest::newRow("none") << wanted << unsigned(ReadState | ReadUid | ReadTime)
-                          << QVector<int>{CpuColumn,          PidColumn,   UserColumn,
-                                          MemoryColumn,       StateColumn, VirtualMemoryColumn,
-                                          SharedMemoryColumn, NiceColumn,  StartedColumn,
-                                          CommandLineColumn,  ProcessorColumn};
-    QTest::newRow("short list") << std::vector<bool>{true, false} << everything << QVector<int>{CpuColumn};
+    // Name, user, state, CPU counter and start are read of every process, wanted or not.
+    QTest::newRow("none") << wanted << unsigned(ReadState | ReadTime);
+    wanted[MemoryColumn] = true;
+    QTest::newRow("memory") << wanted << unsigned(ReadState | ReadTime | ReadMemory);
+    wanted[MemoryColumn] = false;
+    wanted[NiceColumn] = true;
+    QTest::newRow("nice") << wanted << unsigned(ReadState | ReadTime | ReadUid);
+    QTest::newRow("short list") << std::vector<bool>{true, false} << everything;
 }
 
-void TestProcessTable::columnsNotWantedAreNeitherReadNorFilled()
+void TestProcessTable::onlyCostlyReadsAreLeftOut()
 {
     QFETCH(std::vector<bool>, wanted);
-    QFETCH(QVector<int>, empty);
     ProcessTable table;
     table.setWanted(wanted);
     QTEST(table.reads(), "reads");
-    const Process process = table.update({recordOf(42)}).at(42);
+}
+
+void TestProcessTable::everyColumnIsFilledWhateverWasLeftOut()
+{
+    ProcessTable table;
+    ProcessRecord partly = recordOf(42);
+    partly.late = ReadMemory | ReadArguments | ReadUid;
+    const Process process = table.update({partly}).at(42);
     for (unsigned long i = 0; i < ColumnCount; ++i) {
-        QCOMPARE(!process.getParam(i), empty.contains(int(i)));
+        QVERIFY(process.getParam(i));
     }
     QCOMPARE(process.getName(), QStringLiteral("bash"));
     QCOMPARE(process.getPPid(), 1);
     QCOMPARE(process.getCpuLoad(), 100);
 }
 
-void TestProcessTable::columnWantedAgainIsFilledAgain()
+void TestProcessTable::changeBetweenAtOnceAndLate()
 {
     ProcessTable table;
-    table.update({recordOf(42)});
-    table.setWanted(std::vector<bool>(ColumnCount, false));
+    const Process first = table.update({recordOf(42)}).at(42);
     ProcessRecord partly = recordOf(42);
-    partly.resident = 0;
-    partly.arguments.clear();
-    QVERIFY(!table.update({partly}).at(42).getParam(MemoryColumn));
-    table.setWanted({});
-    const Process process = table.update({recordOf(42)}).at(42);
-    QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
-    QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("bash -l"));
+    partly.late = ReadMemory;
+    const Process late = table.update({partly}).at(42);
+    QVERIFY(late.getParam(MemoryColumn) != first.getParam(MemoryColumn));
+    QCOMPARE(late.getParam(CommandLineColumn), first.getParam(CommandLineColumn));
+    const Process again = table.update({recordOf(42)}).at(42);
+    QCOMPARE(shown(again, MemoryColumn), QStringLiteral("1.00 KB"));
+    QCOMPARE(shown(first, MemoryColumn), QStringLiteral("1.00 KB"));
 }
 
 QTEST_GUILESS_MAIN(TestProcessTable)

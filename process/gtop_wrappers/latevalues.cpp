@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/gtop_wrappers/latevalues.h"
+
+#include "fs/sizetostr.h"
+#include "process/gtop_wrappers/lazyparams.h"
+
+namespace gtop_wrappers {
+
+LateValues::LateValues(const ProcessRecord &record) : values(record), tried(0), known(0)
+{}
+
+void LateValues::renew(const ProcessRecord &now)
+{
+    values.name = now.name;
+    tried = 0;
+}
+
+const ProcessRecord *LateValues::with(unsigned reads)
+{
+    const unsigned missing = reads & ~tried;
+    if (missing != 0) {
+        tried |= missing;
+        known |= readAlso(missing, values) ? missing : 0U;
+    }
+    return (reads & ~known) == 0 ? &values : nullptr;
+}
+
+LateSizeParam::LateSizeParam(const LatePtr &late, quint64 ProcessRecord::*figure)
+    : values(late), member(figure)
+{}
+
+QVariant LateSizeParam::displayValue() const
+{
+    const ProcessRecord *const record = values->with(ReadMemory);
+    return record ? sizeToStr(record->*member) : QString();
+}
+
+QVariant LateSizeParam::sortValue() const
+{
+    const ProcessRecord *const record = values->with(ReadMemory);
+    return record ? record->*member : quint64(0);
+}
+
+LateNiceParam::LateNiceParam(const LatePtr &late) : values(late)
+{}
+
+QVariant LateNiceParam::displayValue() const
+{
+    const ProcessRecord *const record = values->with(ReadUid);
+    return record ? QVariant(record->nice) : QVariant();
+}
+
+LateCommandLineParam::LateCommandLineParam(const LatePtr &late) : values(late)
+{}
+
+QVariant LateCommandLineParam::displayValue() const
+{
+    const ProcessRecord *const record = values->with(ReadArguments);
+    if (!record) {
+        return QString();
+    }
+    if (!display.isValid() || arguments != record->arguments || name != record->name) {
+        arguments = record->arguments;
+        name = record->name;
+        display = CommandLineProcessParam(arguments, name).displayValue();
+    }
+    return display;
+}
+
+} // namespace gtop_wrappers
