@@ -30,10 +30,11 @@ QProcessEnvironment plainEnvironment()
 }
 
 // The toolkit asks for the frame that the window manager has put around a window, and the window manager may
-// just have destroyed it.
-bool isAboutForeignWindow(const QByteArray &line)
+// just have destroyed it. libgtop says what a bare machine lacks, such as /etc/mtab.
+bool isOfTheMachine(const QByteArray &line)
 {
-    return line.startsWith("qt.qpa.xcb: QXcbConnection: XCB error: 3 (BadWindow)");
+    return line.startsWith("qt.qpa.xcb: QXcbConnection: XCB error: 3 (BadWindow)") ||
+           (line.startsWith("glibtop(") && line.contains("[WARNING]"));
 }
 
 // The sanitizers' run-time library has to come before anything else that is preloaded.
@@ -254,7 +255,7 @@ QByteArray DesktopSession::standardError()
 {
     collectOutput();
     QList<QByteArray> lines = m_errors.split('\n');
-    lines.erase(std::remove_if(lines.begin(), lines.end(), isAboutForeignWindow), lines.end());
+    lines.erase(std::remove_if(lines.begin(), lines.end(), isOfTheMachine), lines.end());
     return lines.join('\n');
 }
 

@@ -52,7 +52,7 @@ public:
     bool isRunning() const;
     qint64 pid() const; ///< 0 if it doesn't run
     QByteArray standardOutput();
-    QByteArray standardError(); ///< without what the toolkit says of windows of the window manager
+    QByteArray standardError(); ///< without what toolkit and libgtop say of the machine around
 
     QString home() const;
     QString settingsFile() const; ///< where the program keeps its settings, there or not
