@@ -89,7 +89,9 @@ void TestRealDevices::initTestCase()
         QSKIP(qPrintable(QStringLiteral("namespaces are not allowed here: ") +
                          QString::fromLocal8Bit(std::strerror(errno))));
     // What is mounted from here on stays in this namespace.
-    QVERIFY(::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0);
+    if (::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+        QSKIP(qPrintable(QStringLiteral("the mounts can't be kept apart here: ") +
+                         QString::fromLocal8Bit(std::strerror(errno))));
     QVERIFY(m_directory.isValid());
 }
 
