@@ -54,8 +54,7 @@ DesktopSession::DesktopSession(SessionOptions options) : m_options(std::move(opt
 
 DesktopSession::~DesktopSession()
 {
-    if (m_probe >= 0)
-        ::close(m_probe);
+    disconnectProbe();
     end(m_program.get());
     m_x.close();
     end(m_windowManager.get());
@@ -182,11 +181,8 @@ bool DesktopSession::start(const QStringList &arguments)
         return false;
     if (m_options.machine)
         setMachine(*m_options.machine);
-    if (m_probe >= 0)
-        ::close(m_probe);
-    m_probe = -1;
+    disconnectProbe();
     ++m_runs;
-    m_received.clear();
     m_output.clear();
     m_errors.clear();
     m_program = std::make_unique<BoundProcess>();

@@ -103,6 +103,7 @@ private:
     QProcessEnvironment programEnvironment() const;
     bool waitForWindow();
     bool connectProbe();
+    void disconnectProbe();
     QByteArray readLine();
     void leaveDoubleClickInterval();
     QRect stableRect(const std::function<QRect()> &findRect);

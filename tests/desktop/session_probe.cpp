@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/session.h"
 
+#include <QDeadlineTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -9,6 +10,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstring>
 
 bool DesktopSession::connectProbe()
@@ -29,15 +31,27 @@ bool DesktopSession::connectProbe()
     return false;
 }
 
-// Empty if the program closes the socket or says nothing for too long.
+void DesktopSession::disconnectProbe()
+{
+    if (m_probe >= 0)
+        ::close(m_probe);
+    m_probe = -1;
+    m_received.clear();
+}
+
+// Empty if the program closes the socket or says nothing for too long. Each child of the test that ends
+// interrupts the waiting.
 QByteArray DesktopSession::readLine()
 {
+    const QDeadlineTimer deadline(desktopDeadline);
     int end = 0;
     while ((end = m_received.indexOf('\n')) < 0) {
         pollfd waiting = {m_probe, POLLIN, 0};
         char bytes[65536];
-        const ssize_t count =
-            poll(&waiting, 1, desktopDeadline) == 1 ? read(m_probe, bytes, sizeof bytes) : 0;
+        const int ready = poll(&waiting, 1, int(deadline.remainingTime()));
+        const ssize_t count = ready == 1 ? read(m_probe, bytes, sizeof bytes) : ready;
+        if (count < 0 && errno == EINTR)
+            continue;
         if (count <= 0)
             return {};
         m_received.append(bytes, int(count));
@@ -55,7 +69,10 @@ QJsonObject DesktopSession::probe(const QString &command)
         send(m_probe, line.constData(), std::size_t(line.size()), MSG_NOSIGNAL) != line.size())
         return silence;
     const QByteArray answer = readLine();
-    return answer.isEmpty() ? silence : QJsonDocument::fromJson(answer).object();
+    if (!answer.isEmpty())
+        return QJsonDocument::fromJson(answer).object();
+    disconnectProbe(); // what comes too late would be taken for the answer to the next command
+    return silence;
 }
 
 QJsonObject DesktopSession::widget(const QString &name)

@@ -4,6 +4,24 @@
 #include <QJsonArray>
 #include <QtTest>
 
+#include <csignal>
+#include <sys/time.h>
+
+namespace {
+
+volatile std::sig_atomic_t interruptions = 0;
+volatile pid_t stoppedProgram = 0;
+
+extern "C" void countInterruption(int)
+{
+    const int enough = 10;
+    interruptions = interruptions + 1;
+    if (interruptions == enough)
+        kill(stoppedProgram, SIGCONT);
+}
+
+} // namespace
+
 class TestProbe : public QObject
 {
     Q_OBJECT
@@ -13,6 +31,7 @@ private Q_SLOTS:
     void windowsAreTold();
     void widgetsAreFoundByNameAndByClass();
     void anUnknownNameOrCommandGivesAnError();
+    void aSignalToTheTestCostsNoAnswer();
     void tabsChangeByRealClicks();
     void aTableTellsHeadersAndRows();
     void aClickOnAHeaderSorts();
@@ -93,6 +112,25 @@ void TestProbe::anUnknownNameOrCommandGivesAnError()
     QVERIFY(m_session->widget(QStringLiteral("nobody")).contains(QLatin1String("error")));
     QVERIFY(m_session->probe(QStringLiteral("table ask")).contains(QLatin1String("error")));
     QVERIFY(m_session->probe(QStringLiteral("dance")).contains(QLatin1String("error")));
+}
+
+// The program can't answer before the waiting for it has been interrupted.
+void TestProbe::aSignalToTheTestCostsNoAnswer()
+{
+    interruptions = 0;
+    stoppedProgram = pid_t(m_session->pid());
+    QCOMPARE(kill(stoppedProgram, SIGSTOP), 0);
+    std::signal(SIGALRM, countInterruption);
+    const itimerval often = {{0, 10000}, {0, 10000}};
+    const itimerval never = {};
+    QCOMPARE(setitimer(ITIMER_REAL, &often, nullptr), 0);
+    const QJsonObject window = m_session->mainWindow();
+    QCOMPARE(setitimer(ITIMER_REAL, &never, nullptr), 0);
+    std::signal(SIGALRM, SIG_DFL);
+    QVERIFY(kill(stoppedProgram, SIGCONT) == 0 && interruptions > 0);
+    QCOMPARE(window.value(QLatin1String("title")).toString(), QStringLiteral("Sample"));
+    QCOMPARE(m_session->widget(QStringLiteral("ask")).value(QLatin1String("name")).toString(),
+             QStringLiteral("ask"));
 }
 
 void TestProbe::tabsChangeByRealClicks()
