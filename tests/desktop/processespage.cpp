@@ -23,8 +23,6 @@ int testUser()
 
 SessionOptions asTestUser(SessionOptions options)
 {
-    // The toolkit warns of an answer about a menu that has just been closed; the probe asks for it.
-    options.environment[QStringLiteral("QT_LOGGING_RULES")] = QStringLiteral("qt.qpa.xcb.warning=false");
     if (testUser() < 0)
         return options;
     options.environment[QStringLiteral("ZSM_TEST_USER")] = QString::number(testUser());

@@ -29,8 +29,9 @@ QProcessEnvironment plainEnvironment()
     return environment;
 }
 
-// The toolkit asks for the frame that the window manager has put around a window, and the window manager may
-// just have destroyed it. libgtop says what a bare machine lacks, such as /etc/mtab.
+// The toolkit asks for places within a window of the window manager that has gone: the numbers in the
+// warnings are from its range. Most likely it is the frame of a box that has just been closed, looked into
+// for the window under the mouse. libgtop says what a bare machine lacks, such as /etc/mtab.
 bool isOfTheMachine(const QByteArray &line)
 {
     return line.startsWith("qt.qpa.xcb: QXcbConnection: XCB error: 3 (BadWindow)") ||
