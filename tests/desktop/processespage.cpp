@@ -64,21 +64,21 @@ bool ProcessesPage::waitForNoRow(int pid)
 // Clicks again when a refresh has moved the row away from under the mouse.
 bool ProcessesPage::select(int pid)
 {
-    return m_session.waitFor([&] {
-        return isSelected(pid) ||
-               (m_session.clickRow(QStringLiteral("treeView"), QStringLiteral("PID"), QString::number(pid)) &&
-                isSelected(pid));
-    });
+    const int patience = 2000; // for the click to arrive
+    const auto clickSelects = [&] {
+        return m_session.clickRow(QStringLiteral("treeView"), QStringLiteral("PID"), QString::number(pid)) &&
+               m_session.waitFor([&] { return isSelected(pid); }, patience);
+    };
+    return m_session.waitFor([&] { return isSelected(pid) || clickSelects(); });
 }
 
 // The right button selects the row under the mouse, which a refresh may have made another one.
 bool ProcessesPage::openContextMenu(int pid)
 {
-    const int patience = 4000; // before the button is pressed again
     return m_session.waitFor([&] {
-        m_session.clickRow(QStringLiteral("treeView"), QStringLiteral("PID"), QString::number(pid), 3);
-        return (waitForMenu(QStringLiteral("Visible columns"), patience) && isSelected(pid)) ||
-               (closeMenus() && false);
+        return m_session.clickRow(QStringLiteral("treeView"), QStringLiteral("PID"), QString::number(pid),
+                                  3) &&
+               waitForMenu(QStringLiteral("Visible columns")) && (isSelected(pid) || (closeMenus() && false));
     });
 }
 
@@ -95,11 +95,10 @@ bool ProcessesPage::openProcessMenu()
            waitForMenu(QStringLiteral("Tree view"));
 }
 
-bool ProcessesPage::waitForMenu(const QString &entry, int deadlineMs)
+bool ProcessesPage::waitForMenu(const QString &entry)
 {
     return m_session.waitFor(
-        [&] { return !rectOf(m_session.menuEntry(entry).value(QLatin1String("rect"))).isEmpty(); },
-        deadlineMs);
+        [&] { return !rectOf(m_session.menuEntry(entry).value(QLatin1String("rect"))).isEmpty(); });
 }
 
 // A key may overtake a click on its way through the window manager: the page is there when this returns.
@@ -121,10 +120,13 @@ bool ProcessesPage::closeMenus()
     });
 }
 
-bool ProcessesPage::waitForDialog(const QString &title, int deadlineMs)
+bool ProcessesPage::waitForDialog(const QString &title)
 {
-    return m_session.waitFor(
-        [&] { return m_session.dialog().value(QLatin1String("title")).toString() == title; }, deadlineMs);
+    return m_session.waitFor([&] {
+        const QJsonObject dialog = m_session.dialog();
+        return dialog.value(QLatin1String("title")).toString() == title &&
+               dialog.value(QLatin1String("active")).toBool();
+    });
 }
 
 bool ProcessesPage::waitForNoDialog()

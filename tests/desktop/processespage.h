@@ -33,7 +33,8 @@ public:
     /// The page of that tab.
     bool showPage(const QString &tab);
     bool closeMenus();
-    bool waitForDialog(const QString &title, int deadlineMs = desktopDeadline);
+    /// And for it to be where the keys go.
+    bool waitForDialog(const QString &title);
     /// And for the main window to be where the keys go.
     bool waitForNoDialog();
     /// Closes open menus and dialogs with Escape.
@@ -42,7 +43,7 @@ public:
     bool quit();
 
 private:
-    bool waitForMenu(const QString &entry, int deadlineMs = desktopDeadline);
+    bool waitForMenu(const QString &entry);
     DesktopSession &m_session;
 };
 
