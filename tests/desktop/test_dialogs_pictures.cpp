@@ -5,6 +5,8 @@
 #include <QJsonArray>
 #include <QtTest>
 
+#include <csignal>
+
 namespace {
 
 // The toolkit's only platform theme that reads the colors of widgets from a file.
@@ -29,6 +31,16 @@ void writeDarkColors(const QString &home)
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
 }
 
+// Text that may be wrapped asks for a height that goes with its width.
+bool hasRoom(const QJsonValue &widget)
+{
+    const QSize given = rectOf(widget[QLatin1String("rect")]).size();
+    const QSize wanted = rectOf(widget[QLatin1String("sizeHint")]).size();
+    const int wrapped = widget[QLatin1String("heightForWidth")].toInt(-1);
+    return wrapped >= 0 ? given.height() >= wrapped
+                        : given.width() >= wanted.width() && given.height() >= wanted.height();
+}
+
 } // namespace
 
 // Every menu and dialog, drawn for a look at them; nothing in a dialog is cut off.
@@ -44,7 +56,10 @@ private:
     bool save(const char *name);
     QString cutOff();
     void drawMenus(int pid);
-    void drawQuestions(int pid);
+    void ask(const SampleProcess &sample, const char *key, const char *title);
+    void drawBox(const char *name);
+    void drawQuestions(const SampleProcess &sample);
+    void drawErrors();
     void drawOtherDialogs(int pid);
     QString m_suffix;
     std::unique_ptr<DesktopSession> m_session;
@@ -84,7 +99,8 @@ void TestDialogsPictures::everyMenuAndDialogIsDrawn()
     QVERIFY(sample.isReady());
     QVERIFY(m_page->waitForRow(sample.pid()));
     drawMenus(sample.pid());
-    drawQuestions(sample.pid());
+    drawQuestions(sample);
+    drawErrors();
     drawOtherDialogs(sample.pid());
     QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
     QCOMPARE(m_session->standardError(), QByteArray());
@@ -104,11 +120,7 @@ QString TestDialogsPictures::cutOff()
                                        .value(QLatin1String("widgets"))
                                        .toArray();
         for (const QJsonValue &widget : widgets) {
-            const QRect rect = rectOf(widget[QLatin1String("rect")]);
-            const QSize wanted = rectOf(widget[QLatin1String("sizeHint")]).size();
-            const bool fits = rect.width() >= wanted.width() && rect.height() >= wanted.height();
-            if (dialog.contains(rect) &&
-                !widget[QLatin1String("text")].toString().contains(QLatin1String("<p>")) && !fits)
+            if (dialog.contains(rectOf(widget[QLatin1String("rect")])) && !hasRoom(widget))
                 return widget[QLatin1String("text")].toString();
         }
     }
@@ -136,18 +148,56 @@ void TestDialogsPictures::drawMenus(int pid)
     QVERIFY(m_page->closeMenus());
 }
 
-void TestDialogsPictures::drawQuestions(int pid)
+void TestDialogsPictures::ask(const SampleProcess &sample, const char *key, const char *title)
 {
-    const std::pair<const char *, const char *> questions[] = {
-        {"ctrl+s", "stop"}, {"ctrl+t", "terminate"}, {"ctrl+k", "kill"}};
-    for (const auto &question : questions) {
-        QVERIFY(m_page->select(pid));
-        QVERIFY(m_session->key(QLatin1String(question.first)));
-        QVERIFY(m_session->waitFor([&] { return !m_session->dialog().isEmpty(); }));
-        QCOMPARE(cutOff(), QString());
-        QVERIFY(save(qPrintable(QStringLiteral("dialog-") + QLatin1String(question.second))));
-        QVERIFY(m_page->dismissAll());
-    }
+    QVERIFY(m_page->select(sample.pid()));
+    QVERIFY(m_session->key(QLatin1String(key)));
+    QVERIFY(m_page->waitForDialog(QLatin1String(title)));
+}
+
+void TestDialogsPictures::drawBox(const char *name)
+{
+    QVERIFY(save(name));
+    QCOMPARE(cutOff(), QString());
+    QVERIFY(m_page->dismissAll());
+}
+
+void TestDialogsPictures::drawQuestions(const SampleProcess &sample)
+{
+    ask(sample, "ctrl+s", "Process stopping");
+    drawBox("dialog-stop");
+    ask(sample, "ctrl+t", "Process terminating");
+    drawBox("dialog-terminate");
+    ask(sample, "ctrl+k", "Process killing");
+    drawBox("dialog-kill");
+    QVERIFY(sample.sendSignal(SIGSTOP));
+    QVERIFY(m_page->waitForText(sample.pid(), "State", QStringLiteral("Stopped")));
+    ask(sample, "ctrl+c", "Process resuming");
+    drawBox("dialog-continue");
+    QVERIFY(sample.sendSignal(SIGCONT));
+}
+
+void TestDialogsPictures::drawErrors()
+{
+    auto sample = std::make_unique<SampleProcess>(QStringLiteral("err"), SampleProcess::Sleeping, testUser());
+    QVERIFY(sample->isReady());
+    const int pid = sample->pid();
+    QVERIFY(m_page->waitForRow(pid));
+
+    QVERIFY(m_page->openContextMenu(pid));
+    QVERIFY(m_session->clickMenu(QStringLiteral("Change priority...")));
+    QVERIFY(m_page->waitForDialog(QStringLiteral("Change priority")));
+    QVERIFY(m_session->key(QStringLiteral("Left"))); // a higher priority, which the kernel refuses
+    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
+    QVERIFY(m_page->waitForDialog(QStringLiteral("Error")));
+    drawBox("dialog-error-priority");
+
+    ask(*sample, "ctrl+t", "Process terminating");
+    sample.reset();
+    QVERIFY(m_page->waitForNoRow(pid));
+    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
+    QVERIFY(m_page->waitForDialog(QStringLiteral("Error")));
+    drawBox("dialog-error-signal");
 }
 
 void TestDialogsPictures::drawOtherDialogs(int pid)
@@ -167,9 +217,7 @@ void TestDialogsPictures::drawOtherDialogs(int pid)
         for (const QString &entry : dialog.way)
             QVERIFY2(m_session->clickMenu(entry), qPrintable(entry));
         QVERIFY(m_session->waitFor([&] { return !m_session->dialog().isEmpty(); }));
-        QCOMPARE(cutOff(), QString());
-        QVERIFY(save(dialog.name));
-        QVERIFY(m_page->dismissAll());
+        drawBox(dialog.name);
     }
 }
 

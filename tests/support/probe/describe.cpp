@@ -103,6 +103,8 @@ QJsonObject describeWidget(const QWidget *widget)
         if (value.isValid())
             json[QLatin1String(property)] = QJsonValue::fromVariant(value);
     }
+    if (widget->hasHeightForWidth())
+        json[QStringLiteral("heightForWidth")] = widget->heightForWidth(widget->width());
     if (const auto *tabs = qobject_cast<const QTabWidget *>(widget))
         json[QStringLiteral("tabs")] = describeTabs(tabs);
     if (const auto *combo = qobject_cast<const QComboBox *>(widget))
