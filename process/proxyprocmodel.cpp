@@ -78,6 +78,14 @@ void ProxyProcModel::setColumnVisible(unsigned long i, bool on)
     reset();
 }
 
+/// Without it the view would keep, for each row that is expanded together with all, an index that has to be
+/// followed through every refresh.
+Qt::ItemFlags ProxyProcModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags flags = QSortFilterProxyModel::flags(index);
+    return index.isValid() && isFlat() ? flags | Qt::ItemNeverHasChildren : flags;
+}
+
 gtop_wrappers::Process ProxyProcModel::processAt(const QModelIndex &index) const
 {
     return source->processAt(mapToSource(index));

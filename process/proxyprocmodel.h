@@ -39,6 +39,9 @@ public:
     /// The process column that the list is sorted by; -1 if it is not sorted.
     int sortedColumn() const { return source->processColumn(sortColumn()); }
 
+    /// The source's; in a flat list also that no row ever has children.
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
     /// The process of a row of this proxy; Process(-1) for an invalid index.
     gtop_wrappers::Process processAt(const QModelIndex &index) const;
     gtop_wrappers::Process processByPid(int pid) const;
