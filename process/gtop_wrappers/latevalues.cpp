@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/latevalues.h"
 
-#include "fs/sizetostr.h"
 #include "process/gtop_wrappers/lazyparams.h"
 
 namespace gtop_wrappers {
@@ -23,22 +22,6 @@ const ProcessRecord *LateValues::with(unsigned reads)
         known |= readAlso(missing, values) ? missing : 0U;
     }
     return (reads & ~known) == 0 ? &values : nullptr;
-}
-
-LateSizeParam::LateSizeParam(const LatePtr &late, quint64 ProcessRecord::*figure)
-    : values(late), member(figure)
-{}
-
-QVariant LateSizeParam::displayValue() const
-{
-    const ProcessRecord *const record = values->with(ReadMemory);
-    return record ? sizeToStr(record->*member) : QString();
-}
-
-QVariant LateSizeParam::sortValue() const
-{
-    const ProcessRecord *const record = values->with(ReadMemory);
-    return record ? record->*member : quint64(0);
 }
 
 LateNiceParam::LateNiceParam(const LatePtr &late) : values(late)

@@ -2,6 +2,7 @@
 #ifndef GTOP_WRAPPERS_LATEVALUES_H
 #define GTOP_WRAPPERS_LATEVALUES_H
 
+#include "fs/sizetostr.h"
 #include "process/gtop_wrappers/param.h"
 #include "process/gtop_wrappers/record.h"
 
@@ -31,17 +32,27 @@ private:
 
 using LatePtr = std::tr1::shared_ptr<LateValues>;
 
-/// An amount of memory in bytes, read when it is first asked for.
+/// An amount of memory in bytes, the `Member` of a record, read when it is first asked for.
+template <quint64 ProcessRecord::*Member>
 class LateSizeParam : public IProcessParam
 {
 public:
-    LateSizeParam(const LatePtr &late, quint64 ProcessRecord::*figure);
-    QVariant displayValue() const override;
-    QVariant sortValue() const override;
+    explicit LateSizeParam(const LatePtr &late) : values(late) {}
+
+    QVariant displayValue() const override
+    {
+        const ProcessRecord *const record = values->with(ReadMemory);
+        return record ? sizeToStr(record->*Member) : QString();
+    }
+
+    QVariant sortValue() const override
+    {
+        const ProcessRecord *const record = values->with(ReadMemory);
+        return record ? record->*Member : quint64(0);
+    }
 
 private:
     LatePtr values;
-    quint64 ProcessRecord::*member;
 };
 
 /// The nice value, read when it is first asked for.

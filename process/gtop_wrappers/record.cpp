@@ -170,7 +170,9 @@ std::vector<ProcessRecord> readProcesses(std::optional<uid_t> realUser, unsigned
     std::vector<ProcessRecord> records;
     RawProcess raw;
     ProcessRecord record;
-    for (const int pid : readPids()) {
+    const std::vector<int> pids = readPids();
+    records.reserve(realUser ? 0 : pids.size());
+    for (const int pid : pids) {
         unsigned left = reads;
         if (realUser) {
             readRaw(pid, ReadUid, raw);
