@@ -66,9 +66,10 @@ void readArguments(int pid, RawProcess &raw)
 /// one CPU. Leaving that out for as long as this call takes saves a tenth of a snapshot.
 void readTimes(int pid, glibtop_proc_time &times)
 {
-    const int lastCpu = std::exchange(glibtop_global_server->ncpu, 0);
+    glibtop *const server = glibtop_init();
+    const int lastCpu = std::exchange(server->ncpu, 0);
     glibtop_get_proc_time(&times, pid);
-    glibtop_global_server->ncpu = lastCpu;
+    server->ncpu = lastCpu;
 }
 
 /// Fills in what these reads have brought.
