@@ -24,7 +24,7 @@ void Updater::buildFileMenu()
 {
     fileMenu = ui.menubar->addMenu(tr("&File"));
     const QIcon icon =
-        QIcon::fromTheme(QStringLiteral("application-exit"), QIcon(QStringLiteral(":/images/exit")));
+        QIcon::fromTheme(QStringLiteral("application-exit"), QPixmap(QStringLiteral(":/images/exit"), "PNG"));
     fileMenu->addAction(icon, tr("Exit"), qApp, SLOT(quit()), QKeySequence(QStringLiteral("Ctrl+Q")));
 }
 

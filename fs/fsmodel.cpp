@@ -25,8 +25,8 @@ bool isOpticalType(const QString &type)
 } // namespace
 
 FSModel::FSModel(QObject *parent)
-    : QAbstractTableModel(parent), opticalFallback(QStringLiteral(":/images/cd")),
-      diskFallback(QStringLiteral(":/images/hard"))
+    : QAbstractTableModel(parent), opticalFallback(QPixmap(QStringLiteral(":/images/cd"), "PNG")),
+      diskFallback(QPixmap(QStringLiteral(":/images/hard"), "PNG"))
 {}
 
 FSModel::~FSModel() = default;

@@ -173,7 +173,7 @@ void ProcessMenu::createAction(const ActionRow &row, QActionGroup *&group)
     action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
     if (*row.themeIcon) {
         action->setIcon(
-            QIcon::fromTheme(QLatin1String(row.themeIcon), QIcon(QLatin1String(row.fallbackIcon))));
+            QIcon::fromTheme(QLatin1String(row.themeIcon), QPixmap(QLatin1String(row.fallbackIcon), "PNG")));
     }
     action->setCheckable(row.checking != Plain);
     if (row.checking == Exclusive) {

@@ -5,7 +5,7 @@
 
 ProxyProcModel::ProxyProcModel(QObject *parent)
     : QSortFilterProxyModel(parent), source(new ProcModel(parent)), pendingLayout(true),
-      types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
+      layoutHeld(false), layoutOwed(false), types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
 {
     setSortRole(Qt::UserRole);
     setDynamicSortFilter(true);
@@ -31,8 +31,21 @@ void ProxyProcModel::setTotalCpuTime(unsigned long total)
 void ProxyProcModel::refresh(const ProcModel::Snapshot &snapshot, int)
 {
     source->update(snapshot, currentCpuTotal - previousCpuTotal, 0);
-    if (view) {
+    layoutOwed = true;
+    payLayout();
+}
+
+void ProxyProcModel::setLayoutHeld(bool held)
+{
+    layoutHeld = held;
+    payLayout();
+}
+
+void ProxyProcModel::payLayout()
+{
+    if (layoutOwed && !layoutHeld && view) {
         layOutView();
+        layoutOwed = false;
     }
 }
 
@@ -127,5 +140,6 @@ void ProxyProcModel::reset()
     beginResetModel();
     source->clear();
     pendingLayout = true;
+    layoutOwed = false;
     endResetModel();
 }
