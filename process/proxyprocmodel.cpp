@@ -4,8 +4,8 @@
 #include "process/gtop_wrappers/filler.h"
 
 ProxyProcModel::ProxyProcModel(QObject *parent)
-    : QSortFilterProxyModel(parent), source(new ProcModel(parent)), pendingLayout(true),
-      layoutHeld(false), layoutOwed(false), types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
+    : QSortFilterProxyModel(parent), source(new ProcModel(parent)), pendingLayout(true), layoutHeld(false),
+      layoutOwed(false), types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
 {
     setSortRole(Qt::UserRole);
     setDynamicSortFilter(true);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/latevalues.h"
 
+#include "fs/sizetostr.h"
 #include "process/gtop_wrappers/lazyparams.h"
 
 namespace gtop_wrappers {
@@ -23,6 +24,28 @@ const ProcessRecord *LateValues::with(unsigned reads)
     }
     return (reads & ~known) == 0 ? &values : nullptr;
 }
+
+template <quint64 ProcessRecord::*Member>
+LateSizeParam<Member>::LateSizeParam(const LatePtr &late) : values(late)
+{}
+
+template <quint64 ProcessRecord::*Member>
+QVariant LateSizeParam<Member>::displayValue() const
+{
+    const ProcessRecord *const record = values->with(ReadMemory);
+    return record ? sizeToStr(record->*Member) : QString();
+}
+
+template <quint64 ProcessRecord::*Member>
+QVariant LateSizeParam<Member>::sortValue() const
+{
+    const ProcessRecord *const record = values->with(ReadMemory);
+    return record ? record->*Member : quint64(0);
+}
+
+template class LateSizeParam<&ProcessRecord::resident>;
+template class LateSizeParam<&ProcessRecord::virtualSize>;
+template class LateSizeParam<&ProcessRecord::shared>;
 
 LateNiceParam::LateNiceParam(const LatePtr &late) : values(late)
 {}

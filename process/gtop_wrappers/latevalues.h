@@ -2,7 +2,6 @@
 #ifndef GTOP_WRAPPERS_LATEVALUES_H
 #define GTOP_WRAPPERS_LATEVALUES_H
 
-#include "fs/sizetostr.h"
 #include "process/gtop_wrappers/param.h"
 #include "process/gtop_wrappers/record.h"
 
@@ -37,23 +36,17 @@ template <quint64 ProcessRecord::*Member>
 class LateSizeParam : public IProcessParam
 {
 public:
-    explicit LateSizeParam(const LatePtr &late) : values(late) {}
-
-    QVariant displayValue() const override
-    {
-        const ProcessRecord *const record = values->with(ReadMemory);
-        return record ? sizeToStr(record->*Member) : QString();
-    }
-
-    QVariant sortValue() const override
-    {
-        const ProcessRecord *const record = values->with(ReadMemory);
-        return record ? record->*Member : quint64(0);
-    }
+    explicit LateSizeParam(const LatePtr &late);
+    QVariant displayValue() const override;
+    QVariant sortValue() const override;
 
 private:
     LatePtr values;
 };
+
+extern template class LateSizeParam<&ProcessRecord::resident>;
+extern template class LateSizeParam<&ProcessRecord::virtualSize>;
+extern template class LateSizeParam<&ProcessRecord::shared>;
 
 /// The nice value, read when it is first asked for.
 class LateNiceParam : public IProcessParam

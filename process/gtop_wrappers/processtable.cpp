@@ -119,7 +119,8 @@ std::map<int, Process> ProcessTable::update(std::vector<ProcessRecord> records)
         before = std::find_if(before, last.end(),
                               [&record](const Entry &entry) { return entry.record.pid >= record.pid; });
         const bool known = before != last.end() && before->record.pid == record.pid;
-        entries.push_back(known ? std::move(*before) : Entry{ProcessRecord(), Process(record.pid), LatePtr()});
+        entries.push_back(known ? std::move(*before)
+                                : Entry{ProcessRecord(), Process(record.pid), LatePtr()});
         renew(entries.back(), std::move(record));
         snapshot.emplace_hint(snapshot.end(), entries.back().process.id, entries.back().process);
     }

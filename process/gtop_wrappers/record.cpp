@@ -84,7 +84,6 @@ void take(unsigned reads, const RawProcess &raw, ProcessRecord &record)
         record.processor = std::clamp(raw.state.last_processor, -1, std::numeric_limits<int>::max() - 1) + 1;
     }
     if (reads & ReadUid) {
-        record.realUser = raw.uid.uid;
         record.parent = raw.uid.ppid;
         record.nice = raw.uid.nice;
     }
@@ -163,27 +162,21 @@ bool readAlso(unsigned reads, ProcessRecord &record)
     return true;
 }
 
-std::vector<ProcessRecord> readProcesses(std::optional<uid_t> realUser, unsigned reads)
+std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned reads)
 {
-    if (realUser) {
-        reads |= ReadUid;
-    }
+    const unsigned first = user ? unsigned(ReadState) : 0U;
+    const std::vector<int> pids = readPids();
     std::vector<ProcessRecord> records;
+    records.reserve(user ? 0 : pids.size());
     RawProcess raw;
     ProcessRecord record;
-    const std::vector<int> pids = readPids();
-    records.reserve(realUser ? 0 : pids.size());
     for (const int pid : pids) {
-        unsigned left = reads;
-        if (realUser) {
-            readRaw(pid, ReadUid, raw);
-            if (static_cast<uid_t>(raw.uid.uid) != *realUser) {
-                continue;
-            }
-            left &= ~ReadUid;
+        readRaw(pid, first, raw);
+        if (user && static_cast<uid_t>(raw.state.uid) != *user) {
+            continue;
         }
-        readRaw(pid, left, raw);
-        if (reduce(pid, reads, raw, record)) {
+        readRaw(pid, reads & ~first, raw);
+        if (reduce(pid, reads | first, raw, record)) {
             records.push_back(std::move(record));
         }
     }
