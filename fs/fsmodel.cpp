@@ -148,8 +148,8 @@ QModelIndex FSModel::firstIndex() const
 QIcon FSModel::icon(const FSInfo &info) const
 {
     if (diskFallback.isNull()) {
-        opticalFallback = QIcon(QStringLiteral(":/images/cd"));
-        diskFallback = QIcon(QStringLiteral(":/images/hard"));
+        opticalFallback = QPixmap(QStringLiteral(":/images/cd"), "PNG");
+        diskFallback = QPixmap(QStringLiteral(":/images/hard"), "PNG");
     }
     return isOpticalType(info.type) ? QIcon::fromTheme(QStringLiteral("drive-optical"), opticalFallback)
                                     : QIcon::fromTheme(QStringLiteral("drive-harddisk"), diskFallback);
