@@ -21,6 +21,7 @@ public:
     void take();
 
 private:
+    bool holdsEnough() const;
     void drop();
 
     std::vector<int> held;

@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <malloc.h>
+
 #include <iostream>
 
 namespace {
@@ -25,10 +27,21 @@ void doWithoutOpenGl()
     }
 }
 
+// What a refresh takes in one piece goes back to the system with it, instead of staying with the process for
+// good, as it would once the C library has seen how large the pieces are.
+void giveLargeBlocksBack()
+{
+    constexpr int largeBlock = 256 * 1024;
+    constexpr int keptForTheNextRefresh = 16 * 1024 * 1024;
+    mallopt(M_MMAP_THRESHOLD, largeBlock);
+    mallopt(M_TRIM_THRESHOLD, keptForTheNextRefresh);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    giveLargeBlocksBack();
     doWithoutOpenGl();
     QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("utilities-system-monitor")));

@@ -23,8 +23,8 @@ void Updater::buildMenus()
 void Updater::buildFileMenu()
 {
     fileMenu = ui.menubar->addMenu(tr("&File"));
-    const QIcon icon =
-        QIcon::fromTheme(QStringLiteral("application-exit"), QIcon(QStringLiteral(":/images/exit")));
+    const QIcon icon = // by its kind, as those of the process menu
+        QIcon::fromTheme(QStringLiteral("application-exit"), QPixmap(QStringLiteral(":/images/exit"), "PNG"));
     fileMenu->addAction(icon, tr("Exit"), qApp, SLOT(quit()), QKeySequence(QStringLiteral("Ctrl+Q")));
 }
 

@@ -24,9 +24,7 @@ bool isOpticalType(const QString &type)
 
 } // namespace
 
-FSModel::FSModel(QObject *parent)
-    : QAbstractTableModel(parent), opticalFallback(QStringLiteral(":/images/cd")),
-      diskFallback(QStringLiteral(":/images/hard"))
+FSModel::FSModel(QObject *parent) : QAbstractTableModel(parent)
 {}
 
 FSModel::~FSModel() = default;
@@ -149,6 +147,10 @@ QModelIndex FSModel::firstIndex() const
 
 QIcon FSModel::icon(const FSInfo &info) const
 {
+    if (diskFallback.isNull()) {
+        opticalFallback = QPixmap(QStringLiteral(":/images/cd"), "PNG");
+        diskFallback = QPixmap(QStringLiteral(":/images/hard"), "PNG");
+    }
     return isOpticalType(info.type) ? QIcon::fromTheme(QStringLiteral("drive-optical"), opticalFallback)
                                     : QIcon::fromTheme(QStringLiteral("drive-harddisk"), diskFallback);
 }

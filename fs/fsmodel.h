@@ -45,8 +45,9 @@ private:
     qint64 sumOverDevices(qint32 FSInfo::*count) const;
 
     std::vector<std::tr1::shared_ptr<FSItem>> rows;
-    const QIcon opticalFallback; ///< kept, since reading them anew for each painted cell is slow
-    const QIcon diskFallback;
+    // Made for the first cell that is painted, since that takes a while, and kept.
+    mutable QIcon opticalFallback;
+    mutable QIcon diskFallback;
 };
 
 #endif

@@ -2,11 +2,13 @@
 #include "fs/mountlist.h"
 
 #include <glib.h>
+#include <glibtop.h>
 #include <glibtop/fsusage.h>
 #include <glibtop/mountlist.h>
 
 #include <cstring>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -15,6 +17,17 @@ template <std::size_t size>
 std::string boundedName(const char (&bytes)[size])
 {
     return std::string(bytes, strnlen(bytes, size));
+}
+
+/// libgtop adds what has been read from and written to the device, and looks through all mounts for it each
+/// time, unless the kernel is too old to tell. Letting it think so for as long as this call takes keeps a
+/// machine with thousands of mounts from millions of lines to be read per refresh.
+void readUsage(const std::string &mountDir, glibtop_fsusage &usage)
+{
+    glibtop *const server = glibtop_init();
+    const unsigned long kernel = std::exchange(server->os_version_code, 0UL);
+    glibtop_get_fsusage(&usage, mountDir.c_str());
+    server->os_version_code = kernel;
 }
 
 MountEntry readEntry(const glibtop_mountentry &mount)
@@ -26,7 +39,7 @@ MountEntry readEntry(const glibtop_mountentry &mount)
 
     // A failed query is not reported: it leaves no blocks, which is what drops a vanished mount.
     glibtop_fsusage usage{};
-    glibtop_get_fsusage(&usage, entry.mountdir.c_str());
+    readUsage(entry.mountdir, usage);
     entry.blocks = usage.blocks;
     entry.bfree = usage.bfree;
     entry.bavail = usage.bavail;

@@ -172,8 +172,9 @@ void ProcessMenu::createAction(const ActionRow &row, QActionGroup *&group)
     auto *const action = new QAction(tr(row.text), this);
     action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
     if (*row.themeIcon) {
+        // An icon made from the name would load the system's data base of file types to learn that it is PNG.
         action->setIcon(
-            QIcon::fromTheme(QLatin1String(row.themeIcon), QIcon(QLatin1String(row.fallbackIcon))));
+            QIcon::fromTheme(QLatin1String(row.themeIcon), QPixmap(QLatin1String(row.fallbackIcon), "PNG")));
     }
     action->setCheckable(row.checking != Plain);
     if (row.checking == Exclusive) {

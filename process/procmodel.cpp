@@ -225,7 +225,13 @@ Process ProcModel::processAt(const QModelIndex &index) const
 /// The root for an invalid index; null for a process that is gone.
 ProcItem *ProcModel::itemOf(const QModelIndex &index) const
 {
-    return index.isValid() ? itemByPid(static_cast<int>(index.internalId())) : root.get();
+    if (!index.isValid()) {
+        return root.get();
+    }
+    const int pid = static_cast<int>(index.internalId());
+    // A guess that is right for every index of a flat list that is up to date; a sort comes here often.
+    ProcItem *const inThatRow = root->child(index.row());
+    return inThatRow && inThatRow->pid() == pid ? inThatRow : itemByPid(pid);
 }
 
 ProcItem *ProcModel::itemByPid(int pid) const

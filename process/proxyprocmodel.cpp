@@ -4,8 +4,8 @@
 #include "process/gtop_wrappers/filler.h"
 
 ProxyProcModel::ProxyProcModel(QObject *parent)
-    : QSortFilterProxyModel(parent), source(new ProcModel(parent)), pendingLayout(true),
-      types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
+    : QSortFilterProxyModel(parent), source(new ProcModel(parent)), pendingLayout(true), layoutHeld(false),
+      layoutOwed(false), types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
 {
     setSortRole(Qt::UserRole);
     setDynamicSortFilter(true);
@@ -31,8 +31,21 @@ void ProxyProcModel::setTotalCpuTime(unsigned long total)
 void ProxyProcModel::refresh(const ProcModel::Snapshot &snapshot, int)
 {
     source->update(snapshot, currentCpuTotal - previousCpuTotal, 0);
-    if (view) {
+    layoutOwed = true;
+    payLayout();
+}
+
+void ProxyProcModel::setLayoutHeld(bool held)
+{
+    layoutHeld = held;
+    payLayout();
+}
+
+void ProxyProcModel::payLayout()
+{
+    if (layoutOwed && !layoutHeld && view) {
         layOutView();
+        layoutOwed = false;
     }
 }
 
@@ -78,6 +91,14 @@ void ProxyProcModel::setColumnVisible(unsigned long i, bool on)
     reset();
 }
 
+/// Without it the view would keep, for each row that is expanded together with all, an index that has to be
+/// followed through every refresh.
+Qt::ItemFlags ProxyProcModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags flags = QSortFilterProxyModel::flags(index);
+    return index.isValid() && isFlat() ? flags | Qt::ItemNeverHasChildren : flags;
+}
+
 gtop_wrappers::Process ProxyProcModel::processAt(const QModelIndex &index) const
 {
     return source->processAt(mapToSource(index));
@@ -119,5 +140,6 @@ void ProxyProcModel::reset()
     beginResetModel();
     source->clear();
     pendingLayout = true;
+    layoutOwed = false;
     endResetModel();
 }

@@ -27,6 +27,10 @@ public:
     /// columns. The second argument is unused.
     void refresh(const ProcModel::Snapshot &snapshot, int = 0);
 
+    /// As long as the layout is held, refreshes owe the view its rows and column widths; it gets them in the
+    /// end. For changes in a row that nobody sees.
+    void setLayoutHeld(bool held);
+
     /// Which processes are listed: a gtop_wrappers::ProcessTypes.
     int processTypes() const { return types; }
     void setProcessTypes(int processTypes);
@@ -38,6 +42,9 @@ public:
 
     /// The process column that the list is sorted by; -1 if it is not sorted.
     int sortedColumn() const { return source->processColumn(sortColumn()); }
+
+    /// The source's; in a flat list also that no row ever has children.
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
 
     /// The process of a row of this proxy; Process(-1) for an invalid index.
     gtop_wrappers::Process processAt(const QModelIndex &index) const;
@@ -51,11 +58,14 @@ public:
 
 private:
     void reset();
+    void payLayout();
     void layOutView();
 
     ProcModel *source;
     QPointer<QTreeView> view;
     bool pendingLayout; ///< expand the tree and fit the columns after the next refresh
+    bool layoutHeld;
+    bool layoutOwed; ///< a refresh came while the layout was held
     int types;
     quint64 currentCpuTotal;
     quint64 previousCpuTotal;

@@ -62,9 +62,14 @@ bool same(const ProcessRecord &before, const ProcessRecord &now)
 }
 
 template <auto Member>
-ParamPtr makeInt(const ProcessRecord &record, SharedParams &)
+ParamPtr makeInt(const ProcessRecord &record, SharedParams &shared)
 {
-    return ParamPtr(new IntProcessParam(record.*Member));
+    return shared.number(record.*Member);
+}
+
+ParamPtr makePid(const ProcessRecord &record, SharedParams &)
+{
+    return ParamPtr(new IntProcessParam(record.pid)); // no other process has it
 }
 
 template <auto Member>
@@ -116,7 +121,7 @@ ParamPtr makeCommandLine(const ProcessRecord &record, SharedParams &)
 template <auto Member>
 ParamPtr makeLateSize(const LatePtr &values)
 {
-    return ParamPtr(new LateSizeParam(values, Member));
+    return ParamPtr(new LateSizeParam<Member>(values));
 }
 
 ParamPtr makeLateNice(const LatePtr &values)
@@ -146,7 +151,7 @@ using Record = ProcessRecord;
 const std::array<Column, ColumnCount> table = {{
     {QT_TRANSLATE_NOOP("ProcessFiller", "Name"), ReadState, makeName, same<&Record::name>, nullptr},
     {QT_TRANSLATE_NOOP("ProcessFiller", "CPU"), ReadTime, makeCpu, neverSame, nullptr},
-    intColumn<&Record::pid>(QT_TRANSLATE_NOOP("ProcessFiller", "PID"), 0),
+    {QT_TRANSLATE_NOOP("ProcessFiller", "PID"), 0, makePid, same<&Record::pid>, nullptr},
     {QT_TRANSLATE_NOOP("ProcessFiller", "User"), ReadState, makeUser, same<&Record::user>, nullptr},
     sizeColumn<&Record::resident>(QT_TRANSLATE_NOOP("ProcessFiller", "Memory")),
     {QT_TRANSLATE_NOOP("ProcessFiller", "State"), ReadState, makeState, same<&Record::state>, nullptr},
@@ -182,10 +187,20 @@ ParamPtr SharedParams::state(int code)
     return param;
 }
 
+ParamPtr SharedParams::number(int value)
+{
+    ParamPtr &param = numbers[value];
+    if (!param) {
+        param.reset(new IntProcessParam(value));
+    }
+    return param;
+}
+
 void SharedParams::dropUnused()
 {
     dropUnusedOf(users);
     dropUnusedOf(states);
+    dropUnusedOf(numbers);
 }
 
 const std::array<Column, ColumnCount> &columns()

@@ -12,7 +12,7 @@
 
 namespace gtop_wrappers {
 
-/// Values that many processes have in common, made once: the users, the states.
+/// Values that many processes have in common, made once: the users, the states, small numbers.
 class SharedParams
 {
 public:
@@ -20,12 +20,14 @@ public:
     /// up.
     ParamPtr user(int uid);
     ParamPtr state(int code);
+    ParamPtr number(int value);
     /// Forgets the values that no process has any more.
     void dropUnused();
 
 private:
     std::map<int, ParamPtr> users;
     std::map<int, ParamPtr> states;
+    std::map<int, ParamPtr> numbers;
 };
 
 /// One process column.

@@ -41,8 +41,8 @@ QString ProcessFiller::title(unsigned long i) const
 std::map<int, Process> ProcessFiller::getProcesses(ProcessTypes types)
 {
     // A value that is neither of the two lists all, as the first does.
-    const auto realUser = types == MyProcesses ? std::optional<uid_t>(getuid()) : std::nullopt;
-    std::vector<ProcessRecord> records = readProcesses(realUser, table->reads());
+    const auto user = types == MyProcesses ? std::optional<uid_t>(getuid()) : std::nullopt;
+    std::vector<ProcessRecord> records = readProcesses(user, table->reads());
     table->complete(records);
     return table->update(std::move(records));
 }

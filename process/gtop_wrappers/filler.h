@@ -15,7 +15,7 @@ class ProcessTable;
 /// Which processes are listed.
 enum ProcessTypes {
     AllProcesses = 0, ///< every process of the machine
-    MyProcesses = 1   ///< those of the program's real user id
+    MyProcesses = 1   ///< those whose User column names the program's real user
 };
 
 /// Reads the processes of the machine through libgtop.

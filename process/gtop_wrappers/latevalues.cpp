@@ -25,21 +25,27 @@ const ProcessRecord *LateValues::with(unsigned reads)
     return (reads & ~known) == 0 ? &values : nullptr;
 }
 
-LateSizeParam::LateSizeParam(const LatePtr &late, quint64 ProcessRecord::*figure)
-    : values(late), member(figure)
+template <quint64 ProcessRecord::*Member>
+LateSizeParam<Member>::LateSizeParam(const LatePtr &late) : values(late)
 {}
 
-QVariant LateSizeParam::displayValue() const
+template <quint64 ProcessRecord::*Member>
+QVariant LateSizeParam<Member>::displayValue() const
 {
     const ProcessRecord *const record = values->with(ReadMemory);
-    return record ? sizeToStr(record->*member) : QString();
+    return record ? sizeToStr(record->*Member) : QString();
 }
 
-QVariant LateSizeParam::sortValue() const
+template <quint64 ProcessRecord::*Member>
+QVariant LateSizeParam<Member>::sortValue() const
 {
     const ProcessRecord *const record = values->with(ReadMemory);
-    return record ? record->*member : quint64(0);
+    return record ? record->*Member : quint64(0);
 }
+
+template class LateSizeParam<&ProcessRecord::resident>;
+template class LateSizeParam<&ProcessRecord::virtualSize>;
+template class LateSizeParam<&ProcessRecord::shared>;
 
 LateNiceParam::LateNiceParam(const LatePtr &late) : values(late)
 {}

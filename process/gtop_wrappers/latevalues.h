@@ -31,18 +31,22 @@ private:
 
 using LatePtr = std::tr1::shared_ptr<LateValues>;
 
-/// An amount of memory in bytes, read when it is first asked for.
+/// An amount of memory in bytes, the `Member` of a record, read when it is first asked for.
+template <quint64 ProcessRecord::*Member>
 class LateSizeParam : public IProcessParam
 {
 public:
-    LateSizeParam(const LatePtr &late, quint64 ProcessRecord::*figure);
+    explicit LateSizeParam(const LatePtr &late);
     QVariant displayValue() const override;
     QVariant sortValue() const override;
 
 private:
     LatePtr values;
-    quint64 ProcessRecord::*member;
 };
+
+extern template class LateSizeParam<&ProcessRecord::resident>;
+extern template class LateSizeParam<&ProcessRecord::virtualSize>;
+extern template class LateSizeParam<&ProcessRecord::shared>;
 
 /// The nice value, read when it is first asked for.
 class LateNiceParam : public IProcessParam

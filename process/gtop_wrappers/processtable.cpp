@@ -114,16 +114,15 @@ std::map<int, Process> ProcessTable::update(std::vector<ProcessRecord> records)
     std::map<int, Process> snapshot;
     std::vector<Entry> entries;
     entries.reserve(records.size());
-    auto before = last.cbegin();
+    auto before = last.begin();
     for (ProcessRecord &record : records) {
-        before = std::find_if(before, last.cend(),
+        before = std::find_if(before, last.end(),
                               [&record](const Entry &entry) { return entry.record.pid >= record.pid; });
-        const bool known = before != last.cend() && before->record.pid == record.pid;
-        const Entry *const entry = known ? &*before : nullptr;
-        const LatePtr late = lateValues(record, entry);
-        Process process = make(record, entry, late);
-        snapshot.emplace_hint(snapshot.end(), record.pid, process);
-        entries.push_back({std::move(record), std::move(process), late});
+        const bool known = before != last.end() && before->record.pid == record.pid;
+        entries.push_back(known ? std::move(*before)
+                                : Entry{ProcessRecord(), Process(record.pid), LatePtr()});
+        renew(entries.back(), std::move(record));
+        snapshot.emplace_hint(snapshot.end(), entries.back().process.id, entries.back().process);
     }
     last = std::move(entries);
     shared.dropUnused();
@@ -138,35 +137,36 @@ const ProcessTable::Entry *ProcessTable::find(int pid) const
     return found != last.end() && found->record.pid == pid ? &*found : nullptr;
 }
 
+/// Makes the values that the record changes; the others stay the same objects.
+void ProcessTable::renew(Entry &entry, ProcessRecord &&record)
+{
+    LatePtr late = lateValues(record, entry);
+    std::vector<ParamPtr> &params = entry.process.params;
+    params.resize(ColumnCount);
+    for (std::size_t i = 0; i < ColumnCount; ++i) {
+        const Column &column = columns()[i];
+        const bool isLateNow = isLate(column, record);
+        const bool same = params[i] && isLateNow == isLate(column, entry.record) &&
+                          (isLateNow ? late == entry.late : column.same(entry.record, record));
+        if (!same) {
+            params[i] = isLateNow ? column.makeLate(late) : column.make(record, shared);
+        }
+    }
+    entry.late = std::move(late);
+    entry.record = std::move(record);
+}
+
 /// Those of the last snapshot, to be read anew, if it had the same process.
-LatePtr ProcessTable::lateValues(const ProcessRecord &record, const Entry *before) const
+LatePtr ProcessTable::lateValues(const ProcessRecord &record, const Entry &before)
 {
     if (record.late == 0) {
         return LatePtr();
     }
-    if (before && before->late && before->record.started == record.started) {
-        before->late->renew(record);
-        return before->late;
+    if (before.late && before.record.started == record.started) {
+        before.late->renew(record);
+        return before.late;
     }
     return LatePtr(new LateValues(record));
-}
-
-Process ProcessTable::make(const ProcessRecord &record, const Entry *before, const LatePtr &late)
-{
-    Process process(record.pid);
-    process.params.reserve(ColumnCount);
-    for (std::size_t i = 0; i < ColumnCount; ++i) {
-        const Column &column = columns()[i];
-        const bool isLateNow = isLate(column, record);
-        const bool same = before && isLateNow == isLate(column, before->record) &&
-                          (isLateNow ? late == before->late : column.same(before->record, record));
-        if (same) {
-            process.params.push_back(before->process.params[i]);
-        } else {
-            process.params.push_back(isLateNow ? column.makeLate(late) : column.make(record, shared));
-        }
-    }
-    return process;
 }
 
 } // namespace gtop_wrappers

@@ -41,8 +41,8 @@ private:
     bool completeRecord(const std::vector<ProcessRecord> &all, ProcessRecord &record,
                         StartClock::Time now) const;
     bool keepsParent(const Entry &before, const std::vector<ProcessRecord> &all) const;
-    LatePtr lateValues(const ProcessRecord &record, const Entry *before) const;
-    Process make(const ProcessRecord &record, const Entry *before, const LatePtr &late);
+    void renew(Entry &entry, ProcessRecord &&record);
+    static LatePtr lateValues(const ProcessRecord &record, const Entry &before);
 
     std::array<bool, ColumnCount> wantedAtOnce;
     std::vector<Entry> last; ///< ascending by pid

@@ -19,7 +19,7 @@ namespace gtop_wrappers {
 /// The libgtop calls that reading a process can take; they are what a refresh costs, so none is made in vain.
 enum Reads : unsigned {
     ReadState = 1, ///< name, state, effective user, processor
-    ReadUid = 2,   ///< real user, parent, nice value
+    ReadUid = 2,   ///< parent, nice value
     ReadTime = 4,  ///< CPU time, start
     ReadMemory = 8,
     ReadArguments = 16,
@@ -44,7 +44,6 @@ struct ProcessRecord
     QByteArray name; ///< as the kernel has it: at most 15 bytes of any kind
     int state = 0;   ///< libgtop's code
     int user = -1;   ///< effective user id
-    int realUser = -1;
     int parent = 0;
     int nice = 0;
     int processor = 0;     ///< that it last ran on, counted from 1; 0 if unknown
@@ -74,8 +73,9 @@ bool reduce(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &recor
 bool readAlso(unsigned reads, ProcessRecord &record);
 
 /// Reads the processes, ascending by pid, without those that end meanwhile.
-/// realUser: only those of this real user id; none for all.
-std::vector<ProcessRecord> readProcesses(std::optional<uid_t> realUser, unsigned reads);
+/// user: only those of this effective user id, which costs less than asking each for its real one; none for
+/// all.
+std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned reads);
 
 } // namespace gtop_wrappers
 

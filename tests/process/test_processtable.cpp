@@ -22,7 +22,7 @@ ProcessRecord recordOf(int pid)
     record.pid = pid;
     record.name = "bash";
     record.state = GLIBTOP_PROCESS_INTERRUPTIBLE;
-    record.user = record.realUser = 0;
+    record.user = 0;
     record.parent = 1;
     record.processor = 3;
     record.cpuTime = 100;
@@ -73,7 +73,7 @@ private Q_SLOTS:
     void changedValuesAreMadeAnew();
     void reusedPidShowsNothingOfTheProcessBefore();
     void vanishedProcessesAreForgotten();
-    void processesShareUserAndState();
+    void processesShareUserStateAndSmallNumbers();
     void snapshotHasThePidsOfTheRecords();
     void extremeRecordsAreShown();
     void zeroedRecordIsShown();
@@ -256,20 +256,24 @@ void TestProcessTable::vanishedProcessesAreForgotten()
             values.emplace_back(param);
         }
     }
-    ProcessRecord left = recordOf(43);
+    ProcessRecord left = recordOf(43); // with none of the values that processes share
     left.user = 65534;
     left.state = 16;
+    left.parent = 20;
+    left.nice = 10;
+    left.processor = 30;
     QCOMPARE(table.update({left}).size(), std::size_t(1));
     for (const auto &value : values) {
         QVERIFY(value.expired());
     }
 }
 
-void TestProcessTable::processesShareUserAndState()
+void TestProcessTable::processesShareUserStateAndSmallNumbers()
 {
     ProcessTable table;
     const auto snapshot = table.update({recordOf(42), recordOf(43)});
-    for (const ProcessColumn column : {UserColumn, StateColumn}) {
+    for (const ProcessColumn column :
+         {UserColumn, StateColumn, NiceColumn, ParentPidColumn, ProcessorColumn}) {
         QCOMPARE(snapshot.at(42).getParam(column).get(), snapshot.at(43).getParam(column).get());
     }
 }

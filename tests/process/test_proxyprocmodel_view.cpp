@@ -55,6 +55,9 @@ private Q_SLOTS:
     void whatTheUserArrangedStaysBetweenResets();
     void expandAllAndCollapseAllReachTheView();
     void theViewIsLaidOutWhenRefreshReturns();
+    void aHeldLayoutComesWhenItIsLetGo();
+    void aResetTakesTheLayoutThatIsHeld();
+    void onlyRowsOfATreeCanHaveChildren();
     void selectionStaysOnItsProcessWhileOthersAreReplaced();
     void aFilledProxyKeepsTheProtocolThroughResets();
 };
@@ -180,6 +183,49 @@ void TestProxyProcModelView::theViewIsLaidOutWhenRefreshReturns()
     list.proxy->refresh(makeSnapshot(facts));
     // Ten rows are left. The scroll bar knows at once, not only after the event loop has run.
     QVERIFY(list.view.verticalScrollBar()->maximum() < 10);
+}
+
+void TestProxyProcModelView::aHeldLayoutComesWhenItIsLetGo()
+{
+    List list;
+    list.proxy->setFlat(false);
+    list.proxy->setLayoutHeld(true);
+    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 1}}));
+    list.view.setColumnWidth(0, 777);
+    QCOMPARE(list.proxy->rowCount(), 1);
+    QVERIFY(!list.view.isExpanded(list.proxy->index(0, 0)));
+    list.proxy->setLayoutHeld(false);
+    QVERIFY(list.view.isExpanded(list.proxy->index(0, 0)));
+    QVERIFY(list.view.columnWidth(0) != 777);
+    list.view.setColumnWidth(0, 777);
+    list.proxy->setLayoutHeld(true);
+    list.proxy->setLayoutHeld(false);
+    QCOMPARE(list.view.columnWidth(0), 777);
+}
+
+void TestProxyProcModelView::aResetTakesTheLayoutThatIsHeld()
+{
+    List list;
+    list.proxy->setLayoutHeld(true);
+    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
+    list.proxy->setProcessTypes(0);
+    list.view.setColumnWidth(0, 777);
+    list.proxy->setLayoutHeld(false);
+    QCOMPARE(list.view.columnWidth(0), 777); // until a refresh fills the list
+    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
+    QVERIFY(list.view.columnWidth(0) != 777);
+}
+
+void TestProxyProcModelView::onlyRowsOfATreeCanHaveChildren()
+{
+    List list;
+    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 1}}));
+    const Qt::ItemFlags ofTheSource = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    QCOMPARE(list.proxy->flags(list.proxy->index(0, 0)), ofTheSource | Qt::ItemNeverHasChildren);
+    QCOMPARE(list.proxy->flags(QModelIndex()), Qt::NoItemFlags);
+    list.proxy->setFlat(false);
+    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 1}}));
+    QCOMPARE(list.proxy->flags(list.proxy->index(0, 0)), ofTheSource);
 }
 
 void TestProxyProcModelView::selectionStaysOnItsProcessWhileOthersAreReplaced()

@@ -3,12 +3,14 @@
 
 #include <QtTest>
 
+#include <glibtop.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <utility>
 
 using namespace gtop_wrappers;
 
@@ -55,6 +57,19 @@ int endedPid()
 
 } // namespace
 
+namespace {
+
+int cpusWhileTimesAreRead = -1;
+
+} // namespace
+
+/// In place of libgtop's, which is called in turn.
+extern "C" void glibtop_get_proc_time(glibtop_proc_time *times, pid_t pid)
+{
+    cpusWhileTimesAreRead = glibtop_global_server->ncpu;
+    glibtop_get_proc_time_l(glibtop_global_server, times, pid);
+}
+
 class TestRecords : public QObject
 {
     Q_OBJECT
@@ -69,8 +84,9 @@ private Q_SLOTS:
     void extremesAreTaken();
     void realProcessThatEndedIsLeftOut();
     void pidsAreAscendingUniqueAndPositive();
-    void onlyTheAskedRealUserIsRead();
+    void onlyTheAskedUserIsRead();
     void numberOfArgumentBytesIsBounded();
+    void libgtopIsKeptFromLookingForTimesPerCpu();
 };
 
 void TestRecords::fieldsComeFromLibgtopsRecords()
@@ -81,7 +97,6 @@ void TestRecords::fieldsComeFromLibgtopsRecords()
     QCOMPARE(record.name, QByteArray("bash"));
     QCOMPARE(record.state, 16);
     QCOMPARE(record.user, 1000);
-    QCOMPARE(record.realUser, 1001);
     QCOMPARE(record.parent, 7);
     QCOMPARE(record.nice, -5);
     QCOMPARE(record.cpuTime, quint64(42)); // its own, without that of its children
@@ -203,7 +218,7 @@ void TestRecords::pidsAreAscendingUniqueAndPositive()
     QVERIFY(std::binary_search(pids.begin(), pids.end(), getpid()));
 }
 
-void TestRecords::onlyTheAskedRealUserIsRead()
+void TestRecords::onlyTheAskedUserIsRead()
 {
     const std::vector<ProcessRecord> mine = readProcesses(getuid(), ReadState);
     QVERIFY(std::any_of(mine.begin(), mine.end(), [](const ProcessRecord &r) { return r.pid == getpid(); }));
@@ -229,6 +244,18 @@ void TestRecords::numberOfArgumentBytesIsBounded()
     QVERIFY(raw.arguments.size() < 10000);
     kill(pid, SIGKILL);
     waitpid(pid, nullptr, 0);
+}
+
+void TestRecords::libgtopIsKeptFromLookingForTimesPerCpu()
+{
+    glibtop *const server = glibtop_init();
+    const int lastCpu = std::exchange(server->ncpu, 7);
+    RawProcess raw;
+    readRaw(getpid(), ReadTime, raw);
+    QCOMPARE(cpusWhileTimesAreRead, 0);
+    QCOMPARE(server->ncpu, 7);
+    QVERIFY(raw.time.start_time != 0);
+    server->ncpu = lastCpu;
 }
 
 QTEST_GUILESS_MAIN(TestRecords)
