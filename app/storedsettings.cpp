@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QSettings>
+#include <QtEndian>
 
 namespace {
 
@@ -64,6 +65,23 @@ bool holdsSerializedObject(const QByteArray &content)
 {
     const QByteArray plain = unescaped(content);
     return plain.contains("@Variant(") || plain.contains("@DateTime(");
+}
+
+// A marker, a version, the number of sizes and the sizes, each of four bytes; then a byte, the width of the
+// handle (-1 for the style's), a byte, the direction and a byte.
+bool isSplitterState(const QByteArray &state)
+{
+    constexpr int head = 12;
+    constexpr int tail = 11;
+    constexpr qint32 widestHandle = 100;
+    if (state.size() < head + tail) {
+        return false;
+    }
+    const char *const end = state.constData() + state.size();
+    const auto count = qFromBigEndian<quint32>(state.constData() + 8);
+    const auto handle = qFromBigEndian<qint32>(end - 10);
+    return qint64(count) * 4 == state.size() - head - tail && handle >= -1 && handle <= widestHandle &&
+           qFromBigEndian<qint32>(end - 5) == Qt::Horizontal;
 }
 
 void setAsideUnsafeSettings()

@@ -137,6 +137,8 @@ private Q_SLOTS:
     void aFileTooLargeIsSetAside();
     void aSoundFileIsLeftAlone();
     void aSplitterWithoutEndIsLeftAlone();
+    void aSplitterThatWouldSpoilThePageIsLeftAlone_data();
+    void aSplitterThatWouldSpoilThePageIsLeftAlone();
     void anyFileGivesAWindowThatRefreshesAndSaves();
 
 private:
@@ -215,6 +217,29 @@ void TestDamagedSettings::aSplitterWithoutEndIsLeftAlone()
     fixture->start(0);
     fixture->stop();
     QCOMPARE(QSettings().value(QStringLiteral("interval/general")).toInt(), 5);
+}
+
+void TestDamagedSettings::aSplitterThatWouldSpoilThePageIsLeftAlone_data()
+{
+    QTest::addColumn<QByteArray>("end");
+    QTest::newRow("a handle wider than any screen")
+        << QByteArray("\\x1\\x7f\\xff\\xff\\xff\\x1\\0\\0\\0\\x1\\0");
+    QTest::newRow("an upright one") << QByteArray("\\x1\\0\\0\\0\\x5\\x1\\0\\0\\0\\x2\\0");
+    QTest::newRow("cut behind its sizes") << QByteArray();
+}
+
+void TestDamagedSettings::aSplitterThatWouldSpoilThePageIsLeftAlone()
+{
+    QFETCH(QByteArray, end);
+    writeSettings("[General]\nfsSplitter=@ByteArray(\\0\\0\\0\\xff\\0\\0\\0\\x1\\0\\0\\0\\x2"
+                  "\\0\\0\\0\\x64\\0\\0\\0\\x64" +
+                  end + ")\n");
+    fixture->start(2);
+    const auto *splitter = Fixture::find<QSplitter>("splitter");
+    QCOMPARE(splitter->orientation(), Qt::Horizontal);
+    QVERIFY(splitter->handleWidth() < 100);
+    QVERIFY(Fixture::window()->minimumSizeHint().width() < 2000);
+    QVERIFY(splitter->sizes() != (QList<int>{100, 100}));
 }
 
 // ZSM_SOAK_FILES sets how many files, ZSM_SOAK_SEED where they begin.
