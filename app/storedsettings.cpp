@@ -19,6 +19,11 @@ int digitValue(char character, int base)
     return value < base ? value : -1;
 }
 
+bool isDropped(char character)
+{
+    return QByteArray("\" \t\r\n").contains(character);
+}
+
 /// Decodes the number of an escape sequence and moves `at` past it.
 char escapedCharacter(const QByteArray &content, int &at, int base)
 {
@@ -31,14 +36,15 @@ char escapedCharacter(const QByteArray &content, int &at, int base)
     return value < 0x80U ? static_cast<char>(value) : '?';
 }
 
-/// The content without its quotes and escapes: what a value can come to when it is read.
+/// The content without its quotes, blanks and escapes: what a value can come to when it is read. Blanks fall
+/// away behind a closing quote, line ends behind a backslash.
 QByteArray unescaped(const QByteArray &content)
 {
     QByteArray plain;
     for (int at = 0; at < content.size();) {
         const char character = content.at(at++);
         if (character != '\\') {
-            plain += character == '"' ? QByteArray() : QByteArray(1, character);
+            plain += QByteArray(isDropped(character) ? 0 : 1, character);
         } else if (at < content.size() && content.at(at) == 'x') {
             plain += escapedCharacter(content, ++at, 16);
         } else if (at < content.size() && digitValue(content.at(at), 8) >= 0) {

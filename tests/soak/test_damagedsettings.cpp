@@ -180,6 +180,8 @@ void TestDamagedSettings::aSerializedObjectIsFoundHoweverItIsEscaped_data()
     QTest::newRow("octal") << QByteArray("a=\\100Variant(") << true;
     QTest::newRow("over two lines") << QByteArray("a=@Vari\\\nant(") << true;
     QTest::newRow("skipped escape") << QByteArray("a=@Vari\\qant(") << true;
+    QTest::newRow("blanks behind a quote") << QByteArray("a=\"@Vari\" \t ant(") << true;
+    QTest::newRow("over two lines of another system") << QByteArray("a=@Vari\\\r\nant(") << true;
     QTest::newRow("bytes") << QByteArray("a=@ByteArray(\\0\\xff)") << false;
     QTest::newRow("another word") << QByteArray("a=Variant(") << false;
     QTest::newRow("cut") << QByteArray("a=@Variant") << false;
