@@ -69,7 +69,7 @@ private:
     void show(bool flat);
     int refreshFor(int milliseconds, int pause);
     void underLoad(int milliseconds, int &forked, int &refreshes);
-    bool agrees();
+    QStringList wronglyListed(bool flat);
 
     std::unique_ptr<Fixture> fixture;
 };
@@ -107,27 +107,37 @@ void TestForks::underLoad(int milliseconds, int &forked, int &refreshes)
     forked = forks.end();
 }
 
-// Others come and go between the two looks at the machine: who is there both times is listed, and nobody who
-// is there neither time.
-bool TestForks::agrees()
+// Others come and go between the two looks at the machine: who is there both times is listed once, and nobody
+// who is there neither time. A tree is meant to lose branches where a process is new, so there only what it
+// shows counts.
+QStringList TestForks::wronglyListed(bool flat)
 {
+    list()->setFlat(flat);
     const std::set<int> before = runningPids();
     refresh();
     const std::set<int> after = runningPids();
     std::multiset<int> listed;
     collectPids(*list(), QModelIndex(), listed);
-    return std::all_of(before.begin(), before.end(),
-                       [&](int pid) { return after.count(pid) == 0 || listed.count(pid) == 1; }) &&
-           std::all_of(listed.begin(), listed.end(), [&](int pid) {
-               return listed.count(pid) == 1 && (before.count(pid) == 1 || after.count(pid) == 1);
-           });
+    QStringList wrong;
+    for (const int pid : before) {
+        const auto times = listed.count(pid);
+        if (after.count(pid) == 1 && times != 1 && (flat || times > 1)) {
+            wrong << QStringLiteral("%1 is listed %2 times").arg(pid).arg(times);
+        }
+    }
+    for (const int pid : listed) {
+        if (before.count(pid) == 0 && after.count(pid) == 0) {
+            wrong << QStringLiteral("%1 is no process").arg(pid);
+        }
+    }
+    return wrong;
 }
 
 // ZSM_SOAK_SECONDS sets how long.
 void TestForks::theListStandsThemAndAgreesAfterwards()
 {
     const int seconds =
-        qEnvironmentVariableIsSet("ZSM_SOAK_SECONDS") ? qEnvironmentVariableIntValue("ZSM_SOAK_SECONDS") : 4;
+        qEnvironmentVariableIsSet("ZSM_SOAK_SECONDS") ? qEnvironmentVariableIntValue("ZSM_SOAK_SECONDS") : 2;
     constexpr long allowedBytes = 65536;
     constexpr long allowedBytesPerProcess = 32;
     const LoggedMessages messages;
@@ -146,8 +156,7 @@ void TestForks::theListStandsThemAndAgreesAfterwards()
     QVERIFY(forked > 0);
     QVERIFY(refreshes > 0);
     for (const bool flat : {true, false}) {
-        show(flat);
-        QTRY_VERIFY(agrees());
+        QTRY_COMPARE(wronglyListed(flat).join(QLatin1Char('\n')), QString());
     }
     QCOMPARE(after.descriptors, before.descriptors);
     QVERIFY(after.allocated <= before.allocated + allowedBytes + allowedBytesPerProcess * forked);
