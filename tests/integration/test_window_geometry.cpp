@@ -46,8 +46,8 @@ QByteArray randomFields(std::mt19937 &random)
         fields << (random() % 6 == 0 ? QByteArray(odd[random() % std::size(odd)])
                                      : QByteArray::number(static_cast<int>(random() % 3000) - 1000));
     }
-    if (fields.size() > 4 && random() % 4 != 0) {
-        fields[4] = QByteArray::number(static_cast<int>(random() % 520));
+    if (fields.size() > 4) { // no title bar is drawn here
+        fields[4] = random() % 8 == 0 ? QByteArray(odd[random() % std::size(odd)]) : QByteArray("0");
     }
     return fields.join(", ");
 }
