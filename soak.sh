@@ -12,19 +12,12 @@ need_packages $build_packages $window_packages $check_packages $fuzz_packages
 build fuzz fuzzers
 build asan fuzzers test_damagedsettings test_window_geometry test_worstmachine
 build dev test_time test_forks test_actions_signals
-export LC_ALL=C.UTF-8 QTEST_FUNCTION_TIMEOUT=3600000
+export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 QTEST_FUNCTION_TIMEOUT=3600000
 export LSAN_OPTIONS="suppressions=$PWD/tests/support/leaks.supp:print_suppressions=0"
 
 failed=0
-# run <program> [<function>]: without a window; what it logs is kept if it fails.
+# run <program> [<function>]: prints the figures that it logs.
 run() {
-    echo "== $*"
-    local log
-    log=$(QT_QPA_PLATFORM=offscreen "$@" 2>&1) || { failed=1; echo "FAILED: $*"; }
-    figures "$log"
-}
-# run_desktop <program> [<function>]: in a desktop of its own.
-run_desktop() {
     echo "== $*"
     local log
     log=$("$@" 2>&1) || { failed=1; echo "FAILED: $*"; }
@@ -64,5 +57,6 @@ ZSM_SOAK_FILES=${ZSM_SOAK_FILES:-10000} run build/asan/tests/integration/test_wi
 ZSM_SOAK_PROCESSES=20000 run build/asan/tests/soak/test_worstmachine processesComeAndGoByTheThousand
 ZSM_SOAK_TICKS=${ZSM_SOAK_TICKS:-10000} run build/dev/tests/soak/test_time
 ZSM_SOAK_SECONDS=${ZSM_SOAK_SECONDS:-60} run build/dev/tests/soak/test_forks
-run_desktop build/dev/tests/desktop/test_actions_signals
+unset QT_QPA_PLATFORM # what follows has a desktop of its own
+run build/dev/tests/desktop/test_actions_signals
 exit $failed
