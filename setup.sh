@@ -1,9 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Sourced by run.sh, test.sh, package.sh and bench.sh: installs Debian packages that are missing, and builds.
+# Sourced by run.sh, test.sh, package.sh, bench.sh and soak.sh: installs Debian packages that are missing, and builds.
 
 build_packages="g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools libgtop2-dev libglib2.0-dev"
 window_packages="xvfb xauth openbox xdotool imagemagick x11-utils fonts-dejavu-core libxtst-dev"
 check_packages="appstream desktop-file-utils file man-db valgrind iproute2 e2fsprogs"
+fuzz_packages="clang-14 libclang-rt-14-dev"
 
 # need_packages <package>...: installs what is missing, as root or through sudo; elsewhere says what to install.
 need_packages() {

@@ -1,28 +1,60 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Long forms of the tests of faults, load and time: builds with and without the sanitizers and prints figures.
+# Long forms of the tests of faults, load and time, and the fuzz targets: builds with and without the sanitizers and
+# prints figures. Goes on to the end whatever fails, and then ends with 1.
+#   ZSM_FUZZ_SECONDS=60      for each fuzz target        ZSM_SOAK_SECONDS=60  of processes forked 200 times a second
+#   ZSM_SOAK_TICKS=10000     of the controller           ZSM_SOAK_FILES=10000 settings files
 set -euo pipefail
 cd "$(dirname "$0")"
 . ./setup.sh
 
-need_packages $build_packages $check_packages
-build asan
-build dev
+need_packages $build_packages $window_packages $check_packages $fuzz_packages
+build fuzz fuzzers
+build asan fuzzers test_damagedsettings test_window_geometry test_worstmachine
+build dev test_time test_forks
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 QTEST_FUNCTION_TIMEOUT=3600000
 export LSAN_OPTIONS="suppressions=$PWD/tests/support/leaks.supp:print_suppressions=0"
 
 failed=0
-run() { # program, function
+# run <program> [<function>]: prints the figures that it logs.
+run() {
     echo "== $*"
     local log
-    log=$("$@" 2>&1) || failed=1
-    grep -E "^(QINFO|FAIL|PASS|Totals|   )|ERROR|SUMMARY" <<<"$log" | grep -v "TestCase()" || true
+    log=$("$@" 2>&1) || { failed=1; echo "FAILED: $*"; }
+    figures "$log"
 }
-# 10,000 settings files; memory of the sanitizer grows with each window, so in runs of 1,000
-for seed in $(seq 0 1000 9000); do
+figures() {
+    grep -E "^(QINFO|FAIL|PASS|Totals|   )|ERROR|SUMMARY|does not hold" <<<"$1" | grep -v "TestCase()" || true
+}
+# fuzz <program>: guided by coverage, from the seeds. What it learns and finds is kept in build/fuzz/found.
+fuzz() {
+    local name=${1##*/fuzz_} found=build/fuzz/found
+    echo "== $1"
+    mkdir -p "$found/$name"
+    local log=$found/$name.log
+    # Whether anything leaks is told by the same bodies in the tests.
+    "$1" -max_total_time="${ZSM_FUZZ_SECONDS:-60}" -detect_leaks=0 -malloc_limit_mb=256 -print_final_stats=1 \
+        -artifact_prefix="$found/$name-" "$found/$name" "tests/fuzz/corpus/$name" >"$log" 2>&1 ||
+        { failed=1; echo "FAILED: $1"; }
+    grep -E "does not hold|ERROR|SUMMARY|Test unit written" "$log" || true
+    awk '/ cov: /                  { for (i = 1; i < NF; ++i) if ($i == "cov:") coverage = $(i + 1) }
+         /number_of_executed_units/ { executions = $2 }
+         /does not hold|ERROR: /    { findings = 1 }
+         END { printf "   %s executions, %s edges covered, %d findings\n", executions, coverage, findings }' "$log"
+}
+
+for target in build/fuzz/tests/fuzz/fuzz_*; do
+    [ ! -f "$target" ] || fuzz "$target"
+done
+for target in build/asan/tests/fuzz/test_fuzz_*; do
+    [ ! -f "$target" ] || ZSM_SOAK_TEXTS=100000 run "$target" holdsOnAnyText
+done
+# Memory of the sanitizer grows with each window, so in runs of 1,000.
+for ((seed = 0; seed < ${ZSM_SOAK_FILES:-10000}; seed += 1000)); do
     ZSM_SOAK_FILES=1000 ZSM_SOAK_SEED=$seed run build/asan/tests/soak/test_damagedsettings anyFileGivesAWindowThatRefreshesAndSaves
 done
-ZSM_SOAK_TEXTS=1000000 run build/asan/tests/fuzz/test_parsers
+ZSM_SOAK_FILES=${ZSM_SOAK_FILES:-10000} run build/asan/tests/integration/test_window_geometry anyFileGivesAWindowThatCanBeCaught
 ZSM_SOAK_PROCESSES=20000 run build/asan/tests/soak/test_worstmachine processesComeAndGoByTheThousand
-ZSM_SOAK_TICKS=10000 run build/dev/tests/soak/test_time
+ZSM_SOAK_TICKS=${ZSM_SOAK_TICKS:-10000} run build/dev/tests/soak/test_time
+ZSM_SOAK_SECONDS=${ZSM_SOAK_SECONDS:-60} run build/dev/tests/soak/test_forks
 exit $failed

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QSettings>
+#include <QtEndian>
 
 namespace {
 
@@ -18,6 +19,11 @@ int digitValue(char character, int base)
     return value < base ? value : -1;
 }
 
+bool isDropped(char character)
+{
+    return QByteArray("\" \t\r\n").contains(character);
+}
+
 /// Decodes the number of an escape sequence and moves `at` past it.
 char escapedCharacter(const QByteArray &content, int &at, int base)
 {
@@ -30,14 +36,15 @@ char escapedCharacter(const QByteArray &content, int &at, int base)
     return value < 0x80U ? static_cast<char>(value) : '?';
 }
 
-/// The content without its quotes and escapes: what a value can come to when it is read.
+/// The content without its quotes, blanks and escapes: what a value can come to when it is read. Blanks fall
+/// away behind a closing quote, line ends behind a backslash.
 QByteArray unescaped(const QByteArray &content)
 {
     QByteArray plain;
     for (int at = 0; at < content.size();) {
         const char character = content.at(at++);
         if (character != '\\') {
-            plain += character == '"' ? QByteArray() : QByteArray(1, character);
+            plain += QByteArray(isDropped(character) ? 0 : 1, character);
         } else if (at < content.size() && content.at(at) == 'x') {
             plain += escapedCharacter(content, ++at, 16);
         } else if (at < content.size() && digitValue(content.at(at), 8) >= 0) {
@@ -64,6 +71,23 @@ bool holdsSerializedObject(const QByteArray &content)
 {
     const QByteArray plain = unescaped(content);
     return plain.contains("@Variant(") || plain.contains("@DateTime(");
+}
+
+// A marker, a version, the number of sizes and the sizes, each of four bytes; then a byte, the width of the
+// handle (-1 for the style's), a byte, the direction and a byte.
+bool isSplitterState(const QByteArray &state)
+{
+    constexpr int head = 12;
+    constexpr int tail = 11;
+    constexpr qint32 widestHandle = 100;
+    if (state.size() < head + tail) {
+        return false;
+    }
+    const char *const end = state.constData() + state.size();
+    const auto count = qFromBigEndian<quint32>(state.constData() + 8);
+    const auto handle = qFromBigEndian<qint32>(end - 10);
+    return qint64(count) * 4 == state.size() - head - tail && handle >= -1 && handle <= widestHandle &&
+           qFromBigEndian<qint32>(end - 5) == Qt::Horizontal;
 }
 
 void setAsideUnsafeSettings()

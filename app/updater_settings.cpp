@@ -12,7 +12,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
-#include <QtEndian>
 
 namespace {
 
@@ -28,15 +27,6 @@ int readableInterval(const QVariant &value)
     bool readable = false;
     const int ticks = value.toInt(&readable);
     return readable ? ticks : settings::defaultInterval;
-}
-
-// The state of a splitter is a marker, a version, the number of sizes and the sizes, each of four bytes.
-// Restoring one that promises more sizes than it holds would ask for as much memory as it says.
-bool isWholeSplitterState(const QByteArray &state)
-{
-    constexpr int head = 12;
-    return state.size() >= head &&
-           qFromBigEndian<quint32>(state.constData() + 8) <= static_cast<quint32>(state.size() - head) / 4;
 }
 
 } // namespace
@@ -65,7 +55,7 @@ void Updater::loadSettings()
     ui.treeView->sortByColumn(column,
                               order == Qt::DescendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder);
     const QByteArray splitter = stored.value(QLatin1String(settings::splitter)).toByteArray();
-    if (isWholeSplitterState(splitter)) {
+    if (isSplitterState(splitter)) {
         ui.splitter->restoreState(splitter);
     }
 }

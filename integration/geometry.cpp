@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "integration/geometry.h"
 
+#include "integration/placement.h"
+
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QScreen>
 #include <QSettings>
-#include <QStringList>
 
 #include <algorithm>
 
@@ -14,54 +15,15 @@ namespace {
 const char geometryKey[] = "geometry";
 const char toolBarsKey[] = "toolBars";
 
-constexpr int farthest = 1000000;             // no desktop is larger, and sums of such numbers don't overflow
-constexpr int highestTitleBar = 500;          // even on a screen of the highest density
 constexpr QSize smallestWindow(64, 32);       // what is smaller can't be read or caught
 constexpr QSize smallestGrip(64, 8);          // of the title bar, to drag the window by
 constexpr int titleBarOfFramelessWindow = 16; // the strip that stands for one where none is drawn
-
-struct Placement
-{
-    QRect client;
-    int titleBarHeight = 0;
-    bool maximized = false;
-};
 
 Placement placementOf(const QWidget *window)
 {
     const QRect normal = window->normalGeometry();
     const int titleBarHeight = window->geometry().top() - window->frameGeometry().top();
     return {normal.isValid() ? normal : window->geometry(), titleBarHeight, window->isMaximized()};
-}
-
-QStringList toFields(const Placement &placement)
-{
-    QStringList fields;
-    for (int number : {placement.client.x(), placement.client.y(), placement.client.width(),
-                       placement.client.height(), placement.titleBarHeight, int(placement.maximized)}) {
-        fields << QString::number(number);
-    }
-    return fields;
-}
-
-/// An empty client rectangle if the fields aren't those of toFields().
-Placement fromFields(const QStringList &fields)
-{
-    if (fields.size() != 6) {
-        return {};
-    }
-    QVector<int> numbers;
-    for (const QString &field : fields) {
-        bool isNumber = false;
-        numbers << field.toInt(&isNumber);
-        if (!isNumber || numbers.last() < -farthest || numbers.last() > farthest) {
-            return {};
-        }
-    }
-    if (numbers[4] < 0 || numbers[4] > highestTitleBar) {
-        return {};
-    }
-    return {QRect(numbers[0], numbers[1], numbers[2], numbers[3]), numbers[4], numbers[5] != 0};
 }
 
 QVector<QRect> availableScreens()
@@ -106,7 +68,7 @@ void place(QWidget *window, const Placement &placement, const QRect &defaultRect
 
 void zarnSaveGeometry(const QWidget *window, QSettings *settings, bool withToolBars)
 {
-    settings->setValue(QLatin1String(geometryKey), toFields(placementOf(window)));
+    settings->setValue(QLatin1String(geometryKey), fieldsOf(placementOf(window)));
     const auto *mainWindow = qobject_cast<const QMainWindow *>(window);
     if (withToolBars && mainWindow) {
         settings->setValue(QLatin1String(toolBarsKey), mainWindow->saveState());
@@ -115,7 +77,7 @@ void zarnSaveGeometry(const QWidget *window, QSettings *settings, bool withToolB
 
 void zarnRestoreGeometry(QWidget *window, QSettings *settings, const QRect &defaultRect, bool withToolBars)
 {
-    Placement stored = fromFields(settings->value(QLatin1String(geometryKey)).toStringList());
+    Placement stored = placementFromFields(settings->value(QLatin1String(geometryKey)).toStringList());
     stored.client = zarnFitToScreens(stored.client, stored.titleBarHeight, availableScreens());
     place(window, stored, defaultRect);
     auto *mainWindow = qobject_cast<QMainWindow *>(window);

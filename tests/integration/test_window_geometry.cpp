@@ -11,6 +11,7 @@
 
 #include <climits>
 #include <memory>
+#include <random>
 
 namespace {
 
@@ -31,6 +32,24 @@ QRect screenArea()
 QVariantList fields(int x, int y, int width, int height, int titleBar = 0, int maximized = 0)
 {
     return {x, y, width, height, titleBar, maximized};
+}
+
+// Mostly six of them, mostly such as a window can have.
+QByteArray randomFields(std::mt19937 &random)
+{
+    static const char *const odd[] = {
+        "2147483647", "-2147483648", "1000000", "-1000000", "1000001", "99999999999",   "0", "-1",
+        "",           "x",           "1e3",     "0x40",     "\"",      "@Rect(1 2 3 4)"};
+    QByteArrayList fields;
+    const auto count = random() % 16 == 0 ? random() % 9 : 6;
+    while (fields.size() < static_cast<int>(count)) {
+        fields << (random() % 6 == 0 ? QByteArray(odd[random() % std::size(odd)])
+                                     : QByteArray::number(static_cast<int>(random() % 3000) - 1000));
+    }
+    if (fields.size() > 4) { // no title bar is drawn here
+        fields[4] = random() % 8 == 0 ? QByteArray(odd[random() % std::size(odd)]) : QByteArray("0");
+    }
+    return fields.join(", ");
 }
 
 } // namespace
@@ -61,6 +80,7 @@ private Q_SLOTS:
     void unusableValuesGiveTheDefault();
     void damagedFileGivesTheDefault_data();
     void damagedFileGivesTheDefault();
+    void anyFileGivesAWindowThatCanBeCaught();
     void toolBarsAreKeptOnlyWhenAskedFor();
 
 private:
@@ -69,6 +89,12 @@ private:
     {
         QSettings settings(path(), QSettings::IniFormat);
         settings.setValue(QStringLiteral("geometry"), value);
+    }
+    void write(const QByteArray &contents)
+    {
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(contents), qint64(contents.size()));
     }
     void save(const QWidget &window, bool withToolBars = false)
     {
@@ -354,13 +380,31 @@ void TestWindowGeometry::damagedFileGivesTheDefault_data()
 void TestWindowGeometry::damagedFileGivesTheDefault()
 {
     QFETCH(QByteArray, contents);
-    QFile file(path());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(contents), qint64(contents.size()));
-    file.close();
+    write(contents);
     Window window;
     restore(window);
     QCOMPARE(window.geometry(), defaultRect);
+}
+
+// ZSM_SOAK_FILES sets how many.
+void TestWindowGeometry::anyFileGivesAWindowThatCanBeCaught()
+{
+    const int files =
+        qEnvironmentVariableIsSet("ZSM_SOAK_FILES") ? qEnvironmentVariableIntValue("ZSM_SOAK_FILES") : 300;
+    std::mt19937 random(1);
+    const QRect screen = screenArea();
+    for (int i = 0; i < files; ++i) {
+        const QByteArray contents = "[General]\ngeometry=" + randomFields(random) + '\n';
+        write(contents);
+        Window window;
+        restore(window);
+        window.show();
+        const QRect grip = QRect(window.geometry().topLeft(), QSize(window.width(), 16)) & screen;
+        QVERIFY2(grip.width() >= 64 && grip.height() >= 8, contents.constData());
+        QVERIFY2(window.width() <= screen.width() && window.height() <= screen.height(),
+                 contents.constData());
+    }
+    qInfo("%d settings files", files);
 }
 
 void TestWindowGeometry::toolBarsAreKeptOnlyWhenAskedFor()

@@ -5,16 +5,17 @@
 #include <QStringList>
 #include <QtGlobal>
 
-/// Collects the warnings and worse that are logged as long as it lives. One at a time.
+/// Collects the warnings and worse that are logged as long as it lives; what is for information goes its way.
+/// One at a time.
 class LoggedMessages
 {
 public:
     LoggedMessages()
     {
         all().clear();
-        previous = qInstallMessageHandler(keep);
+        previous() = qInstallMessageHandler(keep);
     }
-    ~LoggedMessages() { qInstallMessageHandler(previous); }
+    ~LoggedMessages() { qInstallMessageHandler(previous()); }
     LoggedMessages(const LoggedMessages &) = delete;
     LoggedMessages &operator=(const LoggedMessages &) = delete;
 
@@ -26,15 +27,20 @@ private:
         static QStringList messages;
         return messages;
     }
-    static void keep(QtMsgType type, const QMessageLogContext &, const QString &message)
+    static QtMessageHandler &previous()
     {
-        // The offscreen platform says this of itself.
-        if (type != QtDebugMsg && type != QtInfoMsg && !message.startsWith(QLatin1String("This plugin"))) {
+        static QtMessageHandler handler = nullptr;
+        return handler;
+    }
+    static void keep(QtMsgType type, const QMessageLogContext &context, const QString &message)
+    {
+        if (type == QtDebugMsg || type == QtInfoMsg) {
+            previous()(type, context, message);
+        } else if (!message.startsWith(
+                       QLatin1String("This plugin"))) { // the offscreen platform says it of itself
             all() << message;
         }
     }
-
-    QtMessageHandler previous;
 };
 
 #endif

@@ -137,6 +137,8 @@ private Q_SLOTS:
     void aFileTooLargeIsSetAside();
     void aSoundFileIsLeftAlone();
     void aSplitterWithoutEndIsLeftAlone();
+    void aSplitterThatWouldSpoilThePageIsLeftAlone_data();
+    void aSplitterThatWouldSpoilThePageIsLeftAlone();
     void anyFileGivesAWindowThatRefreshesAndSaves();
 
 private:
@@ -178,6 +180,8 @@ void TestDamagedSettings::aSerializedObjectIsFoundHoweverItIsEscaped_data()
     QTest::newRow("octal") << QByteArray("a=\\100Variant(") << true;
     QTest::newRow("over two lines") << QByteArray("a=@Vari\\\nant(") << true;
     QTest::newRow("skipped escape") << QByteArray("a=@Vari\\qant(") << true;
+    QTest::newRow("blanks behind a quote") << QByteArray("a=\"@Vari\" \t ant(") << true;
+    QTest::newRow("over two lines of another system") << QByteArray("a=@Vari\\\r\nant(") << true;
     QTest::newRow("bytes") << QByteArray("a=@ByteArray(\\0\\xff)") << false;
     QTest::newRow("another word") << QByteArray("a=Variant(") << false;
     QTest::newRow("cut") << QByteArray("a=@Variant") << false;
@@ -215,6 +219,29 @@ void TestDamagedSettings::aSplitterWithoutEndIsLeftAlone()
     fixture->start(0);
     fixture->stop();
     QCOMPARE(QSettings().value(QStringLiteral("interval/general")).toInt(), 5);
+}
+
+void TestDamagedSettings::aSplitterThatWouldSpoilThePageIsLeftAlone_data()
+{
+    QTest::addColumn<QByteArray>("end");
+    QTest::newRow("a handle wider than any screen")
+        << QByteArray("\\x1\\x7f\\xff\\xff\\xff\\x1\\0\\0\\0\\x1\\0");
+    QTest::newRow("an upright one") << QByteArray("\\x1\\0\\0\\0\\x5\\x1\\0\\0\\0\\x2\\0");
+    QTest::newRow("cut behind its sizes") << QByteArray();
+}
+
+void TestDamagedSettings::aSplitterThatWouldSpoilThePageIsLeftAlone()
+{
+    QFETCH(QByteArray, end);
+    writeSettings("[General]\nfsSplitter=@ByteArray(\\0\\0\\0\\xff\\0\\0\\0\\x1\\0\\0\\0\\x2"
+                  "\\0\\0\\0\\x64\\0\\0\\0\\x64" +
+                  end + ")\n");
+    fixture->start(2);
+    const auto *splitter = Fixture::find<QSplitter>("splitter");
+    QCOMPARE(splitter->orientation(), Qt::Horizontal);
+    QVERIFY(splitter->handleWidth() < 100);
+    QVERIFY(Fixture::window()->minimumSizeHint().width() < 2000);
+    QVERIFY(splitter->sizes() != (QList<int>{100, 100}));
 }
 
 // ZSM_SOAK_FILES sets how many files, ZSM_SOAK_SEED where they begin.

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "holds.h"
+
+#include "process/gtop_wrappers/oneline.h"
+
+#include <algorithm>
+
+namespace {
+
+bool isHarmless(QChar character)
+{
+    const bool joiner = character == QChar(0x200c) || character == QChar(0x200d);
+    return character.category() != QChar::Other_Control && character.category() != QChar::Separator_Line &&
+           character.category() != QChar::Separator_Paragraph &&
+           (character.category() != QChar::Other_Format || joiner);
+}
+
+QString withoutBlanksAtTheEnd(QString text)
+{
+    while (text.endsWith(QLatin1Char(' '))) {
+        text.chop(1);
+    }
+    return text;
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray bytes = bytesOf(data, size);
+    const QString line = gtop_wrappers::oneLine(bytes);
+
+    HOLDS(line.size() <= gtop_wrappers::longestText);
+    HOLDS(std::all_of(line.begin(), line.end(), isHarmless));
+    HOLDS(QString::fromUtf8(line.toUtf8()) == line); // no half of a character
+    HOLDS(gtop_wrappers::oneLine(line.toUtf8()) == withoutBlanksAtTheEnd(line));
+    HOLDS(gtop_wrappers::oneLine(bytes + QByteArray(3, '\0') + "  ") == line);
+    return 0;
+}
