@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/session.h"
 
+#include <QDeadlineTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -9,6 +10,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstring>
 
 bool DesktopSession::connectProbe()
@@ -32,12 +34,15 @@ bool DesktopSession::connectProbe()
 // Empty if the program closes the socket or says nothing for too long.
 QByteArray DesktopSession::readLine()
 {
+    const QDeadlineTimer deadline(desktopDeadline);
     int end = 0;
     while ((end = m_received.indexOf('\n')) < 0) {
         pollfd waiting = {m_probe, POLLIN, 0};
         char bytes[65536];
-        const ssize_t count =
-            poll(&waiting, 1, desktopDeadline) == 1 ? read(m_probe, bytes, sizeof bytes) : 0;
+        const int ready = poll(&waiting, 1, int(deadline.remainingTime()));
+        if (ready < 0 && errno == EINTR)
+            continue; // a child of the test has ended
+        const ssize_t count = ready == 1 ? read(m_probe, bytes, sizeof bytes) : 0;
         if (count <= 0)
             return {};
         m_received.append(bytes, int(count));

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void keysReachTheWidgetThatHasTheFocus();
     void theStandinAnswersAndChangesWhileTheProgramRuns();
     void theWindowIsResized();
+    void anAnswerComesThoughAChildEnds();
     void theWindowIsMaximised();
     void theStateIsToldInShort();
     void theSelectedRowIsTold();
@@ -246,6 +247,21 @@ void TestProbe::theWindowIsResized()
     QVERIFY(m_session->resizeMainWindow({777, 555}));
     QCOMPARE(rectOf(m_session->mainWindow().value(QLatin1String("rect"))).size(), QSize(777, 555));
     QVERIFY(m_session->resizeMainWindow({1, 1}));
+}
+
+// The signal of its end interrupts the waiting for an answer.
+void TestProbe::anAnswerComesThoughAChildEnds()
+{
+    QProcess children;
+    children.start(QStringLiteral("sh"),
+                   {QStringLiteral("-c"), QStringLiteral("while kill -CHLD $PPID; do sleep 0.001; done")});
+    QVERIFY(children.waitForStarted());
+    for (int round = 0; round < 300; ++round) {
+        QVERIFY(m_session->probe(QStringLiteral("menu")).contains(QLatin1String("bar")));
+        QVERIFY(m_session->probe(QStringLiteral("state")).contains(QLatin1String("tab")));
+    }
+    children.kill();
+    QVERIFY(children.waitForFinished());
 }
 
 void TestProbe::theWindowIsMaximised()
