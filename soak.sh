@@ -25,5 +25,8 @@ done
 ZSM_SOAK_TEXTS=1000000 run build/asan/tests/fuzz/test_parsers
 ZSM_SOAK_PROCESSES=20000 run build/asan/tests/soak/test_worstmachine processesComeAndGoByTheThousand
 ZSM_SOAK_TICKS=10000 run build/dev/tests/soak/test_time
+for seed in 11 12 13 14; do
+    ZSM_MONKEY_SEED=$seed ZSM_MONKEY_ACTIONS=5000 run build/asan/tests/desktop/test_monkey
+done
 (unset QT_QPA_PLATFORM; run build/dev/tests/desktop/test_actions_signals; exit $failed) || failed=1
 exit $failed

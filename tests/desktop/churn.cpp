@@ -102,6 +102,12 @@ void Churn::forgetEnded()
     m_samples.erase(std::remove_if(m_samples.begin(), m_samples.end(), ended), m_samples.end());
 }
 
+void Churn::end(int pid)
+{
+    const auto isIt = [=](const Sample &each) { return each.process->pid() == pid; };
+    m_samples.erase(std::remove_if(m_samples.begin(), m_samples.end(), isIt), m_samples.end());
+}
+
 QString Churn::startOne(QRandomGenerator &random)
 {
     SampleProcess::What what = SampleProcess::Sleeping;

@@ -24,6 +24,8 @@ public:
 
     /// Does one thing to the processes; tells what.
     QString changeProcesses(QRandomGenerator &random);
+    /// Ends that one, if it is a child of the test.
+    void end(int pid);
     /// Whether the process is or was one of the test's, and of no user but its own.
     bool owns(int pid) const;
     /// A machine of four CPUs with processes of the real one.

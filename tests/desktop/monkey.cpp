@@ -45,6 +45,7 @@ const Monkey::Kind Monkey::kinds[] = {
     {"change of mounts and interfaces", Window | Menu | List | Dialog, AnyPage, 3, &Monkey::changeMachine},
     {"wait", Window | Menu | List | Dialog, AnyPage, 6, &Monkey::wait},
     {"menu entry by mouse", Menu, AnyPage, 26, &Monkey::clickEntry},
+    {"menu entry about a process", Menu, Processes, 14, &Monkey::clickProcessEntry},
     {"menu entry pointed at", Menu, AnyPage, 10, &Monkey::hoverEntry},
     {"menu entry by key", Menu, AnyPage, 20, &Monkey::pressMenuKey},
     {"click beside a menu", Menu, AnyPage, 3, &Monkey::clickBesideMenu},
@@ -54,6 +55,7 @@ const Monkey::Kind Monkey::kinds[] = {
     {"dialog key", Dialog, AnyPage, 20, &Monkey::pressDialogKey},
     {"slider", Dialog, AnyPage, 15, &Monkey::moveSlider},
     {"click in a dialog", Dialog, AnyPage, 5, &Monkey::clickInDialog},
+    {"end of the process asked about", Dialog, Processes, 5, &Monkey::endProcessAskedAbout},
     {"dialog closed", Dialog, AnyPage, 4, &Monkey::closeDialog},
 };
 // clang-format on
@@ -96,8 +98,13 @@ bool Monkey::look()
     const QString before = title();
     m_session.probe(QStringLiteral("state"));
     m_state = m_session.probe(QStringLiteral("state"));
-    if (!title().isEmpty() && title() != before)
-        ++m_dialogs[title()];
+    if (title() != before) {
+        if (!title().isEmpty())
+            ++m_dialogs[title()];
+        // While a box is open the selection stays or goes, so it is what the box asks about.
+        const QJsonObject selected = m_session.probe(QStringLiteral("selected treeView"));
+        m_askedAbout = selected.value(QLatin1String("id")).toInt(-1);
+    }
     return m_session.isRunning() && m_state.contains(QLatin1String("tab"));
 }
 

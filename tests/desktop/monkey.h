@@ -91,14 +91,18 @@ private:
     void wait();
 
     // monkey_open.cpp
-    QJsonObject anyEntry();
+    QJsonObject anyEntry(bool (*isMeant)(const QString &text));
+    void clickOn(const QJsonObject &entry);
     void clickEntry();
     void hoverEntry();
     void pressMenuKey();
+    void clickProcessEntry();
     void clickBesideMenu();
     void clickItem();
     void pressItemKey();
+    bool asksAboutProcess() const;
     bool mayConfirm();
+    void endProcessAskedAbout();
     void clickButton();
     void pressDialogKey();
     void moveSlider();
@@ -111,6 +115,7 @@ private:
     quint32 m_number = 0;
     QRandomGenerator m_random;
     QJsonObject m_state;
+    int m_askedAbout = -1; ///< the process that the open box is about
     QMap<QString, int> m_counts;
     QMap<QString, int> m_dialogs;
     QStringList m_last;

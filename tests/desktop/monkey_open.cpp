@@ -6,16 +6,20 @@
 
 namespace {
 
-// Boxes whose OK acts on a process.
-bool isAboutProcess(const QString &title)
+bool isAnyEntry(const QString &)
 {
-    return title.startsWith(QLatin1String("Process ")) || title == QLatin1String("Change priority");
+    return true;
+}
+
+bool isAboutProcess(const QString &entry)
+{
+    return entry.endsWith(QLatin1String(" process")) || entry.contains(QLatin1String("priority"));
 }
 
 } // namespace
 
 // Of the open menus, but not "Exit".
-QJsonObject Monkey::anyEntry()
+QJsonObject Monkey::anyEntry(bool (*isMeant)(const QString &text))
 {
     QVector<QJsonObject> entries;
     const QJsonArray menus = m_session.probe(QStringLiteral("menu")).value(QLatin1String("menus")).toArray();
@@ -23,7 +27,8 @@ QJsonObject Monkey::anyEntry()
         const QJsonArray actions = menu[QLatin1String("actions")].toArray();
         for (const QJsonValue &action : actions) {
             if (action[QLatin1String("visible")].toBool() && !action[QLatin1String("separator")].toBool() &&
-                action[QLatin1String("shortcut")].toString() != QLatin1String("Ctrl+Q"))
+                action[QLatin1String("shortcut")].toString() != QLatin1String("Ctrl+Q") &&
+                isMeant(action[QLatin1String("text")].toString()))
                 entries.append(action.toObject());
         }
     }
@@ -32,14 +37,23 @@ QJsonObject Monkey::anyEntry()
 
 void Monkey::clickEntry()
 {
-    const QJsonObject entry = anyEntry();
+    clickOn(anyEntry(isAnyEntry));
+}
+
+void Monkey::clickProcessEntry()
+{
+    clickOn(anyEntry(isAboutProcess));
+}
+
+void Monkey::clickOn(const QJsonObject &entry)
+{
     note(entry.value(QLatin1String("text")).toString());
     clickIn(rectOf(entry.value(QLatin1String("rect"))));
 }
 
 void Monkey::hoverEntry()
 {
-    const QJsonObject entry = anyEntry();
+    const QJsonObject entry = anyEntry(isAnyEntry);
     note(entry.value(QLatin1String("text")).toString());
     if (!entry.isEmpty())
         m_session.x().moveTo(pointIn(rectOf(entry.value(QLatin1String("rect")))));
@@ -84,14 +98,24 @@ void Monkey::pressItemKey()
     press(anyOf(keys));
 }
 
-// While a box is open the selection stays or goes, so it is the process that the box asks about.
+// A box whose OK acts on a process.
+bool Monkey::asksAboutProcess() const
+{
+    return title().startsWith(QLatin1String("Process ")) || title() == QLatin1String("Change priority");
+}
+
 bool Monkey::mayConfirm()
 {
-    if (!isAboutProcess(title()))
+    if (!asksAboutProcess())
         return true;
-    const int pid = m_session.probe(QStringLiteral("selected treeView")).value(QLatin1String("id")).toInt(-1);
-    note(QStringLiteral("about %1").arg(pid));
-    return pid != m_session.pid() && m_churn.owns(pid);
+    note(QStringLiteral("about %1").arg(m_askedAbout));
+    return m_askedAbout != m_session.pid() && m_churn.owns(m_askedAbout);
+}
+
+void Monkey::endProcessAskedAbout()
+{
+    if (asksAboutProcess())
+        m_churn.end(m_askedAbout);
 }
 
 void Monkey::clickButton()
