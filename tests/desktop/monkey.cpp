@@ -55,7 +55,7 @@ const Monkey::Kind Monkey::kinds[] = {
     {"dialog key", Dialog, AnyPage, 20, &Monkey::pressDialogKey},
     {"slider", Dialog, AnyPage, 15, &Monkey::moveSlider},
     {"click in a dialog", Dialog, AnyPage, 5, &Monkey::clickInDialog},
-    {"end of the process asked about", Dialog, Processes, 5, &Monkey::endProcessAskedAbout},
+    {"end of the process asked about", Dialog, Processes, 10, &Monkey::endProcessAskedAbout},
     {"dialog closed", Dialog, AnyPage, 4, &Monkey::closeDialog},
 };
 // clang-format on
@@ -98,14 +98,18 @@ bool Monkey::look()
     const QString before = title();
     m_session.probe(QStringLiteral("state"));
     m_state = m_session.probe(QStringLiteral("state"));
-    if (title() != before) {
-        if (!title().isEmpty())
-            ++m_dialogs[title()];
-        // While a box is open the selection stays or goes, so it is what the box asks about.
-        const QJsonObject selected = m_session.probe(QStringLiteral("selected treeView"));
-        m_askedAbout = selected.value(QLatin1String("id")).toInt(-1);
-    }
+    if (!title().isEmpty() && title() != before)
+        lookAtDialog();
     return m_session.isRunning() && m_state.contains(QLatin1String("tab"));
+}
+
+// While a box is open the selection stays or goes, so it is what the box asks about.
+void Monkey::lookAtDialog()
+{
+    ++m_dialogs[title()];
+    const QJsonObject selected = m_session.probe(QStringLiteral("selected treeView"));
+    m_askedAbout = selected.value(QLatin1String("id")).toInt(-1);
+    m_isOfTheTest = m_askedAbout != m_session.pid() && m_churn.owns(m_askedAbout);
 }
 
 Monkey::Place Monkey::place() const

@@ -39,6 +39,7 @@ private:
     static const Kind kinds[];
 
     bool look();
+    void lookAtDialog();
     Place place() const;
     QString title() const { return m_state.value(QLatin1String("title")).toString(); }
     const Kind &choose();
@@ -115,7 +116,8 @@ private:
     quint32 m_number = 0;
     QRandomGenerator m_random;
     QJsonObject m_state;
-    int m_askedAbout = -1; ///< the process that the open box is about
+    int m_askedAbout = -1;      ///< the process that the open box is about
+    bool m_isOfTheTest = false; ///< that process
     QMap<QString, int> m_counts;
     QMap<QString, int> m_dialogs;
     QStringList m_last;

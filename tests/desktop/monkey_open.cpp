@@ -109,7 +109,7 @@ bool Monkey::mayConfirm()
     if (!asksAboutProcess())
         return true;
     note(QStringLiteral("about %1").arg(m_askedAbout));
-    return m_askedAbout != m_session.pid() && m_churn.owns(m_askedAbout);
+    return m_isOfTheTest;
 }
 
 void Monkey::endProcessAskedAbout()
@@ -126,8 +126,11 @@ void Monkey::clickButton()
     const QJsonValue button = buttons.at(m_random.bounded(buttons.size()));
     const QString text = button[QLatin1String("text")].toString();
     note(text);
-    if (text.contains(QLatin1String("Cancel")) || mayConfirm())
-        clickIn(rectOf(button[QLatin1String("rect")]));
+    if (!text.contains(QLatin1String("Cancel")) && !mayConfirm())
+        return;
+    if (asksAboutProcess() && !text.contains(QLatin1String("Cancel")))
+        ++m_dialogs[title() + QStringLiteral(", OK clicked")];
+    clickIn(rectOf(button[QLatin1String("rect")]));
 }
 
 void Monkey::pressDialogKey()
