@@ -2,9 +2,10 @@
 // A process that the desktop tests look for in the process list:
 //   sample_process <name> <what> [<user id>]
 // takes that name (15 bytes of it) and user, writes a line, and then, by <what>, sleeps ("sleep"), computes
-// ("busy") or starts a child called "<name>c" fifty times a second, each of which lives for 0.4 seconds
-// ("parent"). Every one calls itself "<name>n" when it gets SIGUSR1. It ends with the process that started
-// it.
+// ("busy"), starts a child called "<name>c" fifty times a second, each of which lives for 0.4 seconds
+// ("parent"), or starts a child five times a second whose own child is left to this one after 0.4 seconds and
+// ends 0.4 seconds later ("heir"). Every one calls itself "<name>n" when it gets SIGUSR1. It ends with the
+// process that started it.
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -70,6 +71,26 @@ void sleepFor(long milliseconds)
     }
 }
 
+// What its child leaves behind comes to this process, not to the first of the system.
+[[noreturn]] void inherit(const std::string &name)
+{
+    prctl(PR_SET_CHILD_SUBREAPER, 1);
+    std::signal(SIGCHLD, SIG_IGN);
+    for (;;) {
+        if (fork() == 0) {
+            endWithStarter();
+            takeName(name);
+            if (fork() == 0) {
+                sleepFor(800);
+                _exit(0);
+            }
+            sleepFor(400);
+            _exit(0);
+        }
+        sleepFor(200);
+    }
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -88,6 +109,8 @@ int main(int argc, char *argv[])
     std::fflush(stdout);
     if (what == "parent")
         startChildren(name + 'c');
+    if (what == "heir")
+        inherit(name + 'c');
     if (what == "busy")
         compute();
     sleepOn();

@@ -9,7 +9,7 @@
 SampleProcess::SampleProcess(const QString &name, What what, int user)
     : m_name(QStringLiteral("%1%2").arg(name).arg(getpid() % 1000000))
 {
-    static const char *const words[] = {"sleep", "busy", "parent"};
+    static const char *const words[] = {"sleep", "busy", "parent", "heir"};
     QStringList arguments{m_name, QLatin1String(words[what])};
     if (user >= 0)
         arguments.append(QString::number(user));

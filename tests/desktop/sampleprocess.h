@@ -9,8 +9,9 @@
 class SampleProcess
 {
 public:
-    /// A Parent always has children that have just been started.
-    enum What { Sleeping, Busy, Parent };
+    /// A Parent always has children that have just been started, an Heir always such that have just become
+    /// its own.
+    enum What { Sleeping, Busy, Parent, Heir };
 
     /// `name` has up to 4 characters; the rest makes it unlike that of any other test that runs.
     /// With a user id other than -1 the child changes to that user, which only root may.
@@ -23,7 +24,7 @@ public:
     QString name() const { return m_name; }
     QString renamed() const { return m_name + QLatin1Char('n'); } ///< its name after SIGUSR1
     int pid() const { return static_cast<int>(m_process.processId()); }
-    QString childName() const { return m_name + QLatin1Char('c'); } ///< that of a Parent's children
+    QString childName() const { return m_name + QLatin1Char('c'); } ///< that of what these two start
     bool sendSignal(int signal) const;
     int endedBy() const; ///< the signal that has ended it; 0 if it runs or has ended otherwise
     char state() const;  ///< the kernel's letter: S sleeping, R running, T stopped, Z ended; 0 if it is gone

@@ -149,7 +149,8 @@ QProcessEnvironment DesktopSession::programEnvironment() const
         if (qEnvironmentVariableIsSet(name))
             environment.insert(QLatin1String(name), qEnvironmentVariable(name));
     }
-    QStringList objects{QStringLiteral(ZSM_PROBE_OBJECT)};
+    QStringList objects = m_options.preload;
+    objects.append(QStringLiteral(ZSM_PROBE_OBJECT));
     if (m_options.machine) {
         objects.append(QStringLiteral(ZSM_STANDIN_OBJECT));
         environment.insert(QStringLiteral("ZSM_STANDIN"), m_directory.filePath(QStringLiteral("machine")));

@@ -25,6 +25,7 @@ struct SessionOptions
     int dpi = 96;                       ///< of the virtual screen
     QMap<QString, QString> environment; ///< added to the program's own; an empty value takes a variable away
     QByteArray settings;                ///< contents of the program's settings file at the first start
+    QStringList preload;                ///< objects that the program is to run with, beside the session's own
     std::optional<standin::Machine> machine; ///< what libgtop tells the program; the real machine unless set
 };
 

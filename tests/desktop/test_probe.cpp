@@ -43,6 +43,10 @@ private Q_SLOTS:
     void keysReachTheWidgetThatHasTheFocus();
     void theStandinAnswersAndChangesWhileTheProgramRuns();
     void theWindowIsResized();
+    void theWindowIsMaximised();
+    void theStateIsToldInShort();
+    void theSelectedRowIsTold();
+    void paletteAndFontChange();
     void theScreenIsPhotographed();
     void theProgramReadsTheRealMachineWithoutStandin();
     void theResolutionOfTheScreenIsChosen();
@@ -280,6 +284,78 @@ void TestProbe::theWindowIsResized()
     QVERIFY(m_session->resizeMainWindow({777, 555}));
     QCOMPARE(rectOf(m_session->mainWindow().value(QLatin1String("rect"))).size(), QSize(777, 555));
     QVERIFY(m_session->resizeMainWindow({1, 1}));
+}
+
+void TestProbe::theWindowIsMaximised()
+{
+    const auto toggle = [&] {
+        const QJsonObject before = m_session->mainWindow();
+        m_session->x().toggleMaximized(
+            static_cast<unsigned long>(before.value(QLatin1String("id")).toDouble()));
+        return m_session->waitFor([&] {
+            return m_session->mainWindow().value(QLatin1String("rect")) !=
+                   before.value(QLatin1String("rect"));
+        });
+    };
+    const QJsonValue normal = m_session->mainWindow().value(QLatin1String("rect"));
+    QVERIFY(toggle());
+    QCOMPARE(rectOf(m_session->mainWindow().value(QLatin1String("rect"))).right(), 1279);
+    QVERIFY(toggle());
+    QCOMPARE(m_session->mainWindow().value(QLatin1String("rect")), normal);
+}
+
+void TestProbe::theStateIsToldInShort()
+{
+    const auto state = [&] { return m_session->probe(QStringLiteral("state")); };
+    const auto becomes = [&](const char *key, const QJsonValue &value) {
+        return m_session->waitFor([&] { return state().value(QLatin1String(key)) == value; });
+    };
+    QVERIFY(m_session->clickTab(QStringLiteral("First")));
+    QVERIFY(becomes("tab", 0));
+    QCOMPARE(state().value(QLatin1String("popup")).toString(), QString());
+    QCOMPARE(state().value(QLatin1String("modal")).toBool(), false);
+    QCOMPARE(state().value(QLatin1String("window")), m_session->mainWindow().value(QLatin1String("rect")));
+    QCOMPARE(state().value(QLatin1String("id")), m_session->mainWindow().value(QLatin1String("id")));
+    QVERIFY(m_session->clickMenu(QStringLiteral("File")));
+    QVERIFY(becomes("popup", QStringLiteral("QMenu")));
+    QCOMPARE(state().value(QLatin1String("menus")).toArray(), QJsonArray{QStringLiteral("&File")});
+    QVERIFY(m_session->key(QStringLiteral("Escape")));
+    QVERIFY(becomes("popup", QString()));
+    QVERIFY(m_session->clickWidget(QStringLiteral("ask")));
+    QVERIFY(becomes("title", QStringLiteral("Question")));
+    QVERIFY(state().value(QLatin1String("modal")).toBool());
+    QVERIFY(m_session->waitFor([&] { return m_session->dialog().value(QLatin1String("active")).toBool(); }));
+    QVERIFY(m_session->key(QStringLiteral("Escape")));
+    QVERIFY(becomes("modal", false));
+}
+
+void TestProbe::theSelectedRowIsTold()
+{
+    const auto selected = [&] { return m_session->probe(QStringLiteral("selected tree")); };
+    QVERIFY(m_session->clickTab(QStringLiteral("Second")));
+    QVERIFY(m_session->clickRow(QStringLiteral("tree"), QStringLiteral("Name"), QStringLiteral("row 003")));
+    QVERIFY(m_session->waitFor([&] { return selected().contains(QLatin1String("id")); }));
+    QVERIFY(m_session->probe(QStringLiteral("selected ask")).contains(QLatin1String("error")));
+}
+
+void TestProbe::paletteAndFontChange()
+{
+    const auto height = [&] {
+        return rectOf(m_session->widget(QStringLiteral("memory")).value(QLatin1String("sizeHint"))).height();
+    };
+    QVERIFY(m_session->clickTab(QStringLiteral("First")));
+    const int before = height();
+    QCOMPARE(m_session->probe(QStringLiteral("font 30")), QJsonObject());
+    QVERIFY(m_session->waitFor([&] { return height() > before; }));
+    QCOMPARE(m_session->probe(QStringLiteral("font 9")), QJsonObject());
+    QCOMPARE(m_session->probe(QStringLiteral("palette #102040")), QJsonObject());
+    QVERIFY(m_session->waitFor([&] {
+        const QRect window = rectOf(m_session->mainWindow().value(QLatin1String("rect")));
+        return m_session->screenshot().pixel(window.bottomRight() - QPoint(3, 3)) == qRgb(0x10, 0x20, 0x40);
+    }));
+    QCOMPARE(m_session->probe(QStringLiteral("palette #efefef")), QJsonObject());
+    QVERIFY(m_session->probe(QStringLiteral("palette none")).contains(QLatin1String("error")));
+    QVERIFY(m_session->probe(QStringLiteral("font none")).contains(QLatin1String("error")));
 }
 
 void TestProbe::theScreenIsPhotographed()

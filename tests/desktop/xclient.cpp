@@ -172,6 +172,15 @@ void XClient::closeWindow(unsigned long id)
     sendToWindowManager(id, "_NET_CLOSE_WINDOW", {CurrentTime, fromPager, 0, 0, 0});
 }
 
+void XClient::toggleMaximized(unsigned long id)
+{
+    const long toggle = 2;
+    const long fromPager = 2;
+    sendToWindowManager(id, "_NET_WM_STATE",
+                        {toggle, long(XInternAtom(m_display, "_NET_WM_STATE_MAXIMIZED_VERT", False)),
+                         long(XInternAtom(m_display, "_NET_WM_STATE_MAXIMIZED_HORZ", False)), fromPager, 0});
+}
+
 QImage XClient::screenshot() const
 {
     const int screen = DefaultScreen(m_display);

@@ -44,6 +44,7 @@ public:
     /// Asks the window manager, as a pager or task bar does. Ids as X and QWidget::winId() have them.
     void resizeWindow(unsigned long id, const QSize &size);
     void closeWindow(unsigned long id);
+    void toggleMaximized(unsigned long id);
 
     /// The whole screen; a null image if it couldn't be read.
     QImage screenshot() const;

@@ -87,6 +87,8 @@ struct Machine
     std::optional<std::vector<Interface>> interfaces;
     bool interfaceListFails = false;                 ///< the list of names is null; needs `interfaces` set
     std::optional<std::map<int, Process>> processes; ///< by pid
+    /// Without `processes`: only so many of the real ones of other users are listed, the oldest; -1: all.
+    int mostOfOthers = -1;
 };
 
 /// How often each call was answered, made up or real, since resetCalls().

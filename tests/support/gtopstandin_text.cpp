@@ -79,6 +79,17 @@ struct ListState
     bool fails = false;
 };
 
+struct OthersLimit
+{
+    int most = -1;
+};
+
+template <typename Visitor>
+void visitFields(Visitor &visit, OthersLimit &limit)
+{
+    visit("most", limit.most);
+}
+
 template <typename Visitor>
 void visitFields(Visitor &visit, ListState &list)
 {
@@ -240,6 +251,8 @@ void readLine(const std::string &line, Machine &machine)
         appended(machine.interfaces, recordOf<Interface>(rest));
     } else if (kind == "processes") {
         machine.processes.emplace();
+    } else if (kind == "others") {
+        machine.mostOfOthers = recordOf<OthersLimit>(rest).most;
     } else if (kind == "process") {
         if (!machine.processes)
             machine.processes.emplace();
@@ -276,6 +289,8 @@ std::string toText(const Machine &machine)
         for (const auto &[pid, process] : *machine.processes)
             text += lineOf("process", std::pair<int, Process>(pid, process));
     }
+    if (machine.mostOfOthers >= 0)
+        text += lineOf("others", OthersLimit{machine.mostOfOthers});
     return text;
 }
 

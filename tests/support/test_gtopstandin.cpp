@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/gtopstandin.h"
 
+#include <QProcess>
 #include <QtTest>
 
 #include <glib.h>
@@ -38,6 +39,7 @@ private Q_SLOTS:
     void interfacesComeInOrderWithTheirLoads();
     void anUnknownInterfaceGivesAZeroedRecord();
     void processesAreListedByPidAndByUser();
+    void realProcessesOfOthersAreLeftOut();
     void aProcessGivesItsData();
     void aProcessCanEndWhileItIsRead();
     void callsAreCounted();
@@ -229,6 +231,30 @@ void TestGtopStandin::processesAreListedByPidAndByUser()
     QCOMPARE(listedPids(), (std::vector<pid_t>{1, 7, 300}));
     QCOMPARE(listedPids(GLIBTOP_KERN_PROC_UID, 1000), std::vector<pid_t>{7});
     QCOMPARE(listedPids(GLIBTOP_KERN_PROC_RUID, 0), (std::vector<pid_t>{1, 300}));
+}
+
+// A process of another user is needed, and only the superuser can make one.
+void TestGtopStandin::realProcessesOfOthersAreLeftOut()
+{
+    if (getuid() != 0)
+        QSKIP("needs to be root");
+    QProcess other;
+    other.start(QStringLiteral("setpriv"),
+                {QStringLiteral("--reuid"), QStringLiteral("65534"), QStringLiteral("sh"),
+                 QStringLiteral("-c"), QStringLiteral("echo; read line")});
+    QVERIFY(other.waitForReadyRead());
+    const auto lists = [](qint64 pid) {
+        const std::vector<pid_t> pids = listedPids();
+        return std::find(pids.begin(), pids.end(), pid) != pids.end();
+    };
+    QVERIFY(lists(other.processId()));
+    standin::machine().mostOfOthers = 0;
+    QVERIFY(!lists(other.processId()));
+    QVERIFY(lists(getpid()));
+    standin::machine().mostOfOthers = 1000000;
+    QVERIFY(lists(other.processId()));
+    other.closeWriteChannel();
+    QVERIFY(other.waitForFinished());
 }
 
 void TestGtopStandin::aProcessGivesItsData()

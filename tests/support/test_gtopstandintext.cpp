@@ -49,6 +49,7 @@ standin::Machine fullMachine()
     process.arguments = std::string("a\0b\0", 4);
     process.answersBeforeEnd = 2;
     machine.processes = {{42, process}, {43, standin::Process{}}};
+    machine.mostOfOthers = 8;
     return machine;
 }
 
@@ -70,6 +71,7 @@ void TestGtopStandinText::theTextFormKeepsEveryField()
     QCOMPARE(read.processes->at(42).nice, -20);
     QCOMPARE(read.processes->at(42).answersBeforeEnd, 2);
     QCOMPARE(read.processes->at(43).answersBeforeEnd, -1);
+    QCOMPARE(read.mostOfOthers, 8);
 }
 
 void TestGtopStandinText::anEmptyListIsNotAnUnsetOne()

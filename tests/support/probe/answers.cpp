@@ -6,10 +6,12 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCursor>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTabWidget>
 
 namespace probe {
 namespace {
@@ -112,6 +114,55 @@ QJsonObject table(const QString &name)
     return view ? describeView(view) : error(QStringLiteral("no item view ") + name);
 }
 
+QJsonObject selected(const QString &name)
+{
+    const auto *const view = qobject_cast<QAbstractItemView *>(findWidget(name));
+    return view ? describeSelected(view) : error(QStringLiteral("no item view ") + name);
+}
+
+QJsonObject state(const QString &)
+{
+    // Asks the X server, so that what it sent before has been received: the next answer counts it in.
+    const QPoint pointer = QCursor::pos();
+    const QWidget *const popup = QApplication::activePopupWidget();
+    const QWidget *const modal = QApplication::activeModalWidget();
+    const auto *const tabs = qobject_cast<QTabWidget *>(visibleWidgets("QTabWidget").value(0));
+    QJsonArray menus;
+    const QWidgetList open = visibleWidgets("QMenu");
+    for (const QWidget *each : open)
+        menus.append(qobject_cast<const QMenu *>(each)->title());
+    QJsonObject json{
+        {QStringLiteral("pointer"), QJsonArray{pointer.x(), pointer.y()}},
+        {QStringLiteral("popup"), popup ? QString::fromLatin1(popup->metaObject()->className()) : QString()},
+        {QStringLiteral("menus"), menus},
+        {QStringLiteral("modal"), modal != nullptr},
+        {QStringLiteral("title"), modal ? modal->windowTitle() : QString()}};
+    if (tabs) {
+        json[QStringLiteral("tab")] = tabs->currentIndex();
+        json[QStringLiteral("window")] = globalRect(tabs->window(), tabs->window()->rect());
+        json[QStringLiteral("id")] = double(tabs->window()->winId());
+    }
+    return json;
+}
+
+QJsonObject palette(const QString &color)
+{
+    if (!QColor::isValidColor(color))
+        return error(QStringLiteral("no color ") + color);
+    QApplication::setPalette(QPalette(QColor(color)));
+    return {};
+}
+
+QJsonObject font(const QString &size)
+{
+    QFont changed = QApplication::font();
+    if (size.toInt() <= 0)
+        return error(QStringLiteral("no size ") + size);
+    changed.setPointSize(size.toInt());
+    QApplication::setFont(changed);
+    return {};
+}
+
 QJsonObject menu(const QString &)
 {
     const auto *const bar = qobject_cast<QMenuBar *>(visibleWidgets("QMenuBar").value(0));
@@ -158,9 +209,10 @@ struct Command
     QJsonObject (*run)(const QString &argument);
 };
 
-const Command commands[] = {{"windows", windows}, {"widget", widget}, {"widgets", widgetsOfClass},
-                            {"tree", tree},       {"table", table},   {"menu", menu},
-                            {"dialog", dialog},   {"focus", focus}};
+const Command commands[] = {{"windows", windows},   {"widget", widget},   {"widgets", widgetsOfClass},
+                            {"tree", tree},         {"table", table},     {"menu", menu},
+                            {"selected", selected}, {"state", state},     {"dialog", dialog},
+                            {"focus", focus},       {"palette", palette}, {"font", font}};
 
 } // namespace
 

@@ -31,6 +31,9 @@ QJsonArray describeMenuBar(const QMenuBar *bar);
 /// parent with a greater depth. Cells on the screen have their rectangles.
 QJsonObject describeView(QAbstractItemView *view);
 
+/// {"id": the internal id of the selected row in the innermost model}; empty if there is no selection.
+QJsonObject describeSelected(const QAbstractItemView *view);
+
 } // namespace probe
 
 #endif

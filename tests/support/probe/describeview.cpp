@@ -2,6 +2,7 @@
 #include "tests/support/probe/describe.h"
 
 #include <QAbstractItemView>
+#include <QAbstractProxyModel>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QScrollBar>
@@ -141,6 +142,17 @@ QJsonObject describeView(QAbstractItemView *view)
     json[QStringLiteral("verticalScrollMaximum")] = view->verticalScrollBar()->maximum();
     json[QStringLiteral("rows")] = view->model() ? RowTeller(view).rows() : QJsonArray();
     return json;
+}
+
+QJsonObject describeSelected(const QAbstractItemView *view)
+{
+    const QItemSelectionModel *const selection = view->selectionModel();
+    if (!selection || !selection->hasSelection())
+        return {};
+    QModelIndex index = selection->currentIndex();
+    while (const auto *proxy = qobject_cast<const QAbstractProxyModel *>(index.model()))
+        index = proxy->mapToSource(index);
+    return index.isValid() ? QJsonObject{{QStringLiteral("id"), double(index.internalId())}} : QJsonObject();
 }
 
 } // namespace probe

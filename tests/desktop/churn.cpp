@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/desktop/churn.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <csignal>
+
+namespace {
+
+QString procFolder(int pid)
+{
+    return QStringLiteral("/proc/%1").arg(pid);
+}
+
+bool isStopped(int pid)
+{
+    QFile file(procFolder(pid) + QStringLiteral("/stat"));
+    return file.open(QIODevice::ReadOnly) && file.readAll().contains(") T ");
+}
+
+// Numbers of every length, among them 0 and the largest.
+std::uint64_t anyNumber(QRandomGenerator &random)
+{
+    return random.generate64() >> random.bounded(64);
+}
+
+template <typename Text, std::size_t count>
+std::string anyOf(const Text (&texts)[count], QRandomGenerator &random)
+{
+    return texts[random.bounded(int(count))];
+}
+
+bool oneIn(int chances, QRandomGenerator &random)
+{
+    return random.bounded(chances) == 0;
+}
+
+standin::Mount mount(int number, QRandomGenerator &random)
+{
+    static const char *const devices[] = {
+        "/dev/sda", "/dev/mapper/root", "tmpfs", "//server/share", "/dev/\xff\xfe", "", "\xc3\xa9 \n<b>"};
+    static const char *const types[] = {"ext4", "tmpfs", "vfat", "iso9660", "nfs", "", "\xf0\x9f\x92\xbe"};
+    standin::Mount made;
+    made.device = anyOf(devices, random) + (oneIn(4, random) ? std::string() : std::to_string(number));
+    made.directory = "/mnt/" + std::string(oneIn(8, random) ? 100 : 1, 'd') + std::to_string(number);
+    made.type = anyOf(types, random);
+    made.blocks = anyNumber(random);
+    made.freeBlocks = oneIn(8, random) ? anyNumber(random) : made.blocks / 2;
+    made.availBlocks = oneIn(8, random) ? anyNumber(random) : made.blocks / 3;
+    made.fails = oneIn(10, random);
+    return made;
+}
+
+standin::Interface interface(int number, QRandomGenerator &random)
+{
+    static const char *const names[] = {"eth", "lo", "wlan", "\xc3\xa9&", "a-name-that-takes-much-room-"};
+    standin::Interface made;
+    made.name = anyOf(names, random) + std::to_string(number);
+    made.address = random.generate();
+    made.mask = random.generate();
+    made.bytesIn = anyNumber(random);
+    made.bytesOut = anyNumber(random);
+    made.errors = anyNumber(random);
+    made.fails = oneIn(10, random);
+    return made;
+}
+
+} // namespace
+
+Churn::~Churn()
+{
+    m_samples.clear();
+    if (m_user < 0)
+        return;
+    // What has been stopped would not end by itself.
+    const QStringList folders = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+    for (const QString &folder : folders) {
+        const int pid = folder.toInt();
+        if (pid > 0 && QFileInfo(procFolder(pid)).ownerId() == uint(m_user) && isStopped(pid))
+            ::kill(pid, SIGKILL);
+    }
+}
+
+bool Churn::owns(int pid) const
+{
+    return m_user >= 0 && pid > 0 &&
+           (m_started.contains(pid) || QFileInfo(procFolder(pid)).ownerId() == uint(m_user));
+}
+
+bool Churn::has(SampleProcess::What what) const
+{
+    return std::any_of(m_samples.begin(), m_samples.end(),
+                       [=](const Sample &each) { return each.what == what; });
+}
+
+// The program may have ended some.
+void Churn::forgetEnded()
+{
+    const auto ended = [](const Sample &each) { return each.process->pid() == 0; };
+    m_samples.erase(std::remove_if(m_samples.begin(), m_samples.end(), ended), m_samples.end());
+}
+
+void Churn::end(int pid)
+{
+    const auto isIt = [=](const Sample &each) { return each.process->pid() == pid; };
+    m_samples.erase(std::remove_if(m_samples.begin(), m_samples.end(), isIt), m_samples.end());
+}
+
+QString Churn::startOne(QRandomGenerator &random)
+{
+    SampleProcess::What what = SampleProcess::Sleeping;
+    if (oneIn(3, random) && !has(SampleProcess::Parent))
+        what = SampleProcess::Parent;
+    else if (oneIn(3, random) && !has(SampleProcess::Heir))
+        what = SampleProcess::Heir;
+    auto process = std::make_unique<SampleProcess>(
+        QStringLiteral("m%1").arg(random.bounded(1000), 3, 10, QLatin1Char('0')), what, m_user);
+    const int pid = process->pid();
+    m_started.insert(pid);
+    m_samples.push_back({what, std::move(process)});
+    return QStringLiteral("starts %1").arg(pid);
+}
+
+QString Churn::changeProcesses(QRandomGenerator &random)
+{
+    static const struct
+    {
+        int signal;
+        const char *name;
+    } signs[] = {{SIGUSR1, "renames"}, {SIGSTOP, "stops"}, {SIGCONT, "continues"}};
+    const std::size_t fewest = 4;
+    const std::size_t most = 12;
+
+    forgetEnded();
+    const int what = random.bounded(6);
+    if (m_samples.size() < fewest || (what < 2 && m_samples.size() < most))
+        return startOne(random);
+    const std::size_t which = random.generate() % m_samples.size();
+    const int pid = m_samples[which].process->pid();
+    if (what < 3) {
+        m_samples.erase(m_samples.begin() + long(which));
+        return QStringLiteral("ends %1").arg(pid);
+    }
+    m_samples[which].process->sendSignal(signs[what - 3].signal);
+    return QStringLiteral("%1 %2").arg(QLatin1String(signs[what - 3].name)).arg(pid);
+}
+
+standin::Machine Churn::machine(QRandomGenerator &random)
+{
+    standin::Machine made;
+    made.mostOfOthers = 60;
+    made.cpus.emplace(4);
+    for (standin::Cpu &cpu : *made.cpus) {
+        cpu.idle = anyNumber(random);
+        cpu.total = oneIn(8, random) ? anyNumber(random) : cpu.idle + random.bounded(1000U);
+    }
+    const std::uint64_t memory = anyNumber(random);
+    made.memory = standin::Memory{memory, memory / 4, memory / 8, memory / 2};
+    made.mounts.emplace();
+    for (int number = random.bounded(25); number > 0; --number)
+        made.mounts->push_back(mount(number, random));
+    made.mountListFails = oneIn(20, random);
+    made.interfaces.emplace();
+    for (int number = random.bounded(12); number > 0; --number)
+        made.interfaces->push_back(interface(number, random));
+    made.interfaceListFails = oneIn(20, random);
+    return made;
+}
