@@ -115,23 +115,24 @@ measure_size() { # <processes beside those that are there>
         cut -d ' ' -f 1 "$work/list" | median >>"$work/read"; echo >>"$work/read"
         cut -d ' ' -f 2 "$work/list" | median >>"$work/show"; echo >>"$work/show"
     done
-    exec 8>&-
-    wait "$spawner"
     note "four libgtop calls, $count processes, µs per process" "$work/calls"
     note "one refresh of the process page, $count processes, µs per process" "$work/page" "$work/calls"
     note "snapshot alone (library), $count processes, µs per process" "$work/read" "$work/calls"
     note "model, proxy and view alone, $count processes, µs per process" "$work/show" "$work/calls"
     note "resident memory of the process page, $count processes, MB" "$work/rss"
+    measure_start processes "$count"
+    exec 8>&-
+    wait "$spawner"
 }
 
-measure_start() { # <page>: CPU time until the window is there, ms
+measure_start() { # <page> [<processes>]: CPU time until the window is there, ms
     rm -f "$work/start"
     for _ in $(seq "$repeats"); do
         start_monitor "$1" 3
         awk -v ns="$(cpu_time)" 'BEGIN { printf "%.1f\n", ns / 1e6 }' >>"$work/start"
         stop_monitor
     done
-    note "start on the page $1 until its window is shown, ms of CPU" "$work/start"
+    note "start on the page $1${2:+ with $2 processes} until its window is shown, ms of CPU" "$work/start"
 }
 
 measure_idle() { # <page> <what> [<preloaded library>]: CPU per second at the default interval, ms
@@ -167,7 +168,6 @@ start_desktop
 } | tee "$results.md"
 "$bin/bench_machine" "$work/machine"
 measure_start general
-measure_start processes
 measure_idle general "this machine"
 measure_idle general "1,024 cores, 500 mounts, 500 interfaces" "$bin/../tests/support/libgtopstandin_preload.so"
 [ "$ticks" -eq 0 ] || measure_growth

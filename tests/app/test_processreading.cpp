@@ -21,7 +21,7 @@ private Q_SLOTS:
     void costlyValuesAreNotReadUntilLookedAt();
     void shownValuesFollowTheMachine();
     void sortedMemoryIsReadWithEachRefresh();
-    void myProcessesFollowTheRealUser();
+    void myProcessesFollowTheUserColumn();
 
 private:
     standin::Process &made(int pid) { return standin::machine().processes->at(pid); }
@@ -108,7 +108,7 @@ void TestProcessReading::sortedMemoryIsReadWithEachRefresh()
     QCOMPARE(list()->processAt(list()->index(0, 0)).pid(), 200);
 }
 
-void TestProcessReading::myProcessesFollowTheRealUser()
+void TestProcessReading::myProcessesFollowTheUserColumn()
 {
     list()->setProcessTypes(MyProcesses);
     fixture->updater().update(true);
