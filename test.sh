@@ -8,7 +8,8 @@ cd "$(dirname "$0")"
 
 need_packages $build_packages $window_packages $check_packages
 build asan
-ctest --test-dir build/asan --output-on-failure -j "$(nproc)" "$@"
+# Two for each core, since those in a window wait most of the time.
+ctest --test-dir build/asan --output-on-failure -j $((2 * $(nproc))) "$@"
 if [ $# -eq 0 ]; then
     build dev test_proxyprocmodel_view
     ctest --test-dir build/dev --output-on-failure -R selection_under_valgrind
