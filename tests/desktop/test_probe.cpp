@@ -344,6 +344,10 @@ void TestProbe::paletteAndFontChange()
         return rectOf(m_session->widget(QStringLiteral("memory")).value(QLatin1String("sizeHint"))).height();
     };
     QVERIFY(m_session->clickTab(QStringLiteral("First")));
+    // Or the larger menu bar would be under the click when it arrives.
+    QVERIFY(m_session->waitFor([&] {
+        return m_session->probe(QStringLiteral("state")).value(QLatin1String("tab")).toInt(-1) == 0;
+    }));
     const int before = height();
     QCOMPARE(m_session->probe(QStringLiteral("font 30")), QJsonObject());
     QVERIFY(m_session->waitFor([&] { return height() > before; }));
