@@ -2,10 +2,7 @@
 #include "app/descriptorreserve.h"
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <unistd.h>
-
-#include <algorithm>
 
 namespace {
 
@@ -27,24 +24,12 @@ DescriptorReserve::~DescriptorReserve()
 
 bool DescriptorReserve::release()
 {
-    if (holdsEnough()) {
-        drop();
-        return true;
-    }
+    // Opened anew each time: the limit can have been lowered below the descriptors that are held.
     drop();
     take();
-    const bool enough = holdsEnough();
+    const bool enough = held.size() == reserveSize;
     drop();
     return enough;
-}
-
-/// Whether closing what is held makes room for as much again. What lies beyond the limit, which can have
-/// been lowered since, does not.
-bool DescriptorReserve::holdsEnough() const
-{
-    rlimit limit = {};
-    return held.size() == reserveSize && getrlimit(RLIMIT_NOFILE, &limit) == 0 &&
-           static_cast<rlim_t>(*std::max_element(held.begin(), held.end())) < limit.rlim_cur;
 }
 
 void DescriptorReserve::take()

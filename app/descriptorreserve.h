@@ -21,7 +21,6 @@ public:
     void take();
 
 private:
-    bool holdsEnough() const;
     void drop();
 
     std::vector<int> held;

@@ -23,7 +23,8 @@ void Updater::buildMenus()
 void Updater::buildFileMenu()
 {
     fileMenu = ui.menubar->addMenu(tr("&File"));
-    const QIcon icon = // by its kind, as those of the process menu
+    // Told to be PNG for the same reason as the process menu's.
+    const QIcon icon =
         QIcon::fromTheme(QStringLiteral("application-exit"), QPixmap(QStringLiteral(":/images/exit"), "PNG"));
     fileMenu->addAction(icon, tr("Exit"), qApp, SLOT(quit()), QKeySequence(QStringLiteral("Ctrl+Q")));
 }
