@@ -86,6 +86,7 @@ void TestDescriptorsTaken::verifyQuitsAndSaves()
 void TestDescriptorsTaken::withNoneToSpareItGoesOnAndSavesItsSettings()
 {
     QVERIFY(limitDescriptors(lowestUsefulLimit()));
+    QVERIFY(!m_session->probe(QStringLiteral("hoard")).contains(QLatin1String("error")));
     const SampleProcess sample(QStringLiteral("desc"));
     QVERIFY(sample.isReady());
     QVERIFY2(m_page->waitForRow(sample.pid()), qPrintable(m_session->error()));

@@ -43,6 +43,13 @@ private:
     std::vector<int> hoard;
 };
 
+class SeenForTheFirstTime
+{
+public:
+    virtual ~SeenForTheFirstTime() = default;
+    virtual int answer() const { return 42; }
+};
+
 } // namespace
 
 // libgtop is the real one here: it ends the whole process when it can't open /proc/stat.
@@ -58,6 +65,7 @@ private Q_SLOTS:
     void theTickGoesOnWithoutARefresh();
     void withNoneLeftTheSettingsAreSaved();
     void aRefreshKeepsNoDescriptor();
+    void theSanitizersTakeNoDescriptorForABrokenObject();
 
 private:
     void refreshAll() { QMetaObject::invokeMethod(&fixture->updater(), "update", Q_ARG(bool, true)); }
@@ -155,6 +163,15 @@ void TestDescriptors::aRefreshKeepsNoDescriptor()
         refreshAll();
         QCOMPARE(openDescriptors(), before);
     }
+}
+
+// Fails only where the sanitizers are on: it guards what the other functions rely on there.
+void TestDescriptors::theSanitizersTakeNoDescriptorForABrokenObject()
+{
+    const std::unique_ptr<SeenForTheFirstTime> object(new SeenForTheFirstTime);
+    const NoDescriptors none(256);
+    QCOMPARE(object->answer(), 42);
+    QCOMPARE(open("/dev/null", O_RDONLY), -1); // the limit is as it was
 }
 
 QTEST_MAIN(TestDescriptors)
