@@ -32,13 +32,16 @@ void TestSlowRefresh::noBurstOfTicksMakesUpForIt()
     QElapsedTimer blocked;
     blocked.start();
     refreshSlowly(fixture);
-    QVERIFY(blocked.elapsed() >= 2000); // it has passed two timeouts
+    refreshSlowly(fixture);
+    const auto missed = static_cast<int>(blocked.elapsed() / timer->interval());
+    QVERIFY(missed >= 4);
     QElapsedTimer afterwards;
     afterwards.start();
     for (int i = 0; i < 50; ++i) {
         QCoreApplication::processEvents();
     }
-    const auto ordinary = static_cast<int>(afterwards.elapsed() / timer->interval());
+    // One may fall into a part of an interval.
+    const auto ordinary = static_cast<int>(afterwards.elapsed() / timer->interval()) + 1;
     QVERIFY(ticks.count() <= 1 + ordinary);
 }
 
