@@ -91,13 +91,11 @@ void Monkey::note(const QString &text)
     m_last.last() += QLatin1Char(' ') + text;
 }
 
-// Asked twice, so that the second answer counts in what has just been done.
 bool Monkey::look()
 {
     QCoreApplication::processEvents();
     const QString before = title();
-    m_session.probe(QStringLiteral("state"));
-    m_state = m_session.probe(QStringLiteral("state"));
+    m_state = m_session.stateAfterInput();
     if (!title().isEmpty() && title() != before)
         lookAtDialog();
     return m_session.isRunning() && m_state.contains(QLatin1String("tab"));

@@ -110,7 +110,9 @@ bool DesktopSession::startWindowManager()
     environment.insert(QStringLiteral("HOME"), m_directory.path());
     m_windowManager = std::make_unique<BoundProcess>();
     m_windowManager->setProcessEnvironment(environment);
-    m_windowManager->start(QStringLiteral("openbox"), {QStringLiteral("--sm-disable")});
+    m_windowManager->start(QStringLiteral("openbox"),
+                           {QStringLiteral("--sm-disable"), QStringLiteral("--config-file"),
+                            QStringLiteral(ZSM_WINDOW_MANAGER_SETTINGS)});
     QElapsedTimer elapsed;
     for (elapsed.start(); !elapsed.hasExpired(desktopDeadline); QTest::qWait(10)) {
         if (m_x.hasWindowManager())

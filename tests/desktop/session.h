@@ -63,6 +63,8 @@ public:
 
     /// One answer of the probe (see tests/support/probe/answers.h); {"error": ...} if none came.
     QJsonObject probe(const QString &command);
+    /// The probe's "state", with everything done that came of the input sent so far; empty if it ends of it.
+    QJsonObject stateAfterInput();
     QJsonObject widget(const QString &name);
     QString text(const QString &widgetName); ///< its text
     Table table(const QString &name);
@@ -124,6 +126,7 @@ private:
     QElapsedTimer m_sinceClick;
     int m_probe = -1;
     int m_runs = 0;
+    int m_marks = 0;
     QByteArray m_received;
     QByteArray m_output;
     QByteArray m_errors;

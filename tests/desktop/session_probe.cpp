@@ -75,6 +75,20 @@ QJsonObject DesktopSession::probe(const QString &command)
     return silence;
 }
 
+// Asked once more when the mark has come: what came with it may still be waiting in the toolkit's own queue.
+QJsonObject DesktopSession::stateAfterInput()
+{
+    const QString command = QStringLiteral("state");
+    QJsonObject state = probe(command);
+    m_x.mark(static_cast<unsigned long>(state.value(QLatin1String("id")).toDouble()), ++m_marks);
+    for (const QDeadlineTimer deadline(desktopDeadline);
+         state.contains(QLatin1String("id")) && !deadline.hasExpired(); state = probe(command)) {
+        if (state.value(QLatin1String("mark")).toInt() >= m_marks)
+            return probe(command);
+    }
+    return {};
+}
+
 QJsonObject DesktopSession::widget(const QString &name)
 {
     return probe(QStringLiteral("widget ") + name);

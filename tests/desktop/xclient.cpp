@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/xclient.h"
 
+#include "tests/support/probe/inputmarks.h"
+
 #include <QStringList>
 
 #include <X11/XKBlib.h>
@@ -19,6 +21,8 @@ XClient::~XClient()
 bool XClient::open(const QString &display)
 {
     close();
+    // A window may have gone before a message for it comes: the library would end the test.
+    XSetErrorHandler([](Display *, XErrorEvent *) { return 0; });
     m_display = XOpenDisplay(display.toLocal8Bit().constData());
     int event = 0;
     int error = 0;
@@ -179,6 +183,19 @@ void XClient::toggleMaximized(unsigned long id)
     sendToWindowManager(id, "_NET_WM_STATE",
                         {toggle, long(XInternAtom(m_display, "_NET_WM_STATE_MAXIMIZED_VERT", False)),
                          long(XInternAtom(m_display, "_NET_WM_STATE_MAXIMIZED_HORZ", False)), fromPager, 0});
+}
+
+void XClient::mark(unsigned long id, int number)
+{
+    XEvent event = {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = id;
+    event.xclient.message_type = XInternAtom(m_display, "_ZSM_MARK", False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = number;
+    event.xclient.data.l[1] = InputMarks::tag;
+    XSendEvent(m_display, id, False, NoEventMask, &event);
+    XSync(m_display, False);
 }
 
 QImage XClient::screenshot() const

@@ -46,6 +46,9 @@ public:
     void closeWindow(unsigned long id);
     void toggleMaximized(unsigned long id);
 
+    /// Sends a window one of the probe's marks (tests/support/probe/inputmarks.h).
+    void mark(unsigned long id, int number);
+
     /// The whole screen; a null image if it couldn't be read.
     QImage screenshot() const;
 

@@ -2,11 +2,11 @@
 #include "tests/support/probe/answers.h"
 
 #include "tests/support/probe/describe.h"
+#include "tests/support/probe/inputmarks.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QCursor>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -124,8 +124,6 @@ QJsonObject selected(const QString &name)
 
 QJsonObject state(const QString &)
 {
-    // Asks the X server, so that what it sent before has been received: the next answer counts it in.
-    const QPoint pointer = QCursor::pos();
     const QWidget *const popup = QApplication::activePopupWidget();
     const QWidget *const modal = QApplication::activeModalWidget();
     const auto *const tabs = qobject_cast<QTabWidget *>(visibleWidgets("QTabWidget").value(0));
@@ -134,7 +132,7 @@ QJsonObject state(const QString &)
     for (const QWidget *each : open)
         menus.append(qobject_cast<const QMenu *>(each)->title());
     QJsonObject json{
-        {QStringLiteral("pointer"), QJsonArray{pointer.x(), pointer.y()}},
+        {QStringLiteral("mark"), InputMarks::latest()},
         {QStringLiteral("popup"), popup ? QString::fromLatin1(popup->metaObject()->className()) : QString()},
         {QStringLiteral("menus"), menus},
         {QStringLiteral("modal"), modal != nullptr},

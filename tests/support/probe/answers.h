@@ -15,8 +15,7 @@ namespace probe {
 ///   table NAME     an item view, found as by `widget`, with headers and rows
 ///   menu           the entries of the menu bar, and the open menus, the innermost last
 ///   selected NAME  {"id": the number that the model knows the selected row of an item view by}; {} if none
-///   state          in short: what is open and which page is shown. Asked twice, the second answer counts in
-///                  all input that the X server had sent before the first
+///   state          in short: what is open, which page is shown, which mark came last (inputmarks.h)
 ///   dialog         the active modal dialog with its buttons; {} if there is none
 ///   focus          the widget that has the focus; {} if there is none
 /// and these two do as the settings of the desktop do while programs run:

@@ -30,6 +30,7 @@ ProbeServer::ProbeServer(const QByteArray &path, QObject *parent) : QObject(pare
         qWarning("probe: can't listen on %s: %s", path.constData(), std::strerror(errno));
         return;
     }
+    QCoreApplication::instance()->installNativeEventFilter(&m_marks);
     auto *const notifier = new QSocketNotifier(m_socket, QSocketNotifier::Read, this);
     connect(notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), SLOT(acceptClient()));
 }

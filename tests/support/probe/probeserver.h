@@ -2,6 +2,8 @@
 #ifndef TESTS_SUPPORT_PROBE_PROBESERVER_H
 #define TESTS_SUPPORT_PROBE_PROBESERVER_H
 
+#include "tests/support/probe/inputmarks.h"
+
 #include <QByteArray>
 #include <QObject>
 
@@ -20,6 +22,7 @@ private Q_SLOTS:
     void acceptClient();
 
 private:
+    InputMarks m_marks;
     int m_socket = -1;
 };
 
