@@ -23,6 +23,18 @@ QChar harmless(QChar c)
     return c;
 }
 
+/// Beyond 16 bits too, where one character is a pair.
+void replaceUnseenPairs(QString &text)
+{
+    for (int i = 0; i + 1 < text.size(); ++i) {
+        const bool isPair = text.at(i).isHighSurrogate() && text.at(i + 1).isLowSurrogate();
+        if (isPair &&
+            QChar::category(QChar::surrogateToUcs4(text.at(i), text.at(i + 1))) == QChar::Other_Format) {
+            text.replace(i, 2, QChar::ReplacementCharacter);
+        }
+    }
+}
+
 void shorten(QString &text)
 {
     if (text.size() <= longestText) {
@@ -49,6 +61,7 @@ QString oneLine(const QByteArray &bytes)
     for (QChar &c : text) {
         c = harmless(c);
     }
+    replaceUnseenPairs(text);
     return text;
 }
 

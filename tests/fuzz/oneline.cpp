@@ -3,16 +3,18 @@
 
 #include "process/gtop_wrappers/oneline.h"
 
+#include <QVector>
+
 #include <algorithm>
 
 namespace {
 
-bool isHarmless(QChar character)
+bool isHarmless(uint character)
 {
-    const bool joiner = character == QChar(0x200c) || character == QChar(0x200d);
-    return character.category() != QChar::Other_Control && character.category() != QChar::Separator_Line &&
-           character.category() != QChar::Separator_Paragraph &&
-           (character.category() != QChar::Other_Format || joiner);
+    const bool joiner = character == 0x200c || character == 0x200d;
+    const QChar::Category category = QChar::category(character);
+    return category != QChar::Other_Control && category != QChar::Separator_Line &&
+           category != QChar::Separator_Paragraph && (category != QChar::Other_Format || joiner);
 }
 
 QString withoutBlanksAtTheEnd(QString text)
@@ -31,7 +33,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     const QString line = gtop_wrappers::oneLine(bytes);
 
     HOLDS(line.size() <= gtop_wrappers::longestText);
-    HOLDS(std::all_of(line.begin(), line.end(), isHarmless));
+    const QVector<uint> characters = line.toUcs4();
+    HOLDS(std::all_of(characters.begin(), characters.end(), isHarmless));
     HOLDS(QString::fromUtf8(line.toUtf8()) == line); // no half of a character
     HOLDS(gtop_wrappers::oneLine(line.toUtf8()) == withoutBlanksAtTheEnd(line));
     HOLDS(gtop_wrappers::oneLine(bytes + QByteArray(3, '\0') + "  ") == line);

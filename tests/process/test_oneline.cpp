@@ -60,6 +60,9 @@ void TestOneLine::isHarmless_data()
                                      << "a" + broken + "b";
     QTest::newRow("joined picture") << QByteArray("\xf0\x9f\x91\xa9\xe2\x80\x8d\xf0\x9f\x92\xbb")
                                     << QString::fromUtf8("\xf0\x9f\x91\xa9\xe2\x80\x8d\xf0\x9f\x92\xbb");
+    QTest::newRow("invisible letters beyond 16 bits") << QByteArray("a\xf3\xa0\x81\xa1\xf3\xa0\x81\xa2"
+                                                                    "b")
+                                                      << "a" + broken + broken + "b";
     QTest::newRow("Arabic letter mark") << QByteArray("a\xd8\x9c") << "a" + broken;
 }
 
