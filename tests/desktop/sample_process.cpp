@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A process that the desktop tests look for in the process list:
 //   sample_process <name> <what> [<user id>]
-// takes that name (15 bytes of it) and user, writes a line, and then, by <what>, sleeps ("sleep"), computes
-// ("busy"), starts a child called "<name>c" fifty times a second, each of which lives for 0.4 seconds
-// ("parent"), or starts a child five times a second whose own child is left to this one after 0.4 seconds and
-// ends 0.4 seconds later ("heir"). Every one calls itself "<name>n" when it gets SIGUSR1. It ends with the
-// process that started it.
+// takes that name (15 bytes of it) and user and then, by <what>, sleeps ("sleep"), computes ("busy"), starts a
+// child called "<name>c" fifty times a second, each of which lives for 0.4 seconds ("parent"), or starts a child
+// five times a second whose own child is left to this one after 0.4 seconds and ends 0.4 seconds later ("heir").
+// It writes a line as soon as it does, with the first child there if it has some. Every one calls itself
+// "<name>n" when it gets SIGUSR1. It ends with the process that started it.
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -39,14 +39,22 @@ bool takeUser(const char *id)
     return setgid(user) == 0 && setuid(user) == 0;
 }
 
+void announce()
+{
+    std::puts("ready");
+    std::fflush(stdout);
+}
+
 [[noreturn]] void sleepOn()
 {
+    announce();
     for (;;)
         pause();
 }
 
 [[noreturn]] void compute()
 {
+    announce();
     for (volatile unsigned turn = 0;; turn = turn + 1) {
     }
 }
@@ -60,13 +68,15 @@ void sleepFor(long milliseconds)
 [[noreturn]] void startChildren(const std::string &name)
 {
     std::signal(SIGCHLD, SIG_IGN); // the kernel clears them away
-    for (;;) {
+    for (bool isFirst = true;; isFirst = false) {
         if (fork() == 0) {
             endWithStarter();
             takeName(name);
             sleepFor(400);
             _exit(0);
         }
+        if (isFirst)
+            announce();
         sleepFor(20);
     }
 }
@@ -76,7 +86,7 @@ void sleepFor(long milliseconds)
 {
     prctl(PR_SET_CHILD_SUBREAPER, 1);
     std::signal(SIGCHLD, SIG_IGN);
-    for (;;) {
+    for (bool isFirst = true;; isFirst = false) {
         if (fork() == 0) {
             endWithStarter();
             takeName(name);
@@ -87,6 +97,8 @@ void sleepFor(long milliseconds)
             sleepFor(400);
             _exit(0);
         }
+        if (isFirst)
+            announce();
         sleepFor(200);
     }
 }
@@ -105,8 +117,6 @@ int main(int argc, char *argv[])
     endWithStarter();
     std::signal(SIGUSR1, takeNextName);
     takeName(name);
-    std::puts("ready");
-    std::fflush(stdout);
     if (what == "parent")
         startChildren(name + 'c');
     if (what == "heir")
