@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A process that the desktop tests look for in the process list:
 //   sample_process <name> <what> [<user id>]
-// takes that name (15 bytes of it) and user and then, by <what>, sleeps ("sleep"), computes ("busy"), starts a
-// child called "<name>c" fifty times a second, each of which lives for 0.4 seconds ("parent"), or starts a child
-// five times a second whose own child is left to this one after 0.4 seconds and ends 0.4 seconds later ("heir").
-// It writes a line as soon as it does, with the first child there if it has some. Every one calls itself
-// "<name>n" when it gets SIGUSR1. It ends with the process that started it.
+// takes that name (15 bytes of it) and user and then, by <what>, sleeps ("sleep"), computes ("busy"), starts
+// a child called "<name>c" fifty times a second, each of which lives for 0.4 seconds ("parent"), or starts a
+// child five times a second whose own child is left to this one after 0.4 seconds and ends 0.4 seconds later
+// ("heir"). It writes a line as soon as it does, with the first child there if it has some. Every one calls
+// itself "<name>n" when it gets SIGUSR1. It ends with the process that started it.
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>

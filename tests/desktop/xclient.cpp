@@ -185,6 +185,18 @@ void XClient::toggleMaximized(unsigned long id)
                          long(XInternAtom(m_display, "_NET_WM_STATE_MAXIMIZED_HORZ", False)), fromPager, 0});
 }
 
+QRect XClient::windowRect(unsigned long id) const
+{
+    XWindowAttributes attributes;
+    if (XGetWindowAttributes(m_display, id, &attributes) == 0)
+        return {};
+    int x = 0;
+    int y = 0;
+    Window child = 0;
+    XTranslateCoordinates(m_display, id, attributes.root, 0, 0, &x, &y, &child);
+    return {x, y, attributes.width, attributes.height};
+}
+
 void XClient::mark(unsigned long id, int number)
 {
     XEvent event = {};

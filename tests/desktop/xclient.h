@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 #include <QString>
 
@@ -45,6 +46,9 @@ public:
     void resizeWindow(unsigned long id, const QSize &size);
     void closeWindow(unsigned long id);
     void toggleMaximized(unsigned long id);
+
+    /// Where a window lies on the screen, without its frame; an empty one if there is no such window.
+    QRect windowRect(unsigned long id) const;
 
     /// Sends a window one of the probe's marks (tests/support/probe/inputmarks.h).
     void mark(unsigned long id, int number);

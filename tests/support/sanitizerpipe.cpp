@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The undefined-behaviour sanitizer asks through a pipe whether it may read an object that it sees for the first
-// time, and reports the object as broken when there is no descriptor for one. Where tests take the descriptors
-// away, the sanitizer, and nobody else, gets its two from above the limit.
+// The undefined-behaviour sanitizer asks through a pipe whether it may read an object that it sees for the
+// first time, and reports the object as broken when there is no descriptor for one. Where tests take the
+// descriptors away, the sanitizer, and nobody else, gets its two from above the limit.
 #include <dlfcn.h>
 #include <sys/resource.h>
 #include <unistd.h>
