@@ -68,8 +68,9 @@ public:
     QJsonObject widget(const QString &name);
     QString text(const QString &widgetName); ///< its text
     Table table(const QString &name);
-    QJsonObject dialog();    ///< the active modal dialog; empty if there is none
-    QStringList menuTexts(); ///< of the visible entries of the innermost open menu, without "&"
+    QJsonObject dialog(); ///< the active modal dialog; empty if there is none
+    /// Of the visible entries of the innermost open menu, without "&". A menu that opens is waited for.
+    QStringList menuTexts();
     QJsonObject menuEntry(const QString &text); ///< in an open menu or the menu bar; empty if there is none
     QJsonObject mainWindow();
 

@@ -167,9 +167,13 @@ QJsonObject DesktopSession::menuEntry(const QString &text)
 
 QStringList DesktopSession::menuTexts()
 {
-    const QJsonArray open = probe(QStringLiteral("menu")).value(QLatin1String("menus")).toArray();
-    const QJsonArray actions =
-        open.isEmpty() ? QJsonArray() : open.last()[QLatin1String("actions")].toArray();
+    QJsonValue innermost;
+    waitFor([&] {
+        const QJsonArray open = probe(QStringLiteral("menu")).value(QLatin1String("menus")).toArray();
+        innermost = open.isEmpty() ? QJsonValue() : QJsonValue(open.last());
+        return open.isEmpty() || innermost[QLatin1String("exposed")].toBool();
+    });
+    const QJsonArray actions = innermost[QLatin1String("actions")].toArray();
     QStringList texts;
     for (const QJsonValue &action : actions) {
         if (action[QLatin1String("visible")].toBool() && !action[QLatin1String("separator")].toBool())
