@@ -82,7 +82,8 @@ void TestProcessControl::whatIsNotConfirmedSendsNothing_data()
     const char *const ways[] = {"Cancel", "Escape", "closing", "Enter", "the keypad's Enter"};
     for (const char *const action : actions) {
         for (int way = 0; way < 5; ++way) {
-            QTest::addRow("%s, %s", action, ways[way]) << QString::fromLatin1(action) << way;
+            const QByteArray name = QByteArray(action) + ", " + ways[way];
+            QTest::newRow(name.constData()) << QString::fromLatin1(action) << way;
         }
     }
 }
