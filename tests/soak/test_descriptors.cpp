@@ -65,7 +65,7 @@ private Q_SLOTS:
     void theTickGoesOnWithoutARefresh();
     void withNoneLeftTheSettingsAreSaved();
     void aRefreshKeepsNoDescriptor();
-    void theSanitizersTakeNoDescriptorForABrokenObject();
+    void withNoneLeftTheSanitizersTakeNoSoundObjectForABrokenOne();
 
 private:
     void refreshAll() { QMetaObject::invokeMethod(&fixture->updater(), "update", Q_ARG(bool, true)); }
@@ -166,7 +166,7 @@ void TestDescriptors::aRefreshKeepsNoDescriptor()
 }
 
 // Fails only where the sanitizers are on: it guards what the other functions rely on there.
-void TestDescriptors::theSanitizersTakeNoDescriptorForABrokenObject()
+void TestDescriptors::withNoneLeftTheSanitizersTakeNoSoundObjectForABrokenOne()
 {
     const std::unique_ptr<SeenForTheFirstTime> object(new SeenForTheFirstTime);
     const NoDescriptors none(256);
