@@ -16,7 +16,7 @@ void Updater::refreshProcesses()
     if (sortedBy >= 0) {
         wanted[static_cast<std::size_t>(sortedBy)] = true;
     }
-    filler->setWanted(wanted);
+    filler->setEagerColumns(wanted);
     const auto types = static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes());
     const int selected = selectedPid();
     procModel->refresh(filler->getProcesses(types), 0);

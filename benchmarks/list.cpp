@@ -33,7 +33,7 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     glibtop_init();
     ProcessFiller *const filler = ProcessFiller::instance();
-    filler->setWanted(std::vector<bool>(filler->size(), false));
+    filler->setEagerColumns(std::vector<bool>(filler->size(), false));
     QTreeView view;
     ProxyProcModel list(nullptr);
     list.setView(&view);

@@ -58,10 +58,10 @@ int onProcess(int pid, Call call)
 
 ProcModel::ProcModel(QObject *parent)
     : QAbstractItemModel(parent), root(new ProcItem(QList<QVariant>(), nullptr)), flat(true),
-      columnVisibility(ProcessFiller::instance()->size(), true)
+      columnVisibility(ProcessFiller::instance()->size())
 {
-    for (unsigned long i = gtop_wrappers::VirtualMemoryColumn; i <= gtop_wrappers::ParentPidColumn; ++i) {
-        columnVisibility.at(i) = false;
+    for (unsigned long i = 0; i < columnVisibility.size(); ++i) {
+        columnVisibility[i] = ProcessFiller::instance()->isShownByDefault(i);
     }
     rebuildVisibleColumns();
 }

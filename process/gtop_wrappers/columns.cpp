@@ -1,59 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/columns.h"
 
-#include "process/gtop_wrappers/lazyparams.h"
 #include "process/gtop_wrappers/oneline.h"
+#include "process/gtop_wrappers/textondemand.h"
 
-#include <QCoreApplication>
-
-#include <glibtop/procstate.h>
-#include <pwd.h>
-
-#include <algorithm>
-#include <iterator>
+#include <QtGlobal>
 
 namespace gtop_wrappers {
 
 namespace {
-
-struct StateText
-{
-    int code;
-    const char *text;
-};
-
-const StateText stateTexts[] = {
-    {GLIBTOP_PROCESS_RUNNING, QT_TRANSLATE_NOOP("ProcessFiller", "Running")},
-    {GLIBTOP_PROCESS_INTERRUPTIBLE, QT_TRANSLATE_NOOP("ProcessFiller", "Sleeping")},
-    {GLIBTOP_PROCESS_UNINTERRUPTIBLE, QT_TRANSLATE_NOOP("ProcessFiller", "Uninterruptible")},
-    {GLIBTOP_PROCESS_ZOMBIE, QT_TRANSLATE_NOOP("ProcessFiller", "Zombie")},
-    {GLIBTOP_PROCESS_STOPPED, QT_TRANSLATE_NOOP("ProcessFiller", "Stopped")},
-    {GLIBTOP_PROCESS_SWAPPING, QT_TRANSLATE_NOOP("ProcessFiller", "Swapping")},
-    {GLIBTOP_PROCESS_DEAD, QT_TRANSLATE_NOOP("ProcessFiller", "Dead")},
-};
-
-QString stateText(int code)
-{
-    const auto found = std::find_if(std::begin(stateTexts), std::end(stateTexts),
-                                    [code](const StateText &row) { return row.code == code; });
-    // libgtop gives 0 for the states it has no code for: idle kernel threads, traced processes.
-    return QCoreApplication::translate("ProcessFiller", found != std::end(stateTexts)
-                                                            ? found->text
-                                                            : QT_TRANSLATE_NOOP("ProcessFiller", "Other"));
-}
-
-QString userText(int uid)
-{
-    const passwd *entry = getpwuid(static_cast<uid_t>(uid));
-    return entry ? oneLine(entry->pw_name) : QString::number(static_cast<uid_t>(uid));
-}
-
-void dropUnusedOf(std::map<int, ParamPtr> &params)
-{
-    for (auto it = params.begin(); it != params.end();) {
-        it = it->second.unique() ? params.erase(it) : std::next(it);
-    }
-}
 
 template <auto... Members>
 bool same(const ProcessRecord &before, const ProcessRecord &now)
@@ -61,15 +16,16 @@ bool same(const ProcessRecord &before, const ProcessRecord &now)
     return ((before.*Members == now.*Members) && ...);
 }
 
-template <auto Member>
-ParamPtr makeInt(const ProcessRecord &record, SharedParams &shared)
+/// The process model writes into the CPU value, so each snapshot has its own.
+bool neverSame(const ProcessRecord &, const ProcessRecord &)
 {
-    return shared.number(record.*Member);
+    return false;
 }
 
-ParamPtr makePid(const ProcessRecord &record, SharedParams &)
+template <auto Member>
+ParamPtr makeSharedInt(const ProcessRecord &record, SharedParams &shared)
 {
-    return ParamPtr(new IntProcessParam(record.pid)); // no other process has it
+    return shared.number(record.*Member);
 }
 
 template <auto Member>
@@ -88,9 +44,9 @@ ParamPtr makeCpu(const ProcessRecord &, SharedParams &)
     return ParamPtr(new CpuProcessParam);
 }
 
-bool neverSame(const ProcessRecord &, const ProcessRecord &)
+ParamPtr makePid(const ProcessRecord &record, SharedParams &)
 {
-    return false; // the process model writes into the value, so each snapshot has its own
+    return ParamPtr(new IntProcessParam(record.pid));
 }
 
 ParamPtr makeUser(const ProcessRecord &record, SharedParams &shared)
@@ -118,90 +74,55 @@ ParamPtr makeCommandLine(const ProcessRecord &record, SharedParams &)
     return ParamPtr(new CommandLineProcessParam(record.arguments, record.name));
 }
 
-template <auto Member>
-ParamPtr makeLateSize(const LatePtr &values)
+template <class Param>
+ParamPtr makeOnDemand(const OnDemandPtr &values)
 {
-    return ParamPtr(new LateSizeParam<Member>(values));
+    return ParamPtr(new Param(values));
 }
 
-ParamPtr makeLateNice(const LatePtr &values)
-{
-    return ParamPtr(new LateNiceParam(values));
-}
-
-ParamPtr makeLateCommandLine(const LatePtr &values)
-{
-    return ParamPtr(new LateCommandLineParam(values));
-}
-
-template <auto Member>
-constexpr Column intColumn(const char *name, unsigned reads, decltype(Column::makeLate) late = nullptr)
-{
-    return {name, reads, makeInt<Member>, same<Member>, late};
-}
-
-template <auto Member>
-constexpr Column sizeColumn(const char *name)
-{
-    return {name, ReadMemory, makeSize<Member>, same<Member>, makeLateSize<Member>};
-}
+/// Parent PID: the parent is read by Parents, which does without reading it most of the time.
+constexpr unsigned readByParents = 0;
 
 using Record = ProcessRecord;
 
+// clang-format off
 const std::array<Column, ColumnCount> table = {{
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Name"), ReadState, makeName, same<&Record::name>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU"), ReadTime, makeCpu, neverSame, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "PID"), 0, makePid, same<&Record::pid>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "User"), ReadState, makeUser, same<&Record::user>, nullptr},
-    sizeColumn<&Record::resident>(QT_TRANSLATE_NOOP("ProcessFiller", "Memory")),
-    {QT_TRANSLATE_NOOP("ProcessFiller", "State"), ReadState, makeState, same<&Record::state>, nullptr},
-    sizeColumn<&Record::virtualSize>(QT_TRANSLATE_NOOP("ProcessFiller", "Virtual memory")),
-    sizeColumn<&Record::shared>(QT_TRANSLATE_NOOP("ProcessFiller", "Shared memory")),
-    intColumn<&Record::nice>(QT_TRANSLATE_NOOP("ProcessFiller", "Nice"), ReadUid, makeLateNice),
-    intColumn<&Record::parent>(QT_TRANSLATE_NOOP("ProcessFiller", "Parent PID"), ReadUid),
-    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU time"), ReadTime, makeCpuTime,
-     same<&Record::cpuTime, &Record::frequency>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Started"), ReadTime, makeStarted, same<&Record::started>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Command line"), ReadArguments | ReadState, makeCommandLine,
-     same<&Record::arguments, &Record::name>, makeLateCommandLine},
-    intColumn<&Record::processor>(QT_TRANSLATE_NOOP("ProcessFiller", "Processor"), ReadState),
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Name"), Shown,
+     ReadState, makeName, same<&Record::name>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU"), Shown,
+     ReadTime, makeCpu, neverSame, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "PID"), Shown,
+     0, makePid, same<&Record::pid>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "User"), Shown,
+     ReadState, makeUser, same<&Record::user>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Memory"), Shown,
+     ReadMemory, makeSize<&Record::resident>, same<&Record::resident>,
+     makeOnDemand<OnDemandSizeParam<&Record::resident>>},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "State"), Shown,
+     ReadState, makeState, same<&Record::state>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Virtual memory"), Hidden,
+     ReadMemory, makeSize<&Record::virtualSize>, same<&Record::virtualSize>,
+     makeOnDemand<OnDemandSizeParam<&Record::virtualSize>>},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Shared memory"), Hidden,
+     ReadMemory, makeSize<&Record::shared>, same<&Record::shared>,
+     makeOnDemand<OnDemandSizeParam<&Record::shared>>},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Nice"), Hidden,
+     ReadUid, makeSharedInt<&Record::nice>, same<&Record::nice>, makeOnDemand<OnDemandNiceParam>},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Parent PID"), Hidden,
+     readByParents, makeSharedInt<&Record::parent>, same<&Record::parent>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU time"), Shown,
+     ReadTime, makeCpuTime, same<&Record::cpuTime, &Record::frequency>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Started"), Shown,
+     ReadTime, makeStarted, same<&Record::started>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Command line"), Shown,
+     ReadArguments | ReadState, makeCommandLine, same<&Record::arguments, &Record::name>,
+     makeOnDemand<OnDemandCommandLineParam>},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Processor"), Shown,
+     ReadState, makeSharedInt<&Record::processor>, same<&Record::processor>, nullptr},
 }};
+// clang-format on
 
 } // namespace
-
-ParamPtr SharedParams::user(int uid)
-{
-    ParamPtr &param = users[uid];
-    if (!param) {
-        param.reset(new SimpleProcessParam(userText(uid)));
-    }
-    return param;
-}
-
-ParamPtr SharedParams::state(int code)
-{
-    ParamPtr &param = states[code];
-    if (!param) {
-        param.reset(new IntProcessParam(code, stateText(code)));
-    }
-    return param;
-}
-
-ParamPtr SharedParams::number(int value)
-{
-    ParamPtr &param = numbers[value];
-    if (!param) {
-        param.reset(new IntProcessParam(value));
-    }
-    return param;
-}
-
-void SharedParams::dropUnused()
-{
-    dropUnusedOf(users);
-    dropUnusedOf(states);
-    dropUnusedOf(numbers);
-}
 
 const std::array<Column, ColumnCount> &columns()
 {

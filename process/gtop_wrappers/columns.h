@@ -2,44 +2,29 @@
 #ifndef GTOP_WRAPPERS_COLUMNS_H
 #define GTOP_WRAPPERS_COLUMNS_H
 
-#include "process/gtop_wrappers/latevalues.h"
+#include "process/gtop_wrappers/ondemand.h"
 #include "process/gtop_wrappers/param.h"
 #include "process/gtop_wrappers/process.h"
 #include "process/gtop_wrappers/record.h"
+#include "process/gtop_wrappers/sharedparams.h"
 
 #include <array>
-#include <map>
 
 namespace gtop_wrappers {
 
-/// Values that many processes have in common, made once: the users, the states, small numbers.
-class SharedParams
-{
-public:
-    /// Name of a user, or the number of an unknown one. Looked up when the first process of the user shows
-    /// up.
-    ParamPtr user(int uid);
-    ParamPtr state(int code);
-    ParamPtr number(int value);
-    /// Forgets the values that no process has any more.
-    void dropUnused();
-
-private:
-    std::map<int, ParamPtr> users;
-    std::map<int, ParamPtr> states;
-    std::map<int, ParamPtr> numbers;
-};
+enum DefaultVisibility { Shown, Hidden };
 
 /// One process column.
 struct Column
 {
-    const char *name; ///< untranslated; its translation is in the context ProcessFiller
-    unsigned reads;   ///< what must be read for it (Reads, or-ed)
+    const char *name; ///< untranslated; the translation context is ProcessFiller
+    DefaultVisibility visibility;
+    unsigned reads; ///< Reads, or-ed, that the value is made from
     ParamPtr (*make)(const ProcessRecord &record, SharedParams &shared);
-    /// Whether both records give the same value, so that the first one's can stand for the second.
+    /// Whether both records give the same value, so that the one made from the first can be kept.
     bool (*same)(const ProcessRecord &before, const ProcessRecord &now);
-    /// A value that is read when it is first asked for; null if the column can't be read late.
-    ParamPtr (*makeLate)(const LatePtr &values);
+    /// Makes a value that is read when a cell first asks for it; null for columns that are always read.
+    ParamPtr (*makeOnDemand)(const OnDemandPtr &values);
 };
 
 /// The columns by number (ProcessColumn). A new column is a row here and a number there.

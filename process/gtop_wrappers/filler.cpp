@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/filler.h"
 
-#include "process/gtop_wrappers/processtable.h"
+#include "process/gtop_wrappers/columns.h"
+#include "process/gtop_wrappers/reader.h"
+#include "process/gtop_wrappers/snapshotcache.h"
 
 #include <QCoreApplication>
 
 #include <unistd.h>
 
 #include <optional>
-#include <utility>
 
 namespace gtop_wrappers {
 
-ProcessFiller::ProcessFiller() : table(new ProcessTable)
+ProcessFiller::ProcessFiller() : reader(new ProcessReader), cache(new SnapshotCache)
 {}
 
 ProcessFiller::~ProcessFiller() = default;
@@ -38,18 +39,21 @@ QString ProcessFiller::title(unsigned long i) const
     return i < size() ? QCoreApplication::translate("ProcessFiller", columns()[i].name) : QString();
 }
 
-std::map<int, Process> ProcessFiller::getProcesses(ProcessTypes types)
+bool ProcessFiller::isShownByDefault(unsigned long i) const
 {
-    // A value that is neither of the two lists all, as the first does.
-    const auto user = types == MyProcesses ? std::optional<uid_t>(getuid()) : std::nullopt;
-    std::vector<ProcessRecord> records = readProcesses(user, table->reads());
-    table->complete(records);
-    return table->update(std::move(records));
+    return i < size() && columns()[i].visibility == Shown;
 }
 
-void ProcessFiller::setWanted(const std::vector<bool> &columns)
+std::map<int, Process> ProcessFiller::getProcesses(ProcessTypes types)
 {
-    table->setWanted(columns);
+    // Any value but MyProcesses lists all processes.
+    const auto user = types == MyProcesses ? std::optional<uid_t>(getuid()) : std::nullopt;
+    return cache->snapshot(reader->read(user, cache->eagerReads()));
+}
+
+void ProcessFiller::setEagerColumns(const std::vector<bool> &columns)
+{
+    cache->setEagerColumns(columns);
 }
 
 } // namespace gtop_wrappers

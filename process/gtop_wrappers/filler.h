@@ -10,12 +10,13 @@
 
 namespace gtop_wrappers {
 
-class ProcessTable;
+class ProcessReader;
+class SnapshotCache;
 
 /// Which processes are listed.
 enum ProcessTypes {
     AllProcesses = 0, ///< every process of the machine
-    MyProcesses = 1   ///< those whose User column names the program's real user
+    MyProcesses = 1   ///< those whose effective user, shown in the User column, is the program's real user
 };
 
 /// Reads the processes of the machine through libgtop.
@@ -26,25 +27,28 @@ public:
 
     /// Number of process columns.
     unsigned long size() const;
-    /// Name of column i, the same in every language: settings keys are made from it. Empty past the end.
+    /// Untranslated name of column i, which settings keys are made from. Empty past the end.
     QString name(unsigned long i) const;
-    /// Name of column i in the language of the user interface, for headers and menus. Empty past the end.
+    /// Translated name of column i, for headers and menus. Empty past the end.
     QString title(unsigned long i) const;
-    /// A snapshot keyed by pid; a process that ends while it is read is left out. Values that did not change
-    /// since the last snapshot are the same objects as in it, except those of the CPU column.
+    /// Whether column i is shown until the user chooses otherwise. False past the end.
+    bool isShownByDefault(unsigned long i) const;
+    /// A snapshot keyed by pid, without processes that exit while being read. Values that did not change
+    /// since the last snapshot are the same objects as before, except those of the CPU column.
     std::map<int, Process> getProcesses(ProcessTypes types);
 
-    /// Tells which columns are to be read with the next snapshots because all rows of them will be asked for,
-    /// as for sorting; an empty list (as at the start) or a missing entry means yes. The costly values among
-    /// the others are read when they are first asked for, again after each snapshot. That may be after the
-    /// process has ended: then they stay as last known, or are empty.
-    void setWanted(const std::vector<bool> &columns);
+    /// Chooses the columns that the next snapshots read for all rows, for instance the one that is sorted by.
+    /// Missing entries count as chosen, so an empty list (the initial state) chooses all. The expensive
+    /// values of the others are read on demand, when a cell asks for them, at most once per snapshot. If the
+    /// process has exited by then, they keep what was last read, or are empty.
+    void setEagerColumns(const std::vector<bool> &columns);
 
 private:
     ProcessFiller();
     ~ProcessFiller();
 
-    std::unique_ptr<ProcessTable> table;
+    std::unique_ptr<ProcessReader> reader;
+    std::unique_ptr<SnapshotCache> cache;
 };
 
 } // namespace gtop_wrappers

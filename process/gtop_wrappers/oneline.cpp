@@ -5,9 +5,9 @@ namespace gtop_wrappers {
 
 namespace {
 
-/// Characters without a shape that act on their neighbours or turn the direction of the text; the two joiners
-/// are not among them, scripts and pictures need these.
-bool actsUnseen(QChar c)
+/// Invisible characters that affect their neighbours or the direction of the text; not the two joiners, which
+/// scripts and emoji need.
+bool isInvisibleFormat(QChar c)
 {
     return c.category() == QChar::Other_Format && c != QChar(0x200c) && c != QChar(0x200d);
 }
@@ -15,16 +15,16 @@ bool actsUnseen(QChar c)
 QChar harmless(QChar c)
 {
     if (c.isNull() || c.isSpace()) {
-        return QLatin1Char(' '); // arguments come with a null behind each
+        return QLatin1Char(' '); // a null character ends each argument
     }
-    if (c.category() == QChar::Other_Control || actsUnseen(c)) {
+    if (c.category() == QChar::Other_Control || isInvisibleFormat(c)) {
         return QChar::ReplacementCharacter;
     }
     return c;
 }
 
-/// Beyond 16 bits too, where one character is a pair.
-void replaceUnseenPairs(QString &text)
+/// The same for characters beyond the BMP, which are surrogate pairs.
+void replaceInvisiblePairs(QString &text)
 {
     for (int i = 0; i + 1 < text.size(); ++i) {
         const bool isPair = text.at(i).isHighSurrogate() && text.at(i + 1).isLowSurrogate();
@@ -35,7 +35,7 @@ void replaceUnseenPairs(QString &text)
     }
 }
 
-void shorten(QString &text)
+void truncate(QString &text)
 {
     if (text.size() <= longestText) {
         return;
@@ -51,17 +51,17 @@ void shorten(QString &text)
 
 QString oneLine(const QByteArray &bytes)
 {
-    // Titles that a process writes over its arguments are padded to the room these had.
+    // A title that a process writes over its arguments is padded to their size.
     int end = bytes.size();
     while (end > 0 && (bytes[end - 1] == '\0' || bytes[end - 1] == ' ')) {
         --end;
     }
     QString text = QString::fromUtf8(bytes.constData(), end);
-    shorten(text);
+    truncate(text);
     for (QChar &c : text) {
         c = harmless(c);
     }
-    replaceUnseenPairs(text);
+    replaceInvisiblePairs(text);
     return text;
 }
 

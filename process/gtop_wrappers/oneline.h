@@ -7,12 +7,12 @@
 
 namespace gtop_wrappers {
 
-/// The longest text of a cell in UTF-16 units, wider than any screen; a longer one ends in an ellipsis.
+/// Longest text of a cell in UTF-16 units, wider than any screen; longer ones are truncated with an ellipsis.
 constexpr int longestText = 1024;
 
-/// Bytes that a process chose itself (its name, its arguments) as one harmless line for the eye: blanks at
-/// the end fall away, line breaks and the like become blanks, and what is no visible text (broken UTF-8,
-/// control characters, marks that turn the direction of what follows) becomes U+FFFD.
+/// Bytes that a process chose itself (its name, its arguments) as one line that is safe to show: trailing
+/// blanks are dropped, line breaks and other white space become blanks, and invalid UTF-8, control characters
+/// and invisible formatting characters (such as direction marks) become U+FFFD.
 QString oneLine(const QByteArray &bytes);
 
 } // namespace gtop_wrappers

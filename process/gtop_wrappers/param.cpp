@@ -45,7 +45,7 @@ QVariant IntProcessParam::sortValue() const
     return number;
 }
 
-CpuProcessParam::CpuProcessParam() : load(0.0), textIsDue(false)
+CpuProcessParam::CpuProcessParam() : load(0.0), textIsMissing(false)
 {}
 
 double CpuProcessParam::percent() const
@@ -62,12 +62,12 @@ void CpuProcessParam::showPercent(double percent)
 {
     load = percent;
     display = QVariant();
-    textIsDue = true;
+    textIsMissing = true;
 }
 
 QVariant CpuProcessParam::displayValue() const
 {
-    if (textIsDue && !display.isValid()) {
+    if (textIsMissing && !display.isValid()) {
         display = QString::number(load, 'f', 1) + QStringLiteral(" %");
     }
     return display;

@@ -27,7 +27,7 @@ protected:
     IProcessParam(const IProcessParam &) = default;
     IProcessParam &operator=(const IProcessParam &) = default;
 
-    // Mutable for those that make their text only when it is first shown.
+    // Mutable for subclasses that make their text on demand.
     mutable QVariant display;
 };
 
@@ -40,7 +40,7 @@ public:
     explicit SimpleProcessParam(const QString &text);
 };
 
-/// A column value with a 32-bit integer behind its text; sorts by the integer.
+/// A column value that carries a 32-bit integer and sorts by it.
 class IntProcessParam : public IProcessParam
 {
 public:
@@ -61,18 +61,17 @@ public:
     CpuProcessParam();
 
     double percent() const;
+    /// Sets the percentage alone. Only tests call it; the interface of a column value has it.
     void setPercent(double percent);
-    /// Sets the percentage, and as display value its text with one decimal and " %", which is made when it is
-    /// first asked for.
+    /// Sets the percentage and, as display value, its text with one decimal and " %", made on demand.
     void showPercent(double percent);
     QVariant displayValue() const override;
-    /// The percentage; for one that is not a number, a value below all others, so that sorting stays an
-    /// order.
+    /// The percentage; NaN sorts below everything else, since comparing it would break the order.
     QVariant sortValue() const override;
 
 private:
     double load;
-    bool textIsDue;
+    bool textIsMissing;
 };
 
 } // namespace gtop_wrappers

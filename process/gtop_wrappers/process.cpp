@@ -11,7 +11,7 @@ int Process::pid() const
     return id;
 }
 
-// Whoever keeps a process keeps pid and values only, so these three must be found in the values.
+// These come from the column values because callers copy only `id` and `params` when they keep a process.
 
 int Process::getPPid() const
 {

@@ -39,13 +39,13 @@ public:
     int getPPid() const;
     /// Name as the Name column shows it; empty without values.
     QString getName() const;
-    /// Cumulative user plus system time in the unit of libgtop's total CPU time, its low 32 bits (so the sign
-    /// means nothing), from the CPU time column; 0 without values.
+    /// Cumulative user plus system time in the unit of libgtop's total CPU time, truncated to 32 bits, so the
+    /// sign is meaningless. From the CPU time column; 0 without values.
     int getCpuLoad() const;
     /// Value of column i; an empty pointer where there is none.
     ParamPtr getParam(unsigned long i) const;
 
-    // The two members stand in this order and are copied directly by those who keep a process.
+    // Public and in this order, because callers that keep a process copy them directly.
     int id;
     std::vector<ParamPtr> params;
 

@@ -17,7 +17,7 @@ namespace gtop_wrappers {
 
 namespace {
 
-/// Enough for the longest text of a cell, however its characters are encoded, and to see that there is more.
+/// Enough for the longest text of a cell in any encoding, and for one byte that tells that it is truncated.
 constexpr unsigned argumentBytes = 4 * longestText + 1;
 
 constexpr guint64 flag(unsigned field)
@@ -40,7 +40,8 @@ bool has(guint64 flags, guint64 fields)
     return (flags & fields) == fields;
 }
 
-bool complete(unsigned reads, const RawProcess &raw)
+/// libgtop leaves out the flags of fields that it could not read.
+bool hasAllFields(unsigned reads, const RawProcess &raw)
 {
     return (!(reads & ReadState) || has(raw.state.flags, stateFields)) &&
            (!(reads & ReadUid) || has(raw.uid.flags, uidFields)) &&
@@ -62,25 +63,25 @@ void readArguments(int pid, RawProcess &raw)
     raw.arguments = bytes ? QByteArray(bytes.get(), static_cast<int>(size)) : QByteArray();
 }
 
-/// libgtop looks for the times of each CPU in a file that no kernel has had for decades, unless there is only
-/// one CPU. Leaving that out for as long as this call takes saves a tenth of a snapshot.
+/// glibtop_get_proc_time() also looks for per-CPU times in a file that no kernel has had for decades, unless
+/// the machine has one CPU only. Pretending that saves a tenth of a snapshot.
 void readTimes(int pid, glibtop_proc_time &times)
 {
-    glibtop *const server = glibtop_init();
+    glibtop *server = glibtop_init();
     const int lastCpu = std::exchange(server->ncpu, 0);
     glibtop_get_proc_time(&times, pid);
     server->ncpu = lastCpu;
 }
 
-/// Fills in what these reads have brought.
-void take(unsigned reads, const RawProcess &raw, ProcessRecord &record)
+/// Copies what these reads returned.
+void fillFrom(unsigned reads, const RawProcess &raw, ProcessRecord &record)
 {
     if (reads & ReadState) {
         record.name =
             QByteArray(raw.state.cmd, static_cast<int>(strnlen(raw.state.cmd, sizeof raw.state.cmd)));
         record.state = static_cast<int>(raw.state.state);
         record.user = raw.state.uid;
-        // libgtop reads it without a flag of its own. From 1, as the cores of the System page are counted.
+        // libgtop has no flag for it. Counted from 1 like the cores on the System page.
         record.processor = std::clamp(raw.state.last_processor, -1, std::numeric_limits<int>::max() - 1) + 1;
     }
     if (reads & ReadUid) {
@@ -94,12 +95,21 @@ void take(unsigned reads, const RawProcess &raw, ProcessRecord &record)
     }
     if (reads & ReadMemory) {
         record.resident = raw.memory.resident;
-        record.virtualSize = raw.memory.size; // libgtop's flags promise this one, not its twin vsize
+        record.virtualSize = raw.memory.size; // vsize is the same, but not covered by libgtop's flags
         record.shared = raw.memory.share;
     }
     if (reads & ReadArguments) {
         record.arguments = raw.arguments;
     }
+}
+
+/// Makes further reads of the same process; false if it has exited. Its start is read last: if it is
+/// unchanged by then, everything before was read from the same process.
+bool readSame(const ProcessRecord &record, unsigned reads, RawProcess &raw)
+{
+    readRaw(record.pid, reads & ~ReadTime, raw);
+    readRaw(record.pid, ReadTime, raw);
+    return hasAllFields(reads | ReadTime, raw) && raw.time.start_time == record.started;
 }
 
 } // namespace
@@ -137,28 +147,36 @@ void readRaw(int pid, unsigned reads, RawProcess &raw)
     }
 }
 
-bool reduce(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &record)
+bool toRecord(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &record)
 {
-    if (!complete(reads, raw)) {
+    if (!hasAllFields(reads, raw)) {
         return false;
     }
     record = ProcessRecord();
     record.pid = pid;
-    record.late = ReadEverything & ~reads;
-    take(reads, raw, record);
+    record.unread = ReadEverything & ~reads;
+    fillFrom(reads, raw, record);
     return true;
 }
 
-bool readAlso(unsigned reads, ProcessRecord &record)
+bool readMissing(unsigned reads, ProcessRecord &record)
 {
     RawProcess raw;
-    readRaw(record.pid, reads, raw);
-    readRaw(record.pid, ReadTime, raw); // last: the process that is still there is the one that was read
-    if (!complete(reads | ReadTime, raw) || raw.time.start_time != record.started) {
+    if (!readSame(record, reads, raw)) {
         return false;
     }
-    take(reads, raw, record);
-    record.late &= ~reads;
+    fillFrom(reads, raw, record);
+    record.unread &= ~reads;
+    return true;
+}
+
+bool readParent(ProcessRecord &record)
+{
+    RawProcess raw;
+    if (!readSame(record, ReadUid, raw)) {
+        return false;
+    }
+    record.parent = raw.uid.ppid;
     return true;
 }
 
@@ -176,11 +194,19 @@ std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned rea
             continue;
         }
         readRaw(pid, reads & ~first, raw);
-        if (reduce(pid, reads | first, raw, record)) {
+        if (toRecord(pid, reads | first, raw, record)) {
             records.push_back(std::move(record));
         }
     }
     return records;
+}
+
+void dropRecords(const std::vector<int> &pids, std::vector<ProcessRecord> &records)
+{
+    const auto isDropped = [&pids](const ProcessRecord &record) {
+        return std::binary_search(pids.begin(), pids.end(), record.pid);
+    };
+    records.erase(std::remove_if(records.begin(), records.end(), isDropped), records.end());
 }
 
 } // namespace gtop_wrappers

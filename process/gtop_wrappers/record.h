@@ -16,7 +16,7 @@
 
 namespace gtop_wrappers {
 
-/// The libgtop calls that reading a process can take; they are what a refresh costs, so none is made in vain.
+/// The libgtop calls that read a process. They are most of what a refresh costs, so none is made in vain.
 enum Reads : unsigned {
     ReadState = 1, ///< name, state, effective user, processor
     ReadUid = 2,   ///< parent, nice value
@@ -26,7 +26,7 @@ enum Reads : unsigned {
     ReadEverything = 31
 };
 
-/// libgtop's answers about one process; only those of the calls that were made mean anything.
+/// libgtop's answers about one process; only those of the calls that were made are meaningful.
 struct RawProcess
 {
     glibtop_proc_state state;
@@ -37,11 +37,11 @@ struct RawProcess
     QByteArray arguments;
 };
 
-/// What the columns are made from; what was not read has the value given here.
+/// What was read of one process in one snapshot. Fields that were not read have the values given here.
 struct ProcessRecord
 {
     int pid = -1;
-    QByteArray name; ///< as the kernel has it: at most 15 bytes of any kind
+    QByteArray name; ///< as the kernel has it: at most 15 arbitrary bytes
     int state = 0;   ///< libgtop's code
     int user = -1;   ///< effective user id
     int parent = 0;
@@ -53,29 +53,35 @@ struct ProcessRecord
     quint64 resident = 0;  ///< this and the next two in bytes
     quint64 virtualSize = 0;
     quint64 shared = 0;
-    QByteArray arguments;     ///< the beginning of them, a null character behind each
-    bool parentHolds = false; ///< the parent can't change before it ends in sight
-    unsigned late = 0; ///< reads (Reads, or-ed) that were not made, and are left for when they are asked for
+    QByteArray arguments; ///< truncated; each argument ends with a null character
+    unsigned unread = 0;  ///< Reads, or-ed, that were not made
 };
 
-/// The pids that libgtop lists, ascending, each once.
+/// The pids that libgtop lists, ascending and without duplicates.
 std::vector<int> readPids();
 
 /// Makes the calls in `reads` (Reads, or-ed) for one process.
 void readRaw(int pid, unsigned reads, RawProcess &raw);
 
-/// What was read in short; false if the process ended before all of it was there, which libgtop shows by a
-/// record without the flags of its fields.
-bool reduce(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &record);
+/// Condenses the raw answers into `record`; false if required fields are missing, that is, the process exited
+/// while being read.
+bool toRecord(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &record);
 
-/// Makes further reads (Reads, or-ed) for a process whose start has been read. False, and nothing changed, if
-/// it has ended meanwhile, also if its pid has gone to a process with another start.
-bool readAlso(unsigned reads, ProcessRecord &record);
+/// Makes further reads (Reads, or-ed) for a process whose start is known. False, with the record unchanged,
+/// if it has exited, even if its pid has been reused.
+bool readMissing(unsigned reads, ProcessRecord &record);
 
-/// Reads the processes, ascending by pid, without those that end meanwhile.
-/// user: only those of this effective user id, which costs less than asking each for its real one; none for
-/// all.
+/// Reads the parent only: the nice value, which comes with the same call, still counts as unread. False as
+/// for readMissing().
+bool readParent(ProcessRecord &record);
+
+/// Reads the processes, ascending by pid, without those that exit in the meantime.
+/// user: only the processes of this effective user id, which is cheaper to read than the real one; none for
+/// all processes.
 std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned reads);
+
+/// Removes the records of these pids, which are ascending.
+void dropRecords(const std::vector<int> &pids, std::vector<ProcessRecord> &records);
 
 } // namespace gtop_wrappers
 

@@ -8,26 +8,25 @@ namespace gtop_wrappers {
 
 void StartClock::see(quint64 started, Time now)
 {
-    if (started > secondAt(now)) {
-        newest = started;
+    if (started > earliestSecondAt(now)) {
+        latestStart = started;
         seenAt = now;
     }
 }
 
-bool StartClock::isOver(quint64 started, Time now) const
+bool StartClock::secondIsOver(quint64 started, Time now) const
 {
-    return started < secondAt(now);
+    return started < earliestSecondAt(now);
 }
 
-/// The earliest second that `now` can be in.
-quint64 StartClock::secondAt(Time now) const
+quint64 StartClock::earliestSecondAt(Time now) const
 {
-    if (newest == 0 || now < seenAt) {
-        return newest;
+    if (latestStart == 0 || now < seenAt) {
+        return latestStart;
     }
     const auto elapsed =
         static_cast<quint64>(std::chrono::duration_cast<std::chrono::seconds>(now - seenAt).count());
-    return newest + std::min(elapsed, std::numeric_limits<quint64>::max() - newest);
+    return latestStart + std::min(elapsed, std::numeric_limits<quint64>::max() - latestStart);
 }
 
 } // namespace gtop_wrappers

@@ -8,23 +8,25 @@
 
 namespace gtop_wrappers {
 
-/// Tells whether the second in which a process started is over. While it is not, pid and start do not name a
-/// process: it may end, and another take its pid with the same start. Reckons from the starts it is told
-/// alone, since the wall clock may be set.
+/// Tells whether the second in which a process started is over.
+///
+/// Start times are whole seconds. Until that second is over, pid and start do not identify a process: it may
+/// exit and its pid be reused within the same second. The wall clock can be set and is no help, so the
+/// current second is estimated from below: the latest start seen so far, plus the time that has passed since.
 class StartClock
 {
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    /// At `now` a process that started then (seconds since the epoch) is known to exist.
+    /// Notes that a process seen at `now` started at `started` (seconds since the epoch).
     void see(quint64 started, Time now);
-    /// Whether that second was over at `now`; false if in doubt.
-    bool isOver(quint64 started, Time now) const;
+    /// Whether the second `started` was certainly over at `now`.
+    bool secondIsOver(quint64 started, Time now) const;
 
 private:
-    quint64 secondAt(Time now) const;
+    quint64 earliestSecondAt(Time now) const;
 
-    quint64 newest = 0;
+    quint64 latestStart = 0;
     Time seenAt;
 };
 

@@ -185,9 +185,9 @@ void TestFiller::columnNotWantedIsReadWhenItIsAskedFor()
 {
     std::vector<bool> wanted(filler()->size(), true);
     wanted[CommandLineColumn] = false;
-    filler()->setWanted(wanted);
+    filler()->setEagerColumns(wanted);
     const Process without = filler()->getProcesses(MyProcesses).at(getpid());
-    filler()->setWanted({});
+    filler()->setEagerColumns({});
     QVERIFY(without.getParam(CommandLineColumn)
                 ->displayValue()
                 .toString()

@@ -110,7 +110,7 @@ private Q_SLOTS:
 
 void TestLateProcesses::init()
 {
-    ProcessFiller::instance()->setWanted(std::vector<bool>(ColumnCount, false));
+    ProcessFiller::instance()->setEagerColumns(std::vector<bool>(ColumnCount, false));
 }
 
 void TestLateProcesses::exec()

@@ -76,7 +76,7 @@ private Q_SLOTS:
 
 void TestLateValues::init()
 {
-    ProcessFiller::instance()->setWanted(std::vector<bool>(ColumnCount, false));
+    ProcessFiller::instance()->setEagerColumns(std::vector<bool>(ColumnCount, false));
     machine().processes.emplace();
     snapshot(); // forgets the processes of the test before
     machine().processes = {{1, processOf(0, now - 100)},
@@ -230,7 +230,7 @@ void TestLateValues::wantedColumnsAreReadWithTheSnapshot()
 {
     std::vector<bool> wanted(ColumnCount, false);
     wanted[MemoryColumn] = true;
-    ProcessFiller::instance()->setWanted(wanted);
+    ProcessFiller::instance()->setEagerColumns(wanted);
     const Process process = snapshot().at(11);
     made(11).resident = 2048;
     QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
@@ -241,19 +241,19 @@ void TestLateValues::secondIsOverOnlyWhenThatIsCertain()
     using std::chrono::milliseconds;
     const StartClock::Time start{};
     StartClock clock;
-    QVERIFY(!clock.isOver(0, start));
+    QVERIFY(!clock.secondIsOver(0, start));
     clock.see(100, start);
-    QVERIFY(clock.isOver(99, start));
-    QVERIFY(!clock.isOver(100, start));
-    QVERIFY(!clock.isOver(100, start + milliseconds(999)));
-    QVERIFY(clock.isOver(100, start + milliseconds(1000)));
-    QVERIFY(!clock.isOver(101, start + milliseconds(1000)));
+    QVERIFY(clock.secondIsOver(99, start));
+    QVERIFY(!clock.secondIsOver(100, start));
+    QVERIFY(!clock.secondIsOver(100, start + milliseconds(999)));
+    QVERIFY(clock.secondIsOver(100, start + milliseconds(1000)));
+    QVERIFY(!clock.secondIsOver(101, start + milliseconds(1000)));
     clock.see(101, start + milliseconds(1500)); // no news: the second at hand is at least 101
-    QVERIFY(clock.isOver(101, start + milliseconds(2000)));
+    QVERIFY(clock.secondIsOver(101, start + milliseconds(2000)));
     clock.see(110, start + milliseconds(2000));
-    QVERIFY(!clock.isOver(110, start + milliseconds(2999)));
+    QVERIFY(!clock.secondIsOver(110, start + milliseconds(2999)));
     clock.see(std::numeric_limits<quint64>::max(), start + milliseconds(3000));
-    QVERIFY(!clock.isOver(std::numeric_limits<quint64>::max(), start + milliseconds(9000)));
+    QVERIFY(!clock.secondIsOver(std::numeric_limits<quint64>::max(), start + milliseconds(9000)));
 }
 
 QTEST_GUILESS_MAIN(TestLateValues)

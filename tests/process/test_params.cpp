@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/gtop_wrappers/lazyparams.h"
+#include "process/gtop_wrappers/textondemand.h"
 #include "process/gtop_wrappers/param.h"
 
 #include <QtTest>
@@ -16,7 +16,7 @@ namespace {
 constexpr quint64 highest = std::numeric_limits<quint64>::max();
 
 /// Counts how often its text is made.
-class CountingParam : public LazyProcessParam
+class CountingParam : public TextOnDemandParam
 {
 public:
     mutable int made = 0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/gtop_wrappers/lazyparams.h"
+#include "process/gtop_wrappers/textondemand.h"
 #include "process/gtop_wrappers/process.h"
 
 #include <QtTest>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/gtop_wrappers/processtable.h"
+#include "process/gtop_wrappers/snapshotcache.h"
 
 #include <QCoreApplication>
 #include <QtTest>
@@ -37,8 +37,8 @@ ProcessRecord recordOf(int pid)
 
 Process made(const ProcessRecord &record)
 {
-    ProcessTable table;
-    return table.update({record}).at(record.pid);
+    SnapshotCache table;
+    return table.snapshot({record}).at(record.pid);
 }
 
 QString shown(const Process &process, ProcessColumn column)
@@ -181,9 +181,9 @@ void TestProcessTable::userIsNamedOrNumbered()
 
 void TestProcessTable::unchangedValuesAreTheSameObjects()
 {
-    ProcessTable table;
-    const Process before = table.update({recordOf(42)}).at(42);
-    const Process now = table.update({recordOf(42)}).at(42);
+    SnapshotCache table;
+    const Process before = table.snapshot({recordOf(42)}).at(42);
+    const Process now = table.snapshot({recordOf(42)}).at(42);
     for (unsigned long i = 0; i < ColumnCount; ++i) {
         // The process model writes into the CPU value, so that one must not be shared between snapshots.
         QCOMPARE(now.getParam(i) == before.getParam(i), i != CpuColumn);
@@ -216,11 +216,11 @@ void TestProcessTable::changedValuesAreMadeAnew()
 {
     QFETCH(std::function<void(ProcessRecord &)>, change);
     QFETCH(QVector<int>, columns);
-    ProcessTable table;
-    const Process before = table.update({recordOf(42)}).at(42);
+    SnapshotCache table;
+    const Process before = table.snapshot({recordOf(42)}).at(42);
     ProcessRecord record = recordOf(42);
     change(record);
-    const Process now = table.update({record}).at(42);
+    const Process now = table.snapshot({record}).at(42);
     const Process alone = made(record);
     for (unsigned long i = 0; i < ColumnCount; ++i) {
         const bool changed = i == CpuColumn || columns.contains(int(i));
@@ -232,14 +232,14 @@ void TestProcessTable::changedValuesAreMadeAnew()
 
 void TestProcessTable::reusedPidShowsNothingOfTheProcessBefore()
 {
-    ProcessTable table;
-    table.update({recordOf(42)});
+    SnapshotCache table;
+    table.snapshot({recordOf(42)});
     ProcessRecord other = recordOf(42);
     other.name = "sh";
     other.cpuTime = 1;
     other.started += 5;
     other.arguments.clear();
-    const Process now = table.update({other}).at(42);
+    const Process now = table.snapshot({other}).at(42);
     QCOMPARE(now.getName(), QStringLiteral("sh"));
     QCOMPARE(now.getCpuLoad(), 1);
     QCOMPARE(sorted(now, StartedColumn), QVariant(quint64(1700000005)));
@@ -248,10 +248,10 @@ void TestProcessTable::reusedPidShowsNothingOfTheProcessBefore()
 
 void TestProcessTable::vanishedProcessesAreForgotten()
 {
-    ProcessTable table;
+    SnapshotCache table;
     std::vector<std::tr1::weak_ptr<IProcessParam>> values;
     {
-        const auto snapshot = table.update({recordOf(42), recordOf(43)});
+        const auto snapshot = table.snapshot({recordOf(42), recordOf(43)});
         for (const ParamPtr &param : snapshot.at(42).params) {
             values.emplace_back(param);
         }
@@ -262,7 +262,7 @@ void TestProcessTable::vanishedProcessesAreForgotten()
     left.parent = 20;
     left.nice = 10;
     left.processor = 30;
-    QCOMPARE(table.update({left}).size(), std::size_t(1));
+    QCOMPARE(table.snapshot({left}).size(), std::size_t(1));
     for (const auto &value : values) {
         QVERIFY(value.expired());
     }
@@ -270,8 +270,8 @@ void TestProcessTable::vanishedProcessesAreForgotten()
 
 void TestProcessTable::processesShareUserStateAndSmallNumbers()
 {
-    ProcessTable table;
-    const auto snapshot = table.update({recordOf(42), recordOf(43)});
+    SnapshotCache table;
+    const auto snapshot = table.snapshot({recordOf(42), recordOf(43)});
     for (const ProcessColumn column :
          {UserColumn, StateColumn, NiceColumn, ParentPidColumn, ProcessorColumn}) {
         QCOMPARE(snapshot.at(42).getParam(column).get(), snapshot.at(43).getParam(column).get());
@@ -280,10 +280,10 @@ void TestProcessTable::processesShareUserStateAndSmallNumbers()
 
 void TestProcessTable::snapshotHasThePidsOfTheRecords()
 {
-    ProcessTable table;
+    SnapshotCache table;
     const auto pids = [&table](std::vector<ProcessRecord> records) {
         QVector<int> keys;
-        for (const auto &entry : table.update(std::move(records))) {
+        for (const auto &entry : table.snapshot(std::move(records))) {
             keys.append(entry.first == entry.second.pid() ? entry.first : -1);
         }
         return keys;
@@ -355,17 +355,17 @@ void TestProcessTable::onlyCostlyReadsAreLeftOut_data()
 void TestProcessTable::onlyCostlyReadsAreLeftOut()
 {
     QFETCH(std::vector<bool>, wanted);
-    ProcessTable table;
-    table.setWanted(wanted);
-    QTEST(table.reads(), "reads");
+    SnapshotCache table;
+    table.setEagerColumns(wanted);
+    QTEST(table.eagerReads(), "reads");
 }
 
 void TestProcessTable::everyColumnIsFilledWhateverWasLeftOut()
 {
-    ProcessTable table;
+    SnapshotCache table;
     ProcessRecord partly = recordOf(42);
-    partly.late = ReadMemory | ReadArguments | ReadUid;
-    const Process process = table.update({partly}).at(42);
+    partly.unread = ReadMemory | ReadArguments | ReadUid;
+    const Process process = table.snapshot({partly}).at(42);
     for (unsigned long i = 0; i < ColumnCount; ++i) {
         QVERIFY(process.getParam(i));
     }
@@ -376,14 +376,14 @@ void TestProcessTable::everyColumnIsFilledWhateverWasLeftOut()
 
 void TestProcessTable::changeBetweenAtOnceAndLate()
 {
-    ProcessTable table;
-    const Process first = table.update({recordOf(42)}).at(42);
+    SnapshotCache table;
+    const Process first = table.snapshot({recordOf(42)}).at(42);
     ProcessRecord partly = recordOf(42);
-    partly.late = ReadMemory;
-    const Process late = table.update({partly}).at(42);
+    partly.unread = ReadMemory;
+    const Process late = table.snapshot({partly}).at(42);
     QVERIFY(late.getParam(MemoryColumn) != first.getParam(MemoryColumn));
     QCOMPARE(late.getParam(CommandLineColumn), first.getParam(CommandLineColumn));
-    const Process again = table.update({recordOf(42)}).at(42);
+    const Process again = table.snapshot({recordOf(42)}).at(42);
     QCOMPARE(shown(again, MemoryColumn), QStringLiteral("1.00 KB"));
     QCOMPARE(shown(first, MemoryColumn), QStringLiteral("1.00 KB"));
 }

@@ -92,7 +92,7 @@ private Q_SLOTS:
 void TestRecords::fieldsComeFromLibgtopsRecords()
 {
     ProcessRecord record;
-    QVERIFY(reduce(42, everything, rawProcess(), record));
+    QVERIFY(toRecord(42, everything, rawProcess(), record));
     QCOMPARE(record.pid, 42);
     QCOMPARE(record.name, QByteArray("bash"));
     QCOMPARE(record.state, 16);
@@ -111,8 +111,8 @@ void TestRecords::fieldsComeFromLibgtopsRecords()
 void TestRecords::nothingIsLeftOfTheProcessBefore()
 {
     ProcessRecord record;
-    QVERIFY(reduce(42, everything, rawProcess(), record));
-    QVERIFY(reduce(43, 0, rawProcess(), record));
+    QVERIFY(toRecord(42, everything, rawProcess(), record));
+    QVERIFY(toRecord(43, 0, rawProcess(), record));
     QCOMPARE(record.pid, 43);
     QCOMPARE(record.name, QByteArray());
     QCOMPARE(record.resident, quint64(0));
@@ -150,7 +150,7 @@ void TestRecords::endedWhileReadIsLeftOut()
         raw.argumentsInfo = {};
     }
     ProcessRecord record;
-    QVERIFY(!reduce(42, everything, raw, record));
+    QVERIFY(!toRecord(42, everything, raw, record));
 }
 
 void TestRecords::recordsNotAskedForAreNotLookedAt()
@@ -159,7 +159,7 @@ void TestRecords::recordsNotAskedForAreNotLookedAt()
     raw.memory = {};
     raw.argumentsInfo = {};
     ProcessRecord record;
-    QVERIFY(reduce(42, ReadState | ReadUid | ReadTime, raw, record));
+    QVERIFY(toRecord(42, ReadState | ReadUid | ReadTime, raw, record));
     QCOMPARE(record.arguments, QByteArray());
 }
 
@@ -168,7 +168,7 @@ void TestRecords::nameWithoutItsEndIsBounded()
     RawProcess raw = rawProcess();
     std::fill(std::begin(raw.state.cmd), std::end(raw.state.cmd), 'x');
     ProcessRecord record;
-    QVERIFY(reduce(42, everything, raw, record));
+    QVERIFY(toRecord(42, everything, raw, record));
     QCOMPARE(record.name, QByteArray(sizeof raw.state.cmd, 'x'));
 }
 
@@ -183,17 +183,17 @@ void TestRecords::extremesAreTaken()
     raw.time.utime = raw.time.stime = raw.time.start_time = raw.time.frequency = highest;
     raw.memory.size = raw.memory.resident = raw.memory.share = highest;
     ProcessRecord record;
-    QVERIFY(reduce(42, everything, raw, record));
+    QVERIFY(toRecord(42, everything, raw, record));
     QCOMPARE(record.state, -1);
     QCOMPARE(record.user, -1);
     QCOMPARE(record.parent, std::numeric_limits<int>::max());
     QCOMPARE(record.nice, std::numeric_limits<int>::min());
     QCOMPARE(record.processor, std::numeric_limits<int>::max());
     raw.state.last_processor = -7;
-    QVERIFY(reduce(42, everything, raw, record));
+    QVERIFY(toRecord(42, everything, raw, record));
     QCOMPARE(record.processor, 0);
     raw.state.last_processor = 0;
-    QVERIFY(reduce(42, everything, raw, record));
+    QVERIFY(toRecord(42, everything, raw, record));
     QCOMPARE(record.processor, 1);
     QCOMPARE(record.cpuTime, quint64(highest - 1)); // wrapped, as unsigned counters do
     QCOMPARE(record.resident, quint64(highest));
@@ -206,7 +206,7 @@ void TestRecords::realProcessThatEndedIsLeftOut()
         RawProcess raw;
         ProcessRecord record;
         readRaw(pid, reads, raw);
-        QVERIFY2(!reduce(pid, reads, raw, record), QByteArray::number(reads).constData());
+        QVERIFY2(!toRecord(pid, reads, raw, record), QByteArray::number(reads).constData());
     }
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#ifndef GTOP_WRAPPERS_LAZYPARAMS_H
-#define GTOP_WRAPPERS_LAZYPARAMS_H
+#ifndef GTOP_WRAPPERS_TEXTONDEMAND_H
+#define GTOP_WRAPPERS_TEXTONDEMAND_H
 
 #include "process/gtop_wrappers/param.h"
 
@@ -8,8 +8,9 @@
 
 namespace gtop_wrappers {
 
-/// A column value whose text is made when it is first shown: most cells of a long list never are.
-class LazyProcessParam : public IProcessParam
+/// A column value whose text is made when it is first shown: most cells of a long list never are. The value
+/// itself was read with the snapshot (for those read later, see ondemand.h).
+class TextOnDemandParam : public IProcessParam
 {
 public:
     QVariant displayValue() const override;
@@ -19,7 +20,7 @@ protected:
 };
 
 /// A number that sorts as an unsigned 64-bit integer.
-class NumberProcessParam : public LazyProcessParam
+class NumberProcessParam : public TextOnDemandParam
 {
 public:
     explicit NumberProcessParam(quint64 value);
@@ -53,7 +54,7 @@ private:
     quint64 perSecond;
 };
 
-/// A time in seconds since the epoch, shown as local date and time, or as unknown if no calendar has it.
+/// A time in seconds since the epoch, shown as local date and time, or as "Unknown" if it is 0 or after 9999.
 class StartedProcessParam : public NumberProcessParam
 {
 public:
@@ -64,10 +65,10 @@ protected:
 };
 
 /// The arguments of a process, or its name in brackets if it has none (kernel threads, zombies).
-class CommandLineProcessParam : public LazyProcessParam
+class CommandLineProcessParam : public TextOnDemandParam
 {
 public:
-    /// arguments: as the kernel gives them, with a null character behind each.
+    /// arguments: as the kernel returns them; each ends with a null character.
     CommandLineProcessParam(const QByteArray &arguments, const QByteArray &name);
 
 protected:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/gtop_wrappers/lazyparams.h"
+#include "process/gtop_wrappers/textondemand.h"
 
 #include "fs/sizetostr.h"
 #include "process/gtop_wrappers/oneline.h"
@@ -9,7 +9,7 @@
 
 namespace gtop_wrappers {
 
-QVariant LazyProcessParam::displayValue() const
+QVariant TextOnDemandParam::displayValue() const
 {
     if (!display.isValid()) {
         display = text();
@@ -52,7 +52,7 @@ QString StartedProcessParam::text() const
     if (number == 0 || number > endOfYear9999) {
         return QCoreApplication::translate("ProcessFiller", "Unknown");
     }
-    // Always with the date: a text that leaves it out for today would be wrong after midnight.
+    // Always with the date: leaving it out for today would be wrong after midnight.
     return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(number))
         .toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }

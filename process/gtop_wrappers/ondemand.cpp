@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/gtop_wrappers/ondemand.h"
+
+#include "fs/sizetostr.h"
+#include "process/gtop_wrappers/textondemand.h"
+
+namespace gtop_wrappers {
+
+OnDemandValues::OnDemandValues(const ProcessRecord &record) : values(record), tried(0), valid(0)
+{}
+
+void OnDemandValues::startSnapshot(const ProcessRecord &now)
+{
+    values.name = now.name; // stands in for an empty command line
+    tried = 0;
+}
+
+const ProcessRecord *OnDemandValues::record(Reads read)
+{
+    if ((tried & read) == 0) {
+        tried |= read;
+        if (readMissing(read, values)) {
+            valid |= read;
+        }
+    }
+    return (valid & read) != 0 ? &values : nullptr;
+}
+
+template <quint64 ProcessRecord::*Member>
+OnDemandSizeParam<Member>::OnDemandSizeParam(const OnDemandPtr &onDemand) : values(onDemand)
+{}
+
+template <quint64 ProcessRecord::*Member>
+QVariant OnDemandSizeParam<Member>::displayValue() const
+{
+    const ProcessRecord *record = values->record(ReadMemory);
+    return record ? sizeToStr(record->*Member) : QString();
+}
+
+template <quint64 ProcessRecord::*Member>
+QVariant OnDemandSizeParam<Member>::sortValue() const
+{
+    const ProcessRecord *record = values->record(ReadMemory);
+    return record ? record->*Member : quint64(0);
+}
+
+template class OnDemandSizeParam<&ProcessRecord::resident>;
+template class OnDemandSizeParam<&ProcessRecord::virtualSize>;
+template class OnDemandSizeParam<&ProcessRecord::shared>;
+
+OnDemandNiceParam::OnDemandNiceParam(const OnDemandPtr &onDemand) : values(onDemand)
+{}
+
+QVariant OnDemandNiceParam::displayValue() const
+{
+    const ProcessRecord *record = values->record(ReadUid);
+    return record ? QVariant(record->nice) : QVariant();
+}
+
+OnDemandCommandLineParam::OnDemandCommandLineParam(const OnDemandPtr &onDemand) : values(onDemand)
+{}
+
+QVariant OnDemandCommandLineParam::displayValue() const
+{
+    const ProcessRecord *record = values->record(ReadArguments);
+    if (!record) {
+        return QString();
+    }
+    if (!display.isValid() || arguments != record->arguments || name != record->name) {
+        arguments = record->arguments;
+        name = record->name;
+        display = CommandLineProcessParam(arguments, name).displayValue();
+    }
+    return display;
+}
+
+} // namespace gtop_wrappers

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/gtop_wrappers/parents.h"
+
+#include <glibtop/procstate.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace gtop_wrappers {
+
+namespace {
+
+/// Element of a list that is ascending by pid; null if there is none.
+template <typename Element>
+const Element *findByPid(const std::vector<Element> &list, int pid)
+{
+    const auto found = std::lower_bound(list.begin(), list.end(), pid,
+                                        [](const Element &element, int key) { return element.pid < key; });
+    return found != list.end() && found->pid == pid ? &*found : nullptr;
+}
+
+/// A dead process that is still in the list, and whose children were reparented.
+bool isDead(const ProcessRecord &record)
+{
+    return (record.state & (GLIBTOP_PROCESS_ZOMBIE | GLIBTOP_PROCESS_DEAD)) != 0;
+}
+
+} // namespace
+
+void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clock, StartClock::Time now)
+{
+    std::vector<Known> known;
+    known.reserve(records.size());
+    std::vector<int> exited;
+    for (ProcessRecord &record : records) {
+        const bool wasRead = (record.unread & ReadUid) == 0;
+        if (!wasRead && !keepParent(record, records) && !readParent(record)) {
+            exited.push_back(record.pid);
+            continue;
+        }
+        const ProcessRecord *parent = findByPid(records, record.parent);
+        if (parent && clock.secondIsOver(record.started, now) && clock.secondIsOver(parent->started, now)) {
+            known.push_back({record.pid, record.started, record.parent, parent->started});
+        }
+    }
+    last = std::move(known);
+    dropRecords(exited, records); // only now: until here the list is searched for parents
+}
+
+/// Sets the parent of the last snapshot if it is certain to be the same; false otherwise.
+bool Parents::keepParent(ProcessRecord &record, const std::vector<ProcessRecord> &records) const
+{
+    const Known *known = findByPid(last, record.pid);
+    if (!known || known->started != record.started) {
+        return false;
+    }
+    const ProcessRecord *parent = findByPid(records, known->parent);
+    if (!parent || parent->started != known->parentStarted || isDead(*parent)) {
+        return false;
+    }
+    record.parent = known->parent;
+    return true;
+}
+
+} // namespace gtop_wrappers

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef GTOP_WRAPPERS_PARENTS_H
+#define GTOP_WRAPPERS_PARENTS_H
+
+#include "process/gtop_wrappers/record.h"
+#include "process/gtop_wrappers/startclock.h"
+
+#include <vector>
+
+namespace gtop_wrappers {
+
+/// The parent of every process, read at most once where possible.
+///
+/// Reading a parent is the most expensive call of a snapshot. A process is reparented only when its parent
+/// exits, so a parent is kept for as long as both are seen running. A parent that is not in the list (0, or a
+/// process of another user) can exit unseen and is read again each time.
+class Parents
+{
+public:
+    /// Sets the parent of all records, which are ascending by pid, and reads those that are not known.
+    /// Drops the records of processes that exited in the meantime.
+    void resolve(std::vector<ProcessRecord> &records, const StartClock &clock, StartClock::Time now);
+
+private:
+    /// A parent that can be kept: pid and start identify both processes.
+    struct Known
+    {
+        int pid;
+        quint64 started;
+        int parent;
+        quint64 parentStarted;
+    };
+
+    bool keepParent(ProcessRecord &record, const std::vector<ProcessRecord> &records) const;
+
+    std::vector<Known> last; ///< of the last snapshot, ascending by pid
+};
+
+} // namespace gtop_wrappers
+
+#endif

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef GTOP_WRAPPERS_READER_H
+#define GTOP_WRAPPERS_READER_H
+
+#include "process/gtop_wrappers/parents.h"
+#include "process/gtop_wrappers/record.h"
+#include "process/gtop_wrappers/startclock.h"
+
+#include <optional>
+#include <vector>
+
+namespace gtop_wrappers {
+
+/// Reads the processes for one snapshot after another, with no more calls than each needs.
+class ProcessReader
+{
+public:
+    /// The processes, ascending by pid, with these reads (Reads, or-ed; ReadState and ReadTime at least) and
+    /// their parent. The rest is left unread, except of processes that are too young to be identified by
+    /// their start (see StartClock): reading those later could return values of another process. user: as for
+    /// readProcesses().
+    std::vector<ProcessRecord> read(std::optional<uid_t> user, unsigned reads);
+
+private:
+    void readRestOfYoung(std::vector<ProcessRecord> &records, StartClock::Time now) const;
+
+    StartClock clock;
+    Parents parents;
+};
+
+} // namespace gtop_wrappers
+
+#endif
