@@ -8,6 +8,17 @@
 
 using namespace gtop_wrappers;
 
+namespace {
+
+ParamPtr param(int pid, ProcessColumn column)
+{
+    const std::map<int, Process> all = ProcessFiller::instance()->getProcesses(AllProcesses);
+    const auto found = all.find(pid);
+    return found == all.end() ? ParamPtr() : found->second.getParam(column);
+}
+
+} // namespace
+
 void Gate::wait() const
 {
     char byte = 0;
@@ -44,7 +55,7 @@ ScriptedChild::~ScriptedChild()
 void ScriptedChild::go() const
 {
     if (write(fd, "", 1) != 1) {
-        qFatal("the child is gone");
+        qFatal("the child has exited");
     }
 }
 
@@ -58,13 +69,6 @@ void ScriptedChild::end()
         }
         id = -1;
     }
-}
-
-static ParamPtr param(int pid, ProcessColumn column)
-{
-    const std::map<int, Process> all = ProcessFiller::instance()->getProcesses(AllProcesses);
-    const auto found = all.find(pid);
-    return found == all.end() ? ParamPtr() : found->second.getParam(column);
 }
 
 QString shown(int pid, ProcessColumn column)

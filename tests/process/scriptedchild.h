@@ -19,8 +19,8 @@ private:
     int fd;
 };
 
-/// A process of the test's own: does what it is told, then sleeps until it is killed, at the latest with this
-/// object. What it does must be safe between fork and exec.
+/// A child of the test that runs a function, which must be safe between fork and exec, and then sleeps until
+/// it is killed, at the latest with this object.
 class ScriptedChild
 {
 public:
@@ -31,7 +31,7 @@ public:
 
     int pid() const { return id; }
     void go() const;
-    /// Kills it and waits for its end.
+    /// Kills it and waits for its exit.
     void end();
 
 private:
@@ -39,7 +39,7 @@ private:
     int fd;
 };
 
-/// What a fresh snapshot of all processes shows for a pid; empty if it is not in it.
+/// What a new snapshot of all processes shows for a pid; empty if it is not listed.
 QString shown(int pid, gtop_wrappers::ProcessColumn column);
 QVariant sorted(int pid, gtop_wrappers::ProcessColumn column);
 bool listed(int pid, gtop_wrappers::ProcessTypes types);

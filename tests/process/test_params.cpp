@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/gtop_wrappers/textondemand.h"
 #include "process/gtop_wrappers/param.h"
+#include "process/gtop_wrappers/textondemand.h"
 
 #include <QtTest>
 

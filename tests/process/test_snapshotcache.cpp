@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/snapshotcache.h"
 
-#include <QCoreApplication>
+#include "cells.h"
+
 #include <QtTest>
 
 #include <pwd.h>
-#include <unistd.h>
+#include <time.h>
 
 #include <functional>
 #include <limits>
@@ -14,7 +15,7 @@ using namespace gtop_wrappers;
 
 namespace {
 
-constexpr unsigned everything = ReadState | ReadUid | ReadTime | ReadMemory | ReadArguments;
+constexpr unsigned everything = ReadEverything;
 
 ProcessRecord recordOf(int pid)
 {
@@ -37,53 +38,49 @@ ProcessRecord recordOf(int pid)
 
 Process made(const ProcessRecord &record)
 {
-    SnapshotCache table;
-    return table.snapshot({record}).at(record.pid);
-}
-
-QString shown(const Process &process, ProcessColumn column)
-{
-    return process.getParam(column)->displayValue().toString();
-}
-
-QVariant sorted(const Process &process, ProcessColumn column)
-{
-    return process.getParam(column)->sortValue();
+    SnapshotCache cache;
+    return cache.snapshot({record}).at(record.pid);
 }
 
 } // namespace
 
-Q_DECLARE_METATYPE(std::function<void(ProcessRecord &)>)
+using Change = std::function<void(ProcessRecord &)>;
+Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(ProcessColumn)
 Q_DECLARE_METATYPE(std::vector<bool>)
 
-class TestProcessTable : public QObject
+class TestSnapshotCache : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyColumnIsFilled();
-    void numbersSortAsNumbers_data();
-    void numbersSortAsNumbers();
-    void cpuColumnIsACpuParam();
+    void initTestCase();
+    void processAnswersFromItsRecord();
+    void column_data();
+    void column();
     void stateColumnCarriesLibgtopsCode_data();
     void stateColumnCarriesLibgtopsCode();
     void userIsNamedOrNumbered();
-    void unchangedValuesAreTheSameObjects();
-    void changedValuesAreMadeAnew_data();
-    void changedValuesAreMadeAnew();
-    void reusedPidShowsNothingOfTheProcessBefore();
-    void vanishedProcessesAreForgotten();
+    void onlyChangedValuesAreNewObjects_data();
+    void onlyChangedValuesAreNewObjects();
+    void exitedProcessesAreForgotten();
     void processesShareUserStateAndSmallNumbers();
     void snapshotHasThePidsOfTheRecords();
-    void extremeRecordsAreShown();
-    void zeroedRecordIsShown();
-    void onlyCostlyReadsAreLeftOut_data();
-    void onlyCostlyReadsAreLeftOut();
+    void extremeRecord();
+    void emptyRecord();
+    void onlyExpensiveReadsAreLeftOut_data();
+    void onlyExpensiveReadsAreLeftOut();
     void everyColumnIsFilledWhateverWasLeftOut();
-    void changeBetweenAtOnceAndLate();
+    void columnsThatBecomeOnDemandOrEager();
 };
 
-void TestProcessTable::everyColumnIsFilled()
+void TestSnapshotCache::initTestCase()
+{
+    qputenv("TZ", "UTC");
+    tzset();
+}
+
+void TestSnapshotCache::processAnswersFromItsRecord()
 {
     const Process process = made(recordOf(42));
     QCOMPARE(process.params.size(), std::size_t(ColumnCount));
@@ -91,55 +88,42 @@ void TestProcessTable::everyColumnIsFilled()
     QCOMPARE(process.getName(), QStringLiteral("bash"));
     QCOMPARE(process.getPPid(), 1);
     QCOMPARE(process.getCpuLoad(), 100);
-    QVERIFY(process.getParam(CpuColumn));
-    QCOMPARE(shown(process, NameColumn), QStringLiteral("bash"));
-    QCOMPARE(shown(process, PidColumn), QStringLiteral("42"));
-    QCOMPARE(shown(process, UserColumn), QStringLiteral("root"));
-    QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
-    QCOMPARE(shown(process, StateColumn), QStringLiteral("Sleeping"));
-    QCOMPARE(shown(process, VirtualMemoryColumn), QStringLiteral("2.00 KB"));
-    QCOMPARE(shown(process, SharedMemoryColumn), QStringLiteral("512.00 B"));
-    QCOMPARE(shown(process, NiceColumn), QStringLiteral("0"));
-    QCOMPARE(shown(process, ParentPidColumn), QStringLiteral("1"));
-    QCOMPARE(shown(process, CpuTimeColumn), QStringLiteral("0:00:01"));
-    QVERIFY(shown(process, StartedColumn).startsWith(QLatin1String("2023-11-1")));
-    QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("bash -l"));
-    QCOMPARE(shown(process, ProcessorColumn), QStringLiteral("3"));
-}
-
-void TestProcessTable::numbersSortAsNumbers_data()
-{
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QVariant>("value");
-    QTest::newRow("CPU") << int(CpuColumn) << QVariant(0.0);
-    QTest::newRow("PID") << int(PidColumn) << QVariant(42);
-    QTest::newRow("memory") << int(MemoryColumn) << QVariant(quint64(1024));
-    QTest::newRow("state") << int(StateColumn) << QVariant(2);
-    QTest::newRow("virtual") << int(VirtualMemoryColumn) << QVariant(quint64(2048));
-    QTest::newRow("shared") << int(SharedMemoryColumn) << QVariant(quint64(512));
-    QTest::newRow("nice") << int(NiceColumn) << QVariant(0);
-    QTest::newRow("parent") << int(ParentPidColumn) << QVariant(1);
-    QTest::newRow("processor") << int(ProcessorColumn) << QVariant(3);
-    QTest::newRow("CPU time") << int(CpuTimeColumn) << QVariant(quint64(100));
-    QTest::newRow("started") << int(StartedColumn) << QVariant(quint64(1700000000));
-}
-
-void TestProcessTable::numbersSortAsNumbers()
-{
-    QFETCH(int, column);
-    QFETCH(QVariant, value);
-    const QVariant actual = sorted(made(recordOf(42)), ProcessColumn(column));
-    QCOMPARE(actual, value);
-    QCOMPARE(actual.type(), value.type());
-}
-
-void TestProcessTable::cpuColumnIsACpuParam()
-{
-    const Process process = made(recordOf(42));
     QVERIFY(dynamic_cast<CpuProcessParam *>(process.getParam(1).get()));
 }
 
-void TestProcessTable::stateColumnCarriesLibgtopsCode_data()
+void TestSnapshotCache::column_data()
+{
+    QTest::addColumn<ProcessColumn>("column");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("sortValue");
+    QTest::newRow("name") << NameColumn << "bash" << QVariant("bash");
+    QTest::newRow("CPU") << CpuColumn << "" << QVariant(0.0);
+    QTest::newRow("PID") << PidColumn << "42" << QVariant(42);
+    QTest::newRow("user") << UserColumn << "root" << QVariant("root");
+    QTest::newRow("memory") << MemoryColumn << "1.00 KB" << QVariant(quint64(1024));
+    QTest::newRow("state") << StateColumn << "Sleeping" << QVariant(2);
+    QTest::newRow("virtual") << VirtualMemoryColumn << "2.00 KB" << QVariant(quint64(2048));
+    QTest::newRow("shared") << SharedMemoryColumn << "512.00 B" << QVariant(quint64(512));
+    QTest::newRow("nice") << NiceColumn << "0" << QVariant(0);
+    QTest::newRow("parent") << ParentPidColumn << "1" << QVariant(1);
+    QTest::newRow("CPU time") << CpuTimeColumn << "0:00:01" << QVariant(quint64(100));
+    QTest::newRow("started") << StartedColumn << "2023-11-14 22:13:20" << QVariant(quint64(1700000000));
+    QTest::newRow("command line") << CommandLineColumn << "bash -l" << QVariant("bash -l");
+    QTest::newRow("processor") << ProcessorColumn << "3" << QVariant(3);
+}
+
+void TestSnapshotCache::column()
+{
+    QFETCH(ProcessColumn, column);
+    QFETCH(QVariant, sortValue);
+    const Process process = made(recordOf(42));
+    QTEST(shown(process, column), "text");
+    const QVariant actual = sorted(process, column);
+    QCOMPARE(actual, sortValue);
+    QCOMPARE(actual.type(), sortValue.type());
+}
+
+void TestSnapshotCache::stateColumnCarriesLibgtopsCode_data()
 {
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("text");
@@ -156,7 +140,7 @@ void TestProcessTable::stateColumnCarriesLibgtopsCode_data()
     QTest::newRow("highest") << std::numeric_limits<int>::max() << "Other";
 }
 
-void TestProcessTable::stateColumnCarriesLibgtopsCode()
+void TestSnapshotCache::stateColumnCarriesLibgtopsCode()
 {
     QFETCH(int, code);
     ProcessRecord record = recordOf(42);
@@ -168,7 +152,7 @@ void TestProcessTable::stateColumnCarriesLibgtopsCode()
     QTEST(shown(process, StateColumn), "text");
 }
 
-void TestProcessTable::userIsNamedOrNumbered()
+void TestSnapshotCache::userIsNamedOrNumbered()
 {
     ProcessRecord record = recordOf(42);
     QCOMPARE(shown(made(record), UserColumn), QString::fromUtf8(getpwuid(0)->pw_name));
@@ -179,25 +163,14 @@ void TestProcessTable::userIsNamedOrNumbered()
     QCOMPARE(shown(made(record), UserColumn), QStringLiteral("4294967294"));
 }
 
-void TestProcessTable::unchangedValuesAreTheSameObjects()
+void TestSnapshotCache::onlyChangedValuesAreNewObjects_data()
 {
-    SnapshotCache table;
-    const Process before = table.snapshot({recordOf(42)}).at(42);
-    const Process now = table.snapshot({recordOf(42)}).at(42);
-    for (unsigned long i = 0; i < ColumnCount; ++i) {
-        // The process model writes into the CPU value, so that one must not be shared between snapshots.
-        QCOMPARE(now.getParam(i) == before.getParam(i), i != CpuColumn);
-    }
-}
-
-void TestProcessTable::changedValuesAreMadeAnew_data()
-{
-    using Change = std::function<void(ProcessRecord &)>;
     QTest::addColumn<Change>("change");
     QTest::addColumn<QVector<int>>("columns");
     const auto row = [](const char *name, const Change &change, const QVector<int> &changed) {
         QTest::newRow(name) << change << changed;
     };
+    row("nothing", [](ProcessRecord &) {}, {});
     row("name", [](ProcessRecord &r) { r.name = "sh"; }, {NameColumn, CommandLineColumn});
     row("user", [](ProcessRecord &r) { r.user = 65534; }, {UserColumn});
     row("resident", [](ProcessRecord &r) { r.resident = 1; }, {MemoryColumn});
@@ -210,48 +183,39 @@ void TestProcessTable::changedValuesAreMadeAnew_data()
     row("start", [](ProcessRecord &r) { r.started = 1700000001; }, {StartedColumn});
     row("processor", [](ProcessRecord &r) { r.processor = 1; }, {ProcessorColumn});
     row("arguments", [](ProcessRecord &r) { r.arguments = "x"; }, {CommandLineColumn});
+    const auto reusePid = [](ProcessRecord &r) {
+        r.name = "sh";
+        r.cpuTime = 1;
+        r.started += 5;
+        r.arguments.clear();
+    };
+    row("pid reused", reusePid, {NameColumn, CpuTimeColumn, StartedColumn, CommandLineColumn});
 }
 
-void TestProcessTable::changedValuesAreMadeAnew()
+void TestSnapshotCache::onlyChangedValuesAreNewObjects()
 {
-    QFETCH(std::function<void(ProcessRecord &)>, change);
+    QFETCH(Change, change);
     QFETCH(QVector<int>, columns);
-    SnapshotCache table;
-    const Process before = table.snapshot({recordOf(42)}).at(42);
+    columns.append(CpuColumn); // the process model writes into it, so each snapshot has its own
+    SnapshotCache cache;
+    const Process before = cache.snapshot({recordOf(42)}).at(42);
     ProcessRecord record = recordOf(42);
     change(record);
-    const Process now = table.snapshot({record}).at(42);
+    const Process now = cache.snapshot({record}).at(42);
     const Process alone = made(record);
     for (unsigned long i = 0; i < ColumnCount; ++i) {
-        const bool changed = i == CpuColumn || columns.contains(int(i));
-        QCOMPARE(now.getParam(i) != before.getParam(i), changed);
+        QCOMPARE(now.getParam(i) != before.getParam(i), columns.contains(int(i)));
         QCOMPARE(now.getParam(i)->displayValue(), alone.getParam(i)->displayValue());
         QCOMPARE(now.getParam(i)->sortValue(), alone.getParam(i)->sortValue());
     }
 }
 
-void TestProcessTable::reusedPidShowsNothingOfTheProcessBefore()
+void TestSnapshotCache::exitedProcessesAreForgotten()
 {
-    SnapshotCache table;
-    table.snapshot({recordOf(42)});
-    ProcessRecord other = recordOf(42);
-    other.name = "sh";
-    other.cpuTime = 1;
-    other.started += 5;
-    other.arguments.clear();
-    const Process now = table.snapshot({other}).at(42);
-    QCOMPARE(now.getName(), QStringLiteral("sh"));
-    QCOMPARE(now.getCpuLoad(), 1);
-    QCOMPARE(sorted(now, StartedColumn), QVariant(quint64(1700000005)));
-    QCOMPARE(shown(now, CommandLineColumn), QStringLiteral("[sh]"));
-}
-
-void TestProcessTable::vanishedProcessesAreForgotten()
-{
-    SnapshotCache table;
+    SnapshotCache cache;
     std::vector<std::tr1::weak_ptr<IProcessParam>> values;
     {
-        const auto snapshot = table.snapshot({recordOf(42), recordOf(43)});
+        const auto snapshot = cache.snapshot({recordOf(42), recordOf(43)});
         for (const ParamPtr &param : snapshot.at(42).params) {
             values.emplace_back(param);
         }
@@ -262,28 +226,28 @@ void TestProcessTable::vanishedProcessesAreForgotten()
     left.parent = 20;
     left.nice = 10;
     left.processor = 30;
-    QCOMPARE(table.snapshot({left}).size(), std::size_t(1));
+    QCOMPARE(cache.snapshot({left}).size(), std::size_t(1));
     for (const auto &value : values) {
         QVERIFY(value.expired());
     }
 }
 
-void TestProcessTable::processesShareUserStateAndSmallNumbers()
+void TestSnapshotCache::processesShareUserStateAndSmallNumbers()
 {
-    SnapshotCache table;
-    const auto snapshot = table.snapshot({recordOf(42), recordOf(43)});
+    SnapshotCache cache;
+    const auto snapshot = cache.snapshot({recordOf(42), recordOf(43)});
     for (const ProcessColumn column :
          {UserColumn, StateColumn, NiceColumn, ParentPidColumn, ProcessorColumn}) {
         QCOMPARE(snapshot.at(42).getParam(column).get(), snapshot.at(43).getParam(column).get());
     }
 }
 
-void TestProcessTable::snapshotHasThePidsOfTheRecords()
+void TestSnapshotCache::snapshotHasThePidsOfTheRecords()
 {
-    SnapshotCache table;
-    const auto pids = [&table](std::vector<ProcessRecord> records) {
+    SnapshotCache cache;
+    const auto pids = [&cache](std::vector<ProcessRecord> records) {
         QVector<int> keys;
-        for (const auto &entry : table.snapshot(std::move(records))) {
+        for (const auto &entry : cache.snapshot(std::move(records))) {
             keys.append(entry.first == entry.second.pid() ? entry.first : -1);
         }
         return keys;
@@ -295,7 +259,7 @@ void TestProcessTable::snapshotHasThePidsOfTheRecords()
     QCOMPARE(pids({recordOf(3)}), (QVector<int>{3}));
 }
 
-void TestProcessTable::extremeRecordsAreShown()
+void TestSnapshotCache::extremeRecord()
 {
     ProcessRecord record = recordOf(std::numeric_limits<int>::max());
     record.name = QByteArray("\xff\n\x1b", 3);
@@ -319,7 +283,7 @@ void TestProcessTable::extremeRecordsAreShown()
     QCOMPARE(shown(process, CommandLineColumn).size(), 1024);
 }
 
-void TestProcessTable::zeroedRecordIsShown()
+void TestSnapshotCache::emptyRecord()
 {
     const Process process = made(ProcessRecord());
     QCOMPARE(process.pid(), -1);
@@ -331,41 +295,41 @@ void TestProcessTable::zeroedRecordIsShown()
     QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("[]"));
 }
 
-void TestProcessTable::onlyCostlyReadsAreLeftOut_data()
+void TestSnapshotCache::onlyExpensiveReadsAreLeftOut_data()
 {
-    QTest::addColumn<std::vector<bool>>("wanted");
+    QTest::addColumn<std::vector<bool>>("eager");
     QTest::addColumn<unsigned>("reads");
-    std::vector<bool> wanted;
-    QTest::newRow("nothing said") << wanted << everything;
-    wanted.assign(ColumnCount, true);
-    QTest::newRow("all") << wanted << everything;
-    wanted[CommandLineColumn] = false;
-    QTest::newRow("all but the command line") << wanted << (everything & ~ReadArguments);
-    wanted.assign(100, false);
-    // Name, user, state, CPU counter and start are read of every process, wanted or not.
-    QTest::newRow("none") << wanted << unsigned(ReadState | ReadTime);
-    wanted[MemoryColumn] = true;
-    QTest::newRow("memory") << wanted << unsigned(ReadState | ReadTime | ReadMemory);
-    wanted[MemoryColumn] = false;
-    wanted[NiceColumn] = true;
-    QTest::newRow("nice") << wanted << unsigned(ReadState | ReadTime | ReadUid);
+    std::vector<bool> eager;
+    QTest::newRow("not set") << eager << everything;
+    eager.assign(ColumnCount, true);
+    QTest::newRow("all") << eager << everything;
+    eager[CommandLineColumn] = false;
+    QTest::newRow("all but the command line") << eager << (everything & ~ReadArguments);
+    eager.assign(100, false);
+    // Name, user, state, CPU counter and start are read of every process, eager or not.
+    QTest::newRow("none") << eager << unsigned(ReadState | ReadTime);
+    eager[MemoryColumn] = true;
+    QTest::newRow("memory") << eager << unsigned(ReadState | ReadTime | ReadMemory);
+    eager[MemoryColumn] = false;
+    eager[NiceColumn] = true;
+    QTest::newRow("nice") << eager << unsigned(ReadState | ReadTime | ReadUid);
     QTest::newRow("short list") << std::vector<bool>{true, false} << everything;
 }
 
-void TestProcessTable::onlyCostlyReadsAreLeftOut()
+void TestSnapshotCache::onlyExpensiveReadsAreLeftOut()
 {
-    QFETCH(std::vector<bool>, wanted);
-    SnapshotCache table;
-    table.setEagerColumns(wanted);
-    QTEST(table.eagerReads(), "reads");
+    QFETCH(std::vector<bool>, eager);
+    SnapshotCache cache;
+    cache.setEagerColumns(eager);
+    QTEST(cache.eagerReads(), "reads");
 }
 
-void TestProcessTable::everyColumnIsFilledWhateverWasLeftOut()
+void TestSnapshotCache::everyColumnIsFilledWhateverWasLeftOut()
 {
-    SnapshotCache table;
+    SnapshotCache cache;
     ProcessRecord partly = recordOf(42);
     partly.unread = ReadMemory | ReadArguments | ReadUid;
-    const Process process = table.snapshot({partly}).at(42);
+    const Process process = cache.snapshot({partly}).at(42);
     for (unsigned long i = 0; i < ColumnCount; ++i) {
         QVERIFY(process.getParam(i));
     }
@@ -374,19 +338,19 @@ void TestProcessTable::everyColumnIsFilledWhateverWasLeftOut()
     QCOMPARE(process.getCpuLoad(), 100);
 }
 
-void TestProcessTable::changeBetweenAtOnceAndLate()
+void TestSnapshotCache::columnsThatBecomeOnDemandOrEager()
 {
-    SnapshotCache table;
-    const Process first = table.snapshot({recordOf(42)}).at(42);
+    SnapshotCache cache;
+    const Process first = cache.snapshot({recordOf(42)}).at(42);
     ProcessRecord partly = recordOf(42);
     partly.unread = ReadMemory;
-    const Process late = table.snapshot({partly}).at(42);
-    QVERIFY(late.getParam(MemoryColumn) != first.getParam(MemoryColumn));
-    QCOMPARE(late.getParam(CommandLineColumn), first.getParam(CommandLineColumn));
-    const Process again = table.snapshot({recordOf(42)}).at(42);
+    const Process onDemand = cache.snapshot({partly}).at(42);
+    QVERIFY(onDemand.getParam(MemoryColumn) != first.getParam(MemoryColumn));
+    QCOMPARE(onDemand.getParam(CommandLineColumn), first.getParam(CommandLineColumn));
+    const Process again = cache.snapshot({recordOf(42)}).at(42);
     QCOMPARE(shown(again, MemoryColumn), QStringLiteral("1.00 KB"));
     QCOMPARE(shown(first, MemoryColumn), QStringLiteral("1.00 KB"));
 }
 
-QTEST_GUILESS_MAIN(TestProcessTable)
-#include "test_processtable.moc"
+QTEST_GUILESS_MAIN(TestSnapshotCache)
+#include "test_snapshotcache.moc"

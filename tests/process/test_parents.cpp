@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/gtop_wrappers/parents.h"
+
+#include "madeupprocesses.h"
+
+#include <QtTest>
+
+#include <algorithm>
+#include <functional>
+
+using namespace gtop_wrappers;
+using madeup::now;
+
+using Change = std::function<void()>;
+Q_DECLARE_METATYPE(Change)
+
+class TestParents : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void isReadOnlyOnceAndAlone();
+    void isReadAgain_data();
+    void isReadAgain();
+    void processThatExitedSinceItWasReadIsDropped_data();
+    void processThatExitedSinceItWasReadIsDropped();
+
+private:
+    std::vector<ProcessRecord> read() const;
+    std::vector<ProcessRecord> resolved(std::vector<ProcessRecord> records);
+
+    Parents parents;
+    StartClock clock;
+    StartClock::Time time;
+    unsigned eager = 0; ///< read of all processes besides state and time
+};
+
+void TestParents::init()
+{
+    madeup::setUp();
+    parents = Parents();
+    clock = StartClock();
+    time = StartClock::Time();
+    eager = 0;
+}
+
+void TestParents::cleanup()
+{
+    standin::machine() = {};
+}
+
+std::vector<ProcessRecord> TestParents::read() const
+{
+    return readProcesses(std::nullopt, ReadState | ReadTime | eager);
+}
+
+std::vector<ProcessRecord> TestParents::resolved(std::vector<ProcessRecord> records)
+{
+    for (const ProcessRecord &record : records) {
+        clock.see(record.started, time);
+    }
+    parents.resolve(records, clock, time);
+    return records;
+}
+
+void TestParents::isReadOnlyOnceAndAlone()
+{
+    resolved(read());
+    madeup::at(11).nice = 5;
+    const auto records = read();
+    standin::resetCalls();
+    const ProcessRecord record = resolved(records).at(2);
+    // Two calls each for the parents of 1, which has none, and of 99, which is young.
+    QCOMPARE(standin::calls().processData, 4U);
+    QCOMPARE(record.pid, 11);
+    QCOMPARE(record.parent, 10);
+    QCOMPARE(record.nice, 0);
+    QCOMPARE(record.unread, unsigned(ReadUid | ReadMemory | ReadArguments));
+}
+
+void TestParents::isReadAgain_data()
+{
+    QTest::addColumn<Change>("prepare");
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<int>("parent");
+    const auto row = [](const char *name, const Change &prepare, const Change &change, int parent = 1) {
+        QTest::newRow(name) << prepare << change << parent;
+    };
+    const Change nothing = [] {};
+    const auto passASecond = [this] { time += std::chrono::seconds(1); };
+    row("not while both run", nothing, nothing, 10);
+    row("parent exited", nothing, [] { madeup::remove(10); });
+    row("parent is a zombie", nothing, [] { madeup::at(10).state = GLIBTOP_PROCESS_ZOMBIE; });
+    row("parent is dead", nothing, [] { madeup::at(10).state = GLIBTOP_PROCESS_DEAD; });
+    row("parent's pid was reused", nothing, [] { madeup::at(10).startTime = now; });
+    row("pid was reused", nothing, [] { madeup::at(11).startTime = now - 39; });
+    row(
+        "process had no parent", [] { madeup::at(11).parent = 0; }, nothing);
+    row(
+        "parent was not listed", [] { madeup::at(11).parent = 77; }, nothing);
+    row("process was not listed", nothing, [this] {
+        const auto process = madeup::at(11);
+        madeup::remove(11);
+        resolved(read());
+        standin::machine().processes->insert({11, process});
+    });
+    row(
+        "process was young", [] { madeup::at(11).startTime = now; }, passASecond);
+    row(
+        "parent was young", [] { madeup::at(10).startTime = now; }, passASecond);
+    row(
+        "process was young and read entirely",
+        [this] {
+            madeup::at(11).startTime = now;
+            eager = ReadUid;
+        },
+        [this] {
+            time += std::chrono::seconds(1);
+            eager = 0;
+        });
+    row("nice value became eager", nothing, [this] { eager = ReadUid; });
+}
+
+void TestParents::isReadAgain()
+{
+    QFETCH(Change, prepare);
+    QFETCH(Change, change);
+    prepare();
+    const int before = madeup::at(11).parent;
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(resolved(read()).at(2).parent, before);
+    }
+    change();
+    madeup::at(11).parent = 1;
+    const auto records = resolved(read());
+    QCOMPARE(records.rbegin()[1].pid, 11);
+    QTEST(records.rbegin()[1].parent, "parent");
+}
+
+void TestParents::processThatExitedSinceItWasReadIsDropped_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::newRow("exited") << Change([] { madeup::remove(11); });
+    QTest::newRow("exited and its pid was reused") << Change([] { madeup::at(11).startTime = now; });
+}
+
+void TestParents::processThatExitedSinceItWasReadIsDropped()
+{
+    QFETCH(Change, change);
+    auto records = read();
+    change();
+    records = resolved(std::move(records));
+    QCOMPARE(records.size(), std::size_t(3));
+    QVERIFY(std::none_of(records.begin(), records.end(), [](const ProcessRecord &r) { return r.pid == 11; }));
+}
+
+QTEST_GUILESS_MAIN(TestParents)
+#include "test_parents.moc"
