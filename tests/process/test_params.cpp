@@ -29,12 +29,9 @@ protected:
     }
 };
 
-QString shown(const IProcessParam &param)
-{
-    return param.displayValue().toString();
-}
-
 } // namespace
+
+Q_DECLARE_METATYPE(ParamPtr)
 
 class TestParams : public QObject
 {
@@ -44,20 +41,11 @@ private Q_SLOTS:
     void initTestCase();
     void baseShowsAndSortsByItsDisplayValue();
     void baseIsDestroyedThroughAPointerToIt();
-    void simpleIsTextOnly();
-    void intSortsByItsNumber();
-    void intWithoutTextShowsItsNumber();
     void cpuIsWrittenFromOutside();
-    void cpuThatIsNotANumberSortsBelowAllOthers();
-    void lazyTextIsMadeOnceAndNotForSortingNumbers();
-    void sizesSortByBytesAndShowTheSizeText_data();
-    void sizesSortByBytesAndShowTheSizeText();
-    void cpuTimeIsShownInHoursMinutesSeconds_data();
-    void cpuTimeIsShownInHoursMinutesSeconds();
-    void startIsShownWithItsDateAlways_data();
-    void startIsShownWithItsDateAlways();
-    void commandLineShowsArgumentsOrTheNameInBrackets_data();
-    void commandLineShowsArgumentsOrTheNameInBrackets();
+    void cpuThatIsNanSortsBelowAllOthers();
+    void textOnDemandIsMadeOnce();
+    void showsAndSorts_data();
+    void showsAndSorts();
 };
 
 void TestParams::initTestCase()
@@ -85,30 +73,6 @@ void TestParams::baseIsDestroyedThroughAPointerToIt()
     QVERIFY((std::is_base_of_v<IProcessParam, CpuProcessParam>));
 }
 
-void TestParams::simpleIsTextOnly()
-{
-    const SimpleProcessParam param(QStringLiteral("init"));
-    QCOMPARE(param.displayValue(), QVariant(QStringLiteral("init")));
-    QCOMPARE(param.sortValue(), QVariant(QStringLiteral("init")));
-}
-
-void TestParams::intSortsByItsNumber()
-{
-    const IntProcessParam param(16, QStringLiteral("Stopped"));
-    QCOMPARE(param.value(), 16);
-    QCOMPARE(param.sortValue(), QVariant(16));
-    QCOMPARE(param.displayValue(), QVariant(QStringLiteral("Stopped")));
-}
-
-void TestParams::intWithoutTextShowsItsNumber()
-{
-    for (const int number : {std::numeric_limits<int>::min(), -20, 0, std::numeric_limits<int>::max()}) {
-        const IntProcessParam param(number);
-        QCOMPARE(param.sortValue(), QVariant(number));
-        QCOMPARE(shown(param), QString::number(number));
-    }
-}
-
 void TestParams::cpuIsWrittenFromOutside()
 {
     CpuProcessParam param;
@@ -121,7 +85,7 @@ void TestParams::cpuIsWrittenFromOutside()
     QCOMPARE(param.displayValue(), QVariant(QStringLiteral("12.5 %")));
 }
 
-void TestParams::cpuThatIsNotANumberSortsBelowAllOthers()
+void TestParams::cpuThatIsNanSortsBelowAllOthers()
 {
     std::vector<double> sorted;
     for (const double percent :
@@ -136,98 +100,75 @@ void TestParams::cpuThatIsNotANumberSortsBelowAllOthers()
     QCOMPARE(sorted, (std::vector<double>{-infinity, -infinity, 0.0, 1.0, infinity}));
 }
 
-void TestParams::lazyTextIsMadeOnceAndNotForSortingNumbers()
+void TestParams::textOnDemandIsMadeOnce()
 {
     const CountingParam param;
     QCOMPARE(param.made, 0);
-    QCOMPARE(shown(param), QStringLiteral("text"));
-    QCOMPARE(shown(param), QStringLiteral("text"));
+    QCOMPARE(param.displayValue(), QVariant(QStringLiteral("text")));
+    QCOMPARE(param.displayValue(), QVariant(QStringLiteral("text")));
     QCOMPARE(param.sortValue(), QVariant(QStringLiteral("text")));
     QCOMPARE(param.made, 1);
 }
 
-void TestParams::sizesSortByBytesAndShowTheSizeText_data()
+void TestParams::showsAndSorts_data()
 {
-    QTest::addColumn<quint64>("bytes");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("kernel thread") << quint64(0) << "0.00 B";
-    QTest::newRow("page") << quint64(4096) << "4.00 KB";
-    QTest::newRow("beyond 32 bits") << quint64(6442450944) << "6.00 GB";
-    QTest::newRow("highest") << highest << "17179869184.00 GB";
+    QTest::addColumn<ParamPtr>("param");
+    QTest::addColumn<QVariant>("display");
+    QTest::addColumn<QVariant>("sortValue");
+    QTest::newRow("text") << ParamPtr(new SimpleProcessParam("init")) << QVariant("init") << QVariant("init");
+    QTest::newRow("integer with text")
+        << ParamPtr(new IntProcessParam(16, "Stopped")) << QVariant("Stopped") << QVariant(16);
+    for (const int number : {std::numeric_limits<int>::min(), -20, 0, std::numeric_limits<int>::max()}) {
+        QTest::addRow("integer %d", number)
+            << ParamPtr(new IntProcessParam(number)) << QVariant(number) << QVariant(number);
+    }
+    const auto size = [](const char *name, quint64 bytes, const char *text) {
+        QTest::newRow(name) << ParamPtr(new SizeProcessParam(bytes)) << QVariant(text) << QVariant(bytes);
+    };
+    size("size of a kernel thread", 0, "0.00 B");
+    size("size of a page", 4096, "4.00 KB");
+    size("size beyond 32 bits", 6442450944, "6.00 GB");
+    size("highest size", highest, "17179869184.00 GB");
+    const auto cpuTime = [](const char *name, quint64 jiffies, quint64 frequency, const char *text) {
+        QTest::newRow(name) << ParamPtr(new CpuTimeProcessParam(jiffies, frequency)) << QVariant(text)
+                            << QVariant(jiffies);
+    };
+    cpuTime("no CPU time", 0, 100, "0:00:00");
+    cpuTime("CPU time under a second", 99, 100, "0:00:00");
+    cpuTime("CPU time of a minute", 6000, 100, "0:01:00");
+    cpuTime("CPU time with all parts", 372500, 100, "1:02:05");
+    cpuTime("CPU time of days", 36000000, 100, "100:00:00");
+    cpuTime("CPU time at another frequency", 372500, 1000, "0:06:12");
+    cpuTime("highest CPU time", highest, 100, "51240955760304:18:36");
+    cpuTime("CPU time without a frequency", 500, 0, "");
+    const auto started = [](const char *name, quint64 seconds, const QString &text) {
+        QTest::newRow(name) << ParamPtr(new StartedProcessParam(seconds)) << QVariant(text)
+                            << QVariant(seconds);
+    };
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    started("started long ago", 86461, "1970-01-02 00:01:01");
+    started("started today, with the date", quint64(now.toSecsSinceEpoch()),
+            now.toString("yyyy-MM-dd HH:mm:ss"));
+    started("started in the last second of the calendar", 253402300799, "9999-12-31 23:59:59");
+    started("started past the calendar", 253402300800, "Unknown");
+    started("highest start", highest, "Unknown");
+    started("no start", 0, "Unknown");
+    const auto commandLine = [](const char *name, const QByteArray &arguments, const char *text) {
+        QTest::newRow(name) << ParamPtr(new CommandLineProcessParam(arguments, "kthreadd")) << QVariant(text)
+                            << QVariant(text);
+    };
+    commandLine("arguments", QByteArray("ls\0-l\0", 6), "ls -l");
+    commandLine("empty argument in the middle", QByteArray("ls\0\0-l\0", 7), "ls  -l");
+    commandLine("rewritten title", QByteArray("db: idle\0\0\0\0\0", 13), "db: idle");
+    commandLine("no arguments", QByteArray(), "[kthreadd]");
+    commandLine("only null characters", QByteArray("\0\0\0", 3), "[kthreadd]");
 }
 
-void TestParams::sizesSortByBytesAndShowTheSizeText()
+void TestParams::showsAndSorts()
 {
-    QFETCH(quint64, bytes);
-    const SizeProcessParam param(bytes);
-    QTEST(shown(param), "text");
-    QCOMPARE(param.sortValue(), QVariant(bytes));
-}
-
-void TestParams::cpuTimeIsShownInHoursMinutesSeconds_data()
-{
-    QTest::addColumn<quint64>("jiffies");
-    QTest::addColumn<quint64>("frequency");
-    QTest::addColumn<QString>("text");
-    const quint64 hz = 100;
-    QTest::newRow("none") << quint64(0) << hz << "0:00:00";
-    QTest::newRow("under a second") << quint64(99) << hz << "0:00:00";
-    QTest::newRow("a minute") << quint64(6000) << hz << "0:01:00";
-    QTest::newRow("all parts") << quint64(372500) << hz << "1:02:05";
-    QTest::newRow("days") << quint64(36000000) << hz << "100:00:00";
-    QTest::newRow("other frequency") << quint64(372500) << quint64(1000) << "0:06:12";
-    QTest::newRow("highest") << highest << hz << "51240955760304:18:36";
-    QTest::newRow("no frequency") << quint64(500) << quint64(0) << "";
-}
-
-void TestParams::cpuTimeIsShownInHoursMinutesSeconds()
-{
-    QFETCH(quint64, jiffies);
-    QFETCH(quint64, frequency);
-    const CpuTimeProcessParam param(jiffies, frequency);
-    QTEST(shown(param), "text");
-    QCOMPARE(param.sortValue(), QVariant(jiffies));
-}
-
-void TestParams::startIsShownWithItsDateAlways_data()
-{
-    QTest::addColumn<quint64>("seconds");
-    QTest::addColumn<QString>("text");
-    const auto now = static_cast<quint64>(QDateTime::currentSecsSinceEpoch());
-    QTest::newRow("long ago") << quint64(86461) << "1970-01-02 00:01:01";
-    QTest::newRow("today")
-        << now << QDateTime::fromSecsSinceEpoch(qint64(now), Qt::UTC).toString("yyyy-MM-dd HH:mm:ss");
-    QTest::newRow("last second of the calendar") << quint64(253402300799) << "9999-12-31 23:59:59";
-    QTest::newRow("past the calendar") << quint64(253402300800) << "Unknown";
-    QTest::newRow("highest") << highest << "Unknown";
-    QTest::newRow("none") << quint64(0) << "Unknown";
-}
-
-void TestParams::startIsShownWithItsDateAlways()
-{
-    QFETCH(quint64, seconds);
-    const StartedProcessParam param(seconds);
-    QTEST(shown(param), "text");
-    QCOMPARE(param.sortValue(), QVariant(seconds));
-}
-
-void TestParams::commandLineShowsArgumentsOrTheNameInBrackets_data()
-{
-    QTest::addColumn<QByteArray>("arguments");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("arguments") << QByteArray("ls\0-l\0", 6) << "ls -l";
-    QTest::newRow("empty argument in the middle") << QByteArray("ls\0\0-l\0", 7) << "ls  -l";
-    QTest::newRow("rewritten title") << QByteArray("db: idle\0\0\0\0\0", 13) << "db: idle";
-    QTest::newRow("none") << QByteArray() << "[kthreadd]";
-    QTest::newRow("only null characters") << QByteArray("\0\0\0", 3) << "[kthreadd]";
-}
-
-void TestParams::commandLineShowsArgumentsOrTheNameInBrackets()
-{
-    QFETCH(QByteArray, arguments);
-    const CommandLineProcessParam param(arguments, "kthreadd");
-    QTEST(shown(param), "text");
-    QCOMPARE(param.sortValue(), param.displayValue());
+    QFETCH(ParamPtr, param);
+    QTEST(param->displayValue(), "display");
+    QTEST(param->sortValue(), "sortValue");
 }
 
 QTEST_GUILESS_MAIN(TestParams)

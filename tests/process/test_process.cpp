@@ -29,18 +29,16 @@ class TestProcess : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void holdsPidAndValuesInThisOrderOnly();
-    void emptyProcessHasNothing();
-    void answersComeFromTheValues();
+    void layoutIsPidAndValues();
+    void withoutValuesEverythingIsEmpty_data();
+    void withoutValuesEverythingIsEmpty();
+    void copyOfPidAndValuesAnswersTheSame();
     void counterIsTheLow32Bits_data();
     void counterIsTheLow32Bits();
-    void copyOfPidAndValuesAnswersTheSame();
-    void copiesShareTheirValues();
-    void missingValuesAreAnswered();
     void columnNumbersAreFixed();
 };
 
-void TestProcess::holdsPidAndValuesInThisOrderOnly()
+void TestProcess::layoutIsPidAndValues()
 {
     QVERIFY((std::is_same_v<decltype(Process::id), qint32>));
     QVERIFY((std::is_same_v<decltype(Process::params), std::vector<std::tr1::shared_ptr<IProcessParam>>>));
@@ -55,24 +53,38 @@ void TestProcess::holdsPidAndValuesInThisOrderOnly()
     QCOMPARE(sizeof(Process), sizeof(Layout));
 }
 
-void TestProcess::emptyProcessHasNothing()
+void TestProcess::withoutValuesEverythingIsEmpty_data()
 {
-    const Process none(-1);
-    QCOMPARE(none.pid(), -1);
-    QCOMPARE(none.getPPid(), 0);
-    QCOMPARE(none.getName(), QString());
-    QCOMPARE(none.getCpuLoad(), 0);
-    QVERIFY(!none.getParam(0));
-    QVERIFY(!none.getParam(std::numeric_limits<unsigned long>::max()));
+    QTest::addColumn<unsigned long>("pointers");
+    QTest::newRow("no values") << 0UL;
+    QTest::newRow("null pointers") << (0UL + ColumnCount);
 }
 
-void TestProcess::answersComeFromTheValues()
+void TestProcess::withoutValuesEverythingIsEmpty()
+{
+    QFETCH(unsigned long, pointers);
+    Process process(-1);
+    process.params.resize(pointers);
+    QCOMPARE(process.pid(), -1);
+    QCOMPARE(process.getPPid(), 0);
+    QCOMPARE(process.getName(), QString());
+    QCOMPARE(process.getCpuLoad(), 0);
+    QVERIFY(!process.getParam(NameColumn));
+    QVERIFY(!process.getParam(ColumnCount));
+    QVERIFY(!process.getParam(std::numeric_limits<unsigned long>::max()));
+}
+
+void TestProcess::copyOfPidAndValuesAnswersTheSame()
 {
     const Process process = processWith(QStringLiteral("bash"), 7, 1234);
-    QCOMPARE(process.pid(), 42);
-    QCOMPARE(process.getName(), QStringLiteral("bash"));
-    QCOMPARE(process.getPPid(), 7);
-    QCOMPARE(process.getCpuLoad(), 1234);
+    Process kept(-1);
+    kept.id = process.id;
+    kept.params = process.params;
+    QCOMPARE(kept.pid(), 42);
+    QCOMPARE(kept.getName(), QStringLiteral("bash"));
+    QCOMPARE(kept.getPPid(), 7);
+    QCOMPARE(kept.getCpuLoad(), 1234);
+    QCOMPARE(kept.getParam(NameColumn).get(), process.getParam(NameColumn).get());
 }
 
 void TestProcess::counterIsTheLow32Bits_data()
@@ -92,53 +104,17 @@ void TestProcess::counterIsTheLow32Bits()
     QTEST(processWith(QString(), 0, jiffies).getCpuLoad(), "load");
 }
 
-void TestProcess::copyOfPidAndValuesAnswersTheSame()
-{
-    const Process process = processWith(QStringLiteral("bash"), 7, 1234);
-    Process kept(-1);
-    kept.id = process.id;
-    kept.params = process.params;
-    QCOMPARE(kept.pid(), 42);
-    QCOMPARE(kept.getName(), QStringLiteral("bash"));
-    QCOMPARE(kept.getPPid(), 7);
-    QCOMPARE(kept.getCpuLoad(), 1234);
-}
-
-void TestProcess::copiesShareTheirValues()
-{
-    const Process process = processWith(QStringLiteral("bash"), 7, 1234);
-    const Process copy = process; // NOLINT(performance-unnecessary-copy-initialization)
-    QCOMPARE(copy.getParam(NameColumn).get(), process.getParam(NameColumn).get());
-}
-
-void TestProcess::missingValuesAreAnswered()
-{
-    Process process(42);
-    process.params.resize(ColumnCount);
-    QCOMPARE(process.getName(), QString());
-    QCOMPARE(process.getPPid(), 0);
-    QCOMPARE(process.getCpuLoad(), 0);
-    QVERIFY(!process.getParam(NameColumn));
-    QVERIFY(!process.getParam(ColumnCount));
-}
-
 void TestProcess::columnNumbersAreFixed()
 {
-    QCOMPARE(int(NameColumn), 0);
-    QCOMPARE(int(CpuColumn), 1);
-    QCOMPARE(int(PidColumn), 2);
-    QCOMPARE(int(UserColumn), 3);
-    QCOMPARE(int(MemoryColumn), 4);
-    QCOMPARE(int(StateColumn), 5);
-    QCOMPARE(int(VirtualMemoryColumn), 6);
-    QCOMPARE(int(SharedMemoryColumn), 7);
-    QCOMPARE(int(NiceColumn), 8);
-    QCOMPARE(int(ParentPidColumn), 9);
-    QCOMPARE(int(CpuTimeColumn), 10);
-    QCOMPARE(int(StartedColumn), 11);
-    QCOMPARE(int(CommandLineColumn), 12);
-    QCOMPARE(int(ProcessorColumn), 13);
-    QCOMPARE(int(ColumnCount), 14);
+    const int columns[] = {NameColumn,        CpuColumn,       PidColumn,           UserColumn,
+                           MemoryColumn,      StateColumn,     VirtualMemoryColumn, SharedMemoryColumn,
+                           NiceColumn,        ParentPidColumn, CpuTimeColumn,       StartedColumn,
+                           CommandLineColumn, ProcessorColumn, ColumnCount};
+    int expected = 0;
+    for (const int column : columns) {
+        QCOMPARE(column, expected++);
+    }
+    QCOMPARE(expected, 15);
 }
 
 QTEST_GUILESS_MAIN(TestProcess)

@@ -13,7 +13,6 @@ class TestReader : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void onlyYoungProcessesAreReadEntirely();
     void processThatExitsWhileBeingReadIsLeftOut_data();
     void processThatExitsWhileBeingReadIsLeftOut();
@@ -29,11 +28,6 @@ void TestReader::init()
 {
     madeup::setUp();
     reader = ProcessReader();
-}
-
-void TestReader::cleanup()
-{
-    standin::machine() = {};
 }
 
 QMap<int, unsigned> TestReader::unread()

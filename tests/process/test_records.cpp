@@ -16,7 +16,7 @@ using namespace gtop_wrappers;
 
 namespace {
 
-constexpr unsigned everything = ReadState | ReadUid | ReadTime | ReadMemory | ReadArguments;
+constexpr unsigned everything = ReadEverything;
 constexpr guint64 allFlags = ~guint64(0);
 constexpr guint64 highest = std::numeric_limits<guint64>::max();
 
@@ -44,26 +44,17 @@ RawProcess rawProcess()
     return raw;
 }
 
-/// A process that has ended, its pid not reused within the test.
-int endedPid()
+ProcessRecord recordFrom(const RawProcess &raw)
 {
-    const int pid = fork();
-    if (pid == 0) {
-        _exit(0);
-    }
-    waitpid(pid, nullptr, 0);
-    return pid;
+    ProcessRecord record;
+    return toRecord(42, everything, raw, record) ? record : ProcessRecord();
 }
-
-} // namespace
-
-namespace {
 
 int cpusWhileTimesAreRead = -1;
 
 } // namespace
 
-/// In place of libgtop's, which is called in turn.
+/// Replaces libgtop's, and calls it.
 extern "C" void glibtop_get_proc_time(glibtop_proc_time *times, pid_t pid)
 {
     cpusWhileTimesAreRead = glibtop_global_server->ncpu;
@@ -75,106 +66,83 @@ class TestRecords : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void fieldsComeFromLibgtopsRecords();
-    void nothingIsLeftOfTheProcessBefore();
-    void endedWhileReadIsLeftOut_data();
-    void endedWhileReadIsLeftOut();
-    void recordsNotAskedForAreNotLookedAt();
-    void nameWithoutItsEndIsBounded();
-    void extremesAreTaken();
-    void realProcessThatEndedIsLeftOut();
+    void fieldsComeFromLibgtop();
+    void onlyTheReadsThatWereMadeCount();
+    void processThatExitedIsNoRecord_data();
+    void processThatExitedIsNoRecord();
+    void extremes();
     void pidsAreAscendingUniqueAndPositive();
-    void onlyTheAskedUserIsRead();
+    void onlyTheGivenUserIsRead();
     void numberOfArgumentBytesIsBounded();
-    void libgtopIsKeptFromLookingForTimesPerCpu();
+    void libgtopDoesNotLookForTimesPerCpu();
 };
 
-void TestRecords::fieldsComeFromLibgtopsRecords()
+void TestRecords::fieldsComeFromLibgtop()
 {
-    ProcessRecord record;
-    QVERIFY(toRecord(42, everything, rawProcess(), record));
+    const ProcessRecord record = recordFrom(rawProcess());
     QCOMPARE(record.pid, 42);
     QCOMPARE(record.name, QByteArray("bash"));
     QCOMPARE(record.state, 16);
     QCOMPARE(record.user, 1000);
     QCOMPARE(record.parent, 7);
     QCOMPARE(record.nice, -5);
-    QCOMPARE(record.cpuTime, quint64(42)); // its own, without that of its children
+    QCOMPARE(record.cpuTime, quint64(42)); // without its children's
     QCOMPARE(record.frequency, quint64(100));
     QCOMPARE(record.started, quint64(1700000000));
     QCOMPARE(record.virtualSize, quint64(3));
     QCOMPARE(record.resident, quint64(2));
     QCOMPARE(record.shared, quint64(1));
     QCOMPARE(record.arguments, QByteArray("bash\0-l\0", 8));
+    QCOMPARE(record.unread, 0U);
 }
 
-void TestRecords::nothingIsLeftOfTheProcessBefore()
+void TestRecords::onlyTheReadsThatWereMadeCount()
 {
-    ProcessRecord record;
-    QVERIFY(toRecord(42, everything, rawProcess(), record));
-    QVERIFY(toRecord(43, 0, rawProcess(), record));
+    ProcessRecord record = recordFrom(rawProcess());
+    RawProcess raw = rawProcess();
+    raw.memory = {};
+    raw.argumentsInfo = {};
+    QVERIFY(toRecord(43, ReadState | ReadUid | ReadTime, raw, record));
     QCOMPARE(record.pid, 43);
-    QCOMPARE(record.name, QByteArray());
-    QCOMPARE(record.resident, quint64(0));
+    QCOMPARE(record.resident, quint64(0)); // nothing is left of the process before
     QCOMPARE(record.arguments, QByteArray());
+    QCOMPARE(record.unread, unsigned(ReadMemory | ReadArguments));
+    QVERIFY(toRecord(44, 0, raw, record));
+    QCOMPARE(record.name, QByteArray());
+    QCOMPARE(record.unread, everything);
 }
 
-void TestRecords::endedWhileReadIsLeftOut_data()
+void TestRecords::processThatExitedIsNoRecord_data()
 {
-    QTest::addColumn<unsigned>("zeroed");
+    QTest::addColumn<unsigned>("failed");
     QTest::newRow("before the state") << unsigned(ReadState);
     QTest::newRow("before the user") << unsigned(ReadUid);
     QTest::newRow("before the times") << unsigned(ReadTime);
     QTest::newRow("before the memory") << unsigned(ReadMemory);
     QTest::newRow("before the arguments") << unsigned(ReadArguments);
-    QTest::newRow("from the start") << everything;
+    QTest::newRow("before all") << everything;
 }
 
-void TestRecords::endedWhileReadIsLeftOut()
+void TestRecords::processThatExitedIsNoRecord()
 {
-    QFETCH(unsigned, zeroed);
+    QFETCH(unsigned, failed);
+    const int pid = fork();
+    if (pid == 0) {
+        _exit(0);
+    }
+    waitpid(pid, nullptr, 0); // not reused within the test
     RawProcess raw = rawProcess();
-    if (zeroed & ReadState) {
-        raw.state = {};
-    }
-    if (zeroed & ReadUid) {
-        raw.uid = {};
-    }
-    if (zeroed & ReadTime) {
-        raw.time = {};
-    }
-    if (zeroed & ReadMemory) {
-        raw.memory = {};
-    }
-    if (zeroed & ReadArguments) {
-        raw.argumentsInfo = {};
-    }
     ProcessRecord record;
-    QVERIFY(!toRecord(42, everything, raw, record));
+    QVERIFY(toRecord(pid, everything, raw, record));
+    readRaw(pid, failed, raw);
+    QVERIFY(!toRecord(pid, everything, raw, record));
+    QVERIFY(!toRecord(pid, failed, raw, record));
 }
 
-void TestRecords::recordsNotAskedForAreNotLookedAt()
-{
-    RawProcess raw = rawProcess();
-    raw.memory = {};
-    raw.argumentsInfo = {};
-    ProcessRecord record;
-    QVERIFY(toRecord(42, ReadState | ReadUid | ReadTime, raw, record));
-    QCOMPARE(record.arguments, QByteArray());
-}
-
-void TestRecords::nameWithoutItsEndIsBounded()
+void TestRecords::extremes()
 {
     RawProcess raw = rawProcess();
     std::fill(std::begin(raw.state.cmd), std::end(raw.state.cmd), 'x');
-    ProcessRecord record;
-    QVERIFY(toRecord(42, everything, raw, record));
-    QCOMPARE(record.name, QByteArray(sizeof raw.state.cmd, 'x'));
-}
-
-void TestRecords::extremesAreTaken()
-{
-    RawProcess raw = rawProcess();
     raw.state.state = std::numeric_limits<unsigned>::max();
     raw.state.uid = -1;
     raw.state.last_processor = std::numeric_limits<int>::max();
@@ -182,32 +150,19 @@ void TestRecords::extremesAreTaken()
     raw.uid.nice = std::numeric_limits<gint32>::min();
     raw.time.utime = raw.time.stime = raw.time.start_time = raw.time.frequency = highest;
     raw.memory.size = raw.memory.resident = raw.memory.share = highest;
-    ProcessRecord record;
-    QVERIFY(toRecord(42, everything, raw, record));
+    const ProcessRecord record = recordFrom(raw);
+    QCOMPARE(record.name, QByteArray(sizeof raw.state.cmd, 'x')); // no terminator
     QCOMPARE(record.state, -1);
     QCOMPARE(record.user, -1);
     QCOMPARE(record.parent, std::numeric_limits<int>::max());
     QCOMPARE(record.nice, std::numeric_limits<int>::min());
-    QCOMPARE(record.processor, std::numeric_limits<int>::max());
-    raw.state.last_processor = -7;
-    QVERIFY(toRecord(42, everything, raw, record));
-    QCOMPARE(record.processor, 0);
-    raw.state.last_processor = 0;
-    QVERIFY(toRecord(42, everything, raw, record));
-    QCOMPARE(record.processor, 1);
     QCOMPARE(record.cpuTime, quint64(highest - 1)); // wrapped, as unsigned counters do
     QCOMPARE(record.resident, quint64(highest));
-}
-
-void TestRecords::realProcessThatEndedIsLeftOut()
-{
-    const int pid = endedPid();
-    for (const unsigned reads : {ReadState, ReadUid, ReadTime, ReadMemory, ReadArguments}) {
-        RawProcess raw;
-        ProcessRecord record;
-        readRaw(pid, reads, raw);
-        QVERIFY2(!toRecord(pid, reads, raw, record), QByteArray::number(reads).constData());
-    }
+    QCOMPARE(record.processor, std::numeric_limits<int>::max());
+    raw.state.last_processor = -7;
+    QCOMPARE(recordFrom(raw).processor, 0);
+    raw.state.last_processor = 0;
+    QCOMPARE(recordFrom(raw).processor, 1);
 }
 
 void TestRecords::pidsAreAscendingUniqueAndPositive()
@@ -218,11 +173,11 @@ void TestRecords::pidsAreAscendingUniqueAndPositive()
     QVERIFY(std::binary_search(pids.begin(), pids.end(), getpid()));
 }
 
-void TestRecords::onlyTheAskedUserIsRead()
+void TestRecords::onlyTheGivenUserIsRead()
 {
     const std::vector<ProcessRecord> mine = readProcesses(getuid(), ReadState);
     QVERIFY(std::any_of(mine.begin(), mine.end(), [](const ProcessRecord &r) { return r.pid == getpid(); }));
-    // The highest id means "none" to the system, so that nobody has it.
+    // The highest id means "none" to the system, so nobody has it.
     QVERIFY(readProcesses(std::numeric_limits<uid_t>::max(), ReadState).empty());
     QVERIFY(!readProcesses(std::nullopt, ReadState).empty());
 }
@@ -246,9 +201,9 @@ void TestRecords::numberOfArgumentBytesIsBounded()
     waitpid(pid, nullptr, 0);
 }
 
-void TestRecords::libgtopIsKeptFromLookingForTimesPerCpu()
+void TestRecords::libgtopDoesNotLookForTimesPerCpu()
 {
-    glibtop *const server = glibtop_init();
+    auto *server = glibtop_init();
     const int lastCpu = std::exchange(server->ncpu, 7);
     RawProcess raw;
     readRaw(getpid(), ReadTime, raw);

@@ -70,7 +70,6 @@ private Q_SLOTS:
     void emptyRecord();
     void onlyExpensiveReadsAreLeftOut_data();
     void onlyExpensiveReadsAreLeftOut();
-    void everyColumnIsFilledWhateverWasLeftOut();
     void columnsThatBecomeOnDemandOrEager();
 };
 
@@ -322,20 +321,6 @@ void TestSnapshotCache::onlyExpensiveReadsAreLeftOut()
     SnapshotCache cache;
     cache.setEagerColumns(eager);
     QTEST(cache.eagerReads(), "reads");
-}
-
-void TestSnapshotCache::everyColumnIsFilledWhateverWasLeftOut()
-{
-    SnapshotCache cache;
-    ProcessRecord partly = recordOf(42);
-    partly.unread = ReadMemory | ReadArguments | ReadUid;
-    const Process process = cache.snapshot({partly}).at(42);
-    for (unsigned long i = 0; i < ColumnCount; ++i) {
-        QVERIFY(process.getParam(i));
-    }
-    QCOMPARE(process.getName(), QStringLiteral("bash"));
-    QCOMPARE(process.getPPid(), 1);
-    QCOMPARE(process.getCpuLoad(), 100);
 }
 
 void TestSnapshotCache::columnsThatBecomeOnDemandOrEager()
