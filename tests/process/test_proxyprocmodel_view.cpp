@@ -189,28 +189,28 @@ void TestProxyProcModelView::aHeldLayoutComesWhenItIsLetGo()
 {
     List list;
     list.proxy->setFlat(false);
-    list.proxy->setLayoutHeld(true);
+    list.proxy->setLayoutDeferred(true);
     list.proxy->refresh(makeSnapshot({{1, 0}, {2, 1}}));
     list.view.setColumnWidth(0, 777);
     QCOMPARE(list.proxy->rowCount(), 1);
     QVERIFY(!list.view.isExpanded(list.proxy->index(0, 0)));
-    list.proxy->setLayoutHeld(false);
+    list.proxy->setLayoutDeferred(false);
     QVERIFY(list.view.isExpanded(list.proxy->index(0, 0)));
     QVERIFY(list.view.columnWidth(0) != 777);
     list.view.setColumnWidth(0, 777);
-    list.proxy->setLayoutHeld(true);
-    list.proxy->setLayoutHeld(false);
+    list.proxy->setLayoutDeferred(true);
+    list.proxy->setLayoutDeferred(false);
     QCOMPARE(list.view.columnWidth(0), 777);
 }
 
 void TestProxyProcModelView::aResetTakesTheLayoutThatIsHeld()
 {
     List list;
-    list.proxy->setLayoutHeld(true);
+    list.proxy->setLayoutDeferred(true);
     list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
     list.proxy->setProcessTypes(0);
     list.view.setColumnWidth(0, 777);
-    list.proxy->setLayoutHeld(false);
+    list.proxy->setLayoutDeferred(false);
     QCOMPARE(list.view.columnWidth(0), 777); // until a refresh fills the list
     list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
     QVERIFY(list.view.columnWidth(0) != 777);
