@@ -10,8 +10,8 @@ class QWidget;
 
 /// Saves the position and the normal size of the top-level `window` and whether it is maximized, under the
 /// key "geometry" as six integers: left, top, width and height of the client area (inside the frame), height
-/// of the title bar, 1 if maximized. With `withToolBars`, QMainWindow::saveState() is saved under "toolBars"
-/// as well.
+/// of the title bar, 1 if maximized. With `withToolBars`, which only tests use, QMainWindow::saveState() is
+/// saved under "toolBars" as well.
 void zarnSaveGeometry(const QWidget *window, QSettings *settings, bool withToolBars);
 
 /// Restores what zarnSaveGeometry() saved, if the title bar is still reachable on one of the screens.

@@ -121,7 +121,7 @@ QVariant ProcModel::data(const QModelIndex &index, int role) const
 
 QVariant ProcModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    static const ProcessFiller *const filler = ProcessFiller::instance();
+    static const auto *filler = ProcessFiller::instance();
     if (role != Qt::DisplayRole || orientation != Qt::Horizontal || section < 0 || section >= columnCount()) {
         return QAbstractItemModel::headerData(section, orientation, role);
     }

@@ -48,7 +48,8 @@ public:
     /// The flags of the source model; rows of a flat list also have Qt::ItemNeverHasChildren.
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    // As in ProcModel; processAt() takes an index of this proxy.
+    // As in ProcModel. processAt() takes an index of this proxy; processByPid() is required, but only tests
+    // call it.
     gtop_wrappers::Process processAt(const QModelIndex &index) const;
     gtop_wrappers::Process processByPid(int pid) const;
     void sendSignal(int pid, int signal);

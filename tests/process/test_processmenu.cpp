@@ -49,8 +49,7 @@ private Q_SLOTS:
     void withoutAStateAllAreHiddenAndDisabled();
     void expandAndCollapseShowInTreeModeOnly();
     void theTypesAreCheckedByTheList();
-    void disablingLeavesInvisibleActionsAlone();
-    void enablingReachesActionsDeepBelow();
+    void disablingReachesAllVisibleActionsAndNoOthers();
 };
 
 void TestProcessMenu::actionsAreMadeInTheOrderOfTheTable()
@@ -229,25 +228,19 @@ void TestProcessMenu::theTypesAreCheckedByTheList()
     }
 }
 
-void TestProcessMenu::disablingLeavesInvisibleActionsAlone()
+void TestProcessMenu::disablingReachesAllVisibleActionsAndNoOthers()
 {
     const Desk desk; // flat: "Expand all" is hidden
+    const auto *deep = new QAction(desk.action("Tree view"));
     desk.select(5);
     desk.actions->setActionsEnabled(false);
+    QVERIFY(!deep->isEnabled());
     QVERIFY(!desk.action("Tree view")->isEnabled());
     QVERIFY(!desk.action("Kill process")->isEnabled());
     QVERIFY(isEnabledWhenShown(desk.action("Expand all")));
     desk.actions->setActionsEnabled(true);
     QVERIFY(desk.action("Tree view")->isEnabled());
     QVERIFY(desk.action("Kill process")->isEnabled());
-}
-
-void TestProcessMenu::enablingReachesActionsDeepBelow()
-{
-    const Desk desk;
-    auto *deep = new QAction(desk.action("Tree view"));
-    desk.actions->setActionsEnabled(false);
-    QVERIFY(!deep->isEnabled());
 }
 
 QTEST_MAIN(TestProcessMenu)

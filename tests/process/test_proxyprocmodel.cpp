@@ -26,7 +26,7 @@ class TestProxyProcModel : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void startsWithMyProcessesFlatSortedByTheSortValues();
+    void startsWithMyProcessesInAFlatListSortedByTheSortValues();
     void theSourceModelHasTheProxysParent();
     void theLoadIsRelativeToTheTotalSinceTheLastRefresh_data();
     void theLoadIsRelativeToTheTotalSinceTheLastRefresh();
@@ -39,7 +39,7 @@ private Q_SLOTS:
     void columnFlagsAreTheSourcesOwn();
 };
 
-void TestProxyProcModel::startsWithMyProcessesFlatSortedByTheSortValues()
+void TestProxyProcModel::startsWithMyProcessesInAFlatListSortedByTheSortValues()
 {
     const List list;
     QCOMPARE(list.proxy->processTypes(), 1);
