@@ -12,7 +12,7 @@ void Updater::refreshProcesses()
     static gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
     procModel->setTotalCpuTime(totalCpuTime());
     std::vector<bool> wanted(filler->size(), false);
-    const int sortedBy = procModel->sortedColumn();
+    const int sortedBy = procModel->sortedProcessColumn();
     if (sortedBy >= 0) {
         wanted[static_cast<std::size_t>(sortedBy)] = true;
     }

@@ -44,12 +44,12 @@ void Updater::loadSettings()
     if (intervals->interval(NetworkPage) != settings::defaultInterval) {
         timeHisto->setInterval(intervals->interval(NetworkPage)); // or its times would be wrong
     }
-    procModel->setLayoutHeld(true); // each column resets the list, and it is refreshed again and again
+    procModel->setLayoutDeferred(true); // each column resets the list, and it is refreshed again and again
     for (unsigned long i = 0; i < filler->size(); ++i) {
         const QString key = settings::columnKey(filler->name(i));
         procModel->setColumnVisible(i, stored.value(key, procModel->isColumnVisible(i)).toBool());
     }
-    procModel->setLayoutHeld(false);
+    procModel->setLayoutDeferred(false);
     const int order = stored.value(QLatin1String(settings::sortOrder)).toInt();
     const int column = stored.value(QLatin1String(settings::sortColumn)).toInt();
     ui.treeView->sortByColumn(column,

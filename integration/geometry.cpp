@@ -15,9 +15,9 @@ namespace {
 const char geometryKey[] = "geometry";
 const char toolBarsKey[] = "toolBars";
 
-constexpr QSize smallestWindow(64, 32);       // what is smaller can't be read or caught
-constexpr QSize smallestGrip(64, 8);          // of the title bar, to drag the window by
-constexpr int titleBarOfFramelessWindow = 16; // the strip that stands for one where none is drawn
+constexpr QSize smallestWindow(64, 32);       ///< smaller ones can be neither read nor dragged
+constexpr QSize smallestGrip(64, 8);          ///< visible part of the title bar, to drag the window by
+constexpr int titleBarOfFramelessWindow = 16; ///< the strip checked instead if no title bar is drawn
 
 Placement placementOf(const QWidget *window)
 {
@@ -53,7 +53,8 @@ void place(QWidget *window, const Placement &placement, const QRect &defaultRect
 {
     window->setWindowState(window->windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
     if (placement.client.isEmpty()) {
-        // move() means the frame: a title bar above the default's top edge would be off the screen.
+        // setGeometry() would put the title bar above the top edge of the rectangle, off the screen; move()
+        // positions the frame.
         window->move(defaultRect.topLeft());
         window->resize(defaultRect.size());
         return;
@@ -68,7 +69,7 @@ void place(QWidget *window, const Placement &placement, const QRect &defaultRect
 
 void zarnSaveGeometry(const QWidget *window, QSettings *settings, bool withToolBars)
 {
-    settings->setValue(QLatin1String(geometryKey), fieldsOf(placementOf(window)));
+    settings->setValue(QLatin1String(geometryKey), placementFields(placementOf(window)));
     const auto *mainWindow = qobject_cast<const QMainWindow *>(window);
     if (withToolBars && mainWindow) {
         settings->setValue(QLatin1String(toolBarsKey), mainWindow->saveState());

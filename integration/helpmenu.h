@@ -4,19 +4,18 @@
 
 #include <QMenu>
 
-/// The Help menu of a program that called zarnInit(): "About" shows the program's name, version,
-/// description and licence, "About Qt" the toolkit's.
+/// The Help menu of a program that called zarnInit(): "About" shows the name, version, description and
+/// licence of the program, "About Qt" those of the toolkit.
 class ZarnHelpMenu : public QMenu
 {
     Q_OBJECT
 
 public:
-    /// `parent` owns the menu, and its window is the parent of the About box.
+    /// `parent` owns the menu; its window becomes the parent of the About box. May be null.
     explicit ZarnHelpMenu(QWidget *parent);
 
 private Q_SLOTS:
-    /// Shows the About box and returns when the user has closed it. Its icon is the window's, or the
-    /// embedded logo where the desktop's icon theme has none.
+    /// Runs the modal About box. Its icon is that of the window, or the embedded logo if the window has none.
     void showAbout();
 };
 

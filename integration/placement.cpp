@@ -5,12 +5,12 @@
 
 namespace {
 
-constexpr int farthest = 1000000;    // no desktop is larger, and sums of such numbers don't overflow
-constexpr int highestTitleBar = 500; // even on a screen of the highest density
+constexpr int farthest = 1000000;    ///< larger than any desktop, and sums of such numbers don't overflow
+constexpr int highestTitleBar = 500; ///< generous even for high-density screens
 
 } // namespace
 
-QStringList fieldsOf(const Placement &placement)
+QStringList placementFields(const Placement &placement)
 {
     QStringList fields;
     for (int number : {placement.client.x(), placement.client.y(), placement.client.width(),

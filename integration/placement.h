@@ -5,19 +5,18 @@
 #include <QRect>
 #include <QStringList>
 
-/// What is kept of a window's geometry.
+/// The persistent part of a window's geometry.
 struct Placement
 {
-    QRect client; ///< the area inside the frame
+    QRect client; ///< inside the frame; null if unknown
     int titleBarHeight = 0;
     bool maximized = false;
 };
 
-/// As they stand in the settings: left, top, width and height of the client area, height of the title bar,
-/// 1 if maximized.
-QStringList fieldsOf(const Placement &placement);
+/// The setting: left, top, width and height of the client area, height of the title bar, 1 if maximized.
+QStringList placementFields(const Placement &placement);
 
-/// And back. A null client rectangle if the fields aren't six whole numbers that a window can have.
+/// The inverse of placementFields(). A null client rectangle unless the fields are six plausible integers.
 Placement placementFromFields(const QStringList &fields);
 
 #endif

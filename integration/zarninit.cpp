@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The description as zarnInit() was given it: the key under which catalogues hold its translations.
+/// The untranslated description, the source text that zarnDescription() looks up in the catalogues.
 QByteArray &sourceDescription()
 {
     static QByteArray text;

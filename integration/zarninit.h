@@ -4,15 +4,15 @@
 
 class QString;
 
-/// Tells the desktop who is running: `version` becomes QCoreApplication::applicationVersion(),
-/// `description` is kept for the About box. Both are UTF-8; null counts as empty.
+/// Describes the program: `version` becomes QCoreApplication::applicationVersion(), `description` is shown by
+/// the About box. Both are UTF-8; null counts as empty.
 void zarnInit(const char *version, const char *description);
 
-/// The version given to zarnInit(); empty before that.
+/// The version given to zarnInit(); empty before.
 QString zarnVersion();
 
-/// The description given to zarnInit(), in the user's language: it is looked up at each call in the
-/// translation context "ZarnHelpMenu", so translators may be installed before or after zarnInit().
+/// The description given to zarnInit(), translated in the context "ZarnHelpMenu" at each call, so translators
+/// may be installed before or after zarnInit().
 QString zarnDescription();
 
 #endif

@@ -18,17 +18,17 @@ int DlgNice::askPriority(int current)
     QDialog dialog(parentWidget);
     dialog.setWindowTitle(tr("Change priority"));
     dialog.resize(400, 100);
-    auto *const layout = new QVBoxLayout(&dialog);
-    QSlider *const slider = makeSlider(current);
+    auto *layout = new QVBoxLayout(&dialog);
+    QSlider *slider = makeSlider(current);
     layout->addLayout(makeGrid(slider));
-    auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttons, SIGNAL(accepted()), &dialog, SLOT(accept()));
     connect(buttons, SIGNAL(rejected()), &dialog, SLOT(reject()));
     layout->addWidget(buttons);
 
     okButton = buttons->button(QDialogButtonBox::Ok);
     update(current);
-    okButton->setEnabled(false); // only a move of the slider allows OK
+    okButton->setEnabled(false); // until the slider has been moved
 
     const bool accepted = dialog.exec() != QDialog::Rejected;
     okButton = nullptr;
@@ -37,13 +37,13 @@ int DlgNice::askPriority(int current)
 
 QSlider *DlgNice::makeSlider(int current)
 {
-    auto *const slider = new QSlider(Qt::Horizontal);
+    auto *slider = new QSlider(Qt::Horizontal);
     slider->setMinimum(-20);
     slider->setMaximum(20);
     slider->setValue(current);
     slider->setTickInterval(1);
     slider->setTracking(true);
-    slider->setSliderDown(true);
+    slider->setSliderDown(true); // Intentional: required, although no mouse button holds it.
     slider->setPageStep(1);
     connect(slider, SIGNAL(valueChanged(int)), this, SLOT(update(int)));
     return slider;
@@ -51,7 +51,7 @@ QSlider *DlgNice::makeSlider(int current)
 
 QGridLayout *DlgNice::makeGrid(QSlider *slider)
 {
-    auto *const grid = new QGridLayout;
+    auto *grid = new QGridLayout;
     grid->setVerticalSpacing(10);
     valueLabel = new QLabel;
     grid->addWidget(valueLabel, 0, 1, Qt::AlignHCenter | Qt::AlignBottom);

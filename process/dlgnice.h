@@ -15,18 +15,19 @@ class DlgNice : public QObject
 {
     Q_OBJECT
 public:
-    /// `dialogParent` is the parent widget of the dialog; may be null.
+    /// `dialogParent` becomes the parent widget of the dialog; may be null. This object has no QObject
+    /// parent.
     explicit DlgNice(QWidget *dialogParent);
 
-    /// Shows the dialog, modal. The chosen value, -20 to 20 (the kernel takes 20 as 19); `current` unless
-    /// the user pressed OK.
+    /// Runs the modal dialog. Returns the chosen nice value, -20 to 20 (the kernel clamps 20 to 19), or
+    /// `current` unless the user presses OK.
     int askPriority(int current);
 
-    /// Name of the level of a nice value.
+    /// Description of the priority level that a nice value belongs to.
     static QString levelName(int value);
 
 public Q_SLOTS:
-    /// Shows the value and its level, and allows OK. Does nothing while no dialog is shown.
+    /// Shows the value and its level, and enables OK. No-op while no dialog is shown.
     void update(int value);
 
 private:
@@ -34,6 +35,8 @@ private:
     QGridLayout *makeGrid(QSlider *slider);
 
     QWidget *parentWidget;
+    // The next three belong to the dialog being shown. Afterwards the labels dangle and the button is null,
+    // which is what update() checks.
     QLabel *valueLabel;
     QLabel *descriptionLabel;
     QPushButton *okButton;

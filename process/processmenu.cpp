@@ -11,16 +11,19 @@
 #include <QDebug>
 #include <QMessageBox>
 
+#include <signal.h>
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 
 using gtop_wrappers::IntProcessParam;
 using gtop_wrappers::Process;
 
 namespace {
 
-/// What an action does: the first number of its data. The second is the argument.
+/// What an action does: the first number in its data. The second one is the argument.
 enum CommandKind {
     SetTypes = 0,         ///< argument: gtop_wrappers::ProcessTypes
     SendSignal = 1,       ///< argument: signal number
@@ -28,52 +31,20 @@ enum CommandKind {
     ToggleTree = 3,       ///< no argument
     ChangePriority = 4    ///< no argument
 };
-const int none = -1;
+constexpr int noArgument = -1;
+constexpr int unknownKind = -1;
 
-const int stoppedState = 16; // libgtop's code
+/// How an action is checked.
+enum Checking { Plain, Checkable, Exclusive };
 
-/// The question before a signal. The texts are meant as they are, wording included.
-struct Confirmation
+struct Question
 {
-    int signal;
-    const char *title;
-    const char *text;
+    const char *title = nullptr;
+    const char *text = nullptr;
 };
 
-const Confirmation confirmations[] = {
-    {19, QT_TRANSLATE_NOOP("ProcessMenu", "Process stopping"),
-     QT_TRANSLATE_NOOP("ProcessMenu", "Are you really want to stop process?\n"
-                                      "You would be able to resume it later.")},
-    {18, QT_TRANSLATE_NOOP("ProcessMenu", "Process resuming"),
-     QT_TRANSLATE_NOOP("ProcessMenu", "Are you really want to resume process?")},
-    {15, QT_TRANSLATE_NOOP("ProcessMenu", "Process terminating"),
-     QT_TRANSLATE_NOOP("ProcessMenu", "Are you really want to terminate process?\n"
-                                      "Process will have ability to finish normally.")},
-    {9, QT_TRANSLATE_NOOP("ProcessMenu", "Process killing"),
-     QT_TRANSLATE_NOOP("ProcessMenu", "Are you really want to kill process?\n"
-                                      "Process will no have ability to finish normally.\n"
-                                      "All process data can be lost.")},
-    {none, QT_TRANSLATE_NOOP("ProcessMenu", "Unknown signal"),
-     QT_TRANSLATE_NOOP("ProcessMenu", "Unknown signal")},
-};
-
-const Confirmation &confirmationOf(int signal)
-{
-    const Confirmation *row = confirmations;
-    while (row->signal != signal && row->signal != none) {
-        ++row;
-    }
-    return *row;
-}
-
-/// Asks before a signal is sent. Cancel is the default, so that a stray Enter sends nothing.
-bool confirm(int signal)
-{
-    const Confirmation &question = confirmationOf(signal);
-    return QMessageBox::question(nullptr, ProcessMenu::tr(question.title), ProcessMenu::tr(question.text),
-                                 QMessageBox::Ok | QMessageBox::Cancel,
-                                 QMessageBox::Cancel) == QMessageBox::Ok;
-}
+constexpr Question unknownSignalQuestion{QT_TRANSLATE_NOOP("ProcessMenu", "Unknown signal"),
+                                         QT_TRANSLATE_NOOP("ProcessMenu", "Unknown signal")};
 
 /// Value of an integer column of a process; null if the column has none.
 std::tr1::shared_ptr<IntProcessParam> intParam(const Process &process, unsigned long column)
@@ -81,11 +52,11 @@ std::tr1::shared_ptr<IntProcessParam> intParam(const Process &process, unsigned 
     return std::tr1::dynamic_pointer_cast<IntProcessParam>(process.getParam(column));
 }
 
-/// The nice value that the kernel has now; if it does not tell, the one that was read with the process.
+/// The nice value according to the kernel; if getpriority(2) fails, the one that was read with the process.
 int niceOf(const Process &process)
 {
     if (process.pid() > 0) {
-        errno = 0; // -1 is a nice value too
+        errno = 0; // -1 is a valid nice value too
         const int nice = getpriority(PRIO_PROCESS, static_cast<id_t>(process.pid()));
         if (errno == 0) {
             return nice;
@@ -95,11 +66,9 @@ int niceOf(const Process &process)
     return nice ? nice->sortValue().toInt() : 0;
 }
 
-/// How an action is checked.
-enum Checking { Plain, Checkable, Exclusive };
-
 } // namespace
 
+/// One action, and for a signal the question that is asked before it is sent.
 struct ProcessMenu::ActionRow
 {
     QAction *ProcessMenu::*member;
@@ -110,13 +79,17 @@ struct ProcessMenu::ActionRow
     Checking checking;
     CommandKind kind;
     int argument;
+    Question question = {};
 };
 
+static_assert(SIGSTOP == 19 && SIGCONT == 18 && SIGTERM == 15 && SIGKILL == 9,
+              "the data of the actions must hold these numbers");
+
 // clang-format off
-/// In the order of creation.
+/// In the order of creation. Intentional: the questions keep their wording, slips of English included.
 const ProcessMenu::ActionRow ProcessMenu::actionRows[] = {
     {&ProcessMenu::treeView, QT_TRANSLATE_NOOP("ProcessMenu", "Tree view"),
-     "Ctrl+F", "", "", Checkable, ToggleTree, none},
+     "Ctrl+F", "", "", Checkable, ToggleTree, noArgument},
     {&ProcessMenu::expandAll, QT_TRANSLATE_NOOP("ProcessMenu", "Expand all"),
      "", "", "", Plain, ExpandOrCollapse, 1},
     {&ProcessMenu::collapseAll, QT_TRANSLATE_NOOP("ProcessMenu", "Collapse all"),
@@ -126,15 +99,27 @@ const ProcessMenu::ActionRow ProcessMenu::actionRows[] = {
     {&ProcessMenu::myProcesses, QT_TRANSLATE_NOOP("ProcessMenu", "My processes"),
      "Ctrl+M", "", "", Exclusive, SetTypes, gtop_wrappers::MyProcesses},
     {&ProcessMenu::stopProcess, QT_TRANSLATE_NOOP("ProcessMenu", "Stop process"),
-     "Ctrl+S", "media-playback-pause", ":/images/pause", Plain, SendSignal, 19},
+     "Ctrl+S", "media-playback-pause", ":/images/pause", Plain, SendSignal, SIGSTOP,
+     {QT_TRANSLATE_NOOP("ProcessMenu", "Process stopping"),
+      QT_TRANSLATE_NOOP("ProcessMenu", "Are you really want to stop process?\n"
+                                       "You would be able to resume it later.")}},
     {&ProcessMenu::continueProcess, QT_TRANSLATE_NOOP("ProcessMenu", "Continue process"),
-     "Ctrl+C", "media-playback-start", ":/images/continue", Plain, SendSignal, 18},
+     "Ctrl+C", "media-playback-start", ":/images/continue", Plain, SendSignal, SIGCONT,
+     {QT_TRANSLATE_NOOP("ProcessMenu", "Process resuming"),
+      QT_TRANSLATE_NOOP("ProcessMenu", "Are you really want to resume process?")}},
     {&ProcessMenu::terminateProcess, QT_TRANSLATE_NOOP("ProcessMenu", "Terminate process"),
-     "Ctrl+T", "", "", Plain, SendSignal, 15},
+     "Ctrl+T", "", "", Plain, SendSignal, SIGTERM,
+     {QT_TRANSLATE_NOOP("ProcessMenu", "Process terminating"),
+      QT_TRANSLATE_NOOP("ProcessMenu", "Are you really want to terminate process?\n"
+                                       "Process will have ability to finish normally.")}},
     {&ProcessMenu::killProcess, QT_TRANSLATE_NOOP("ProcessMenu", "Kill process"),
-     "Ctrl+K", "", "", Plain, SendSignal, 9},
+     "Ctrl+K", "", "", Plain, SendSignal, SIGKILL,
+     {QT_TRANSLATE_NOOP("ProcessMenu", "Process killing"),
+      QT_TRANSLATE_NOOP("ProcessMenu", "Are you really want to kill process?\n"
+                                       "Process will no have ability to finish normally.\n"
+                                       "All process data can be lost.")}},
     {&ProcessMenu::changePriority, QT_TRANSLATE_NOOP("ProcessMenu", "Change priority..."),
-     "", "", "", Plain, ChangePriority, none},
+     "", "", "", Plain, ChangePriority, noArgument},
 };
 // clang-format on
 
@@ -163,16 +148,16 @@ ProcessMenu::ProcessMenu(QObject *parent, ProxyProcModel *proxy) : QObject(paren
     }
 }
 
-/// The group of the exclusive actions is made before the first of them.
+/// Intentional: the group is created right before its first action, which is its place among the children.
 void ProcessMenu::createAction(const ActionRow &row, QActionGroup *&group)
 {
     if (row.checking == Exclusive && !group) {
         group = new QActionGroup(this);
     }
-    auto *const action = new QAction(tr(row.text), this);
+    auto *action = new QAction(tr(row.text), this);
     action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
     if (*row.themeIcon) {
-        // An icon made from the name would load the system's data base of file types to learn that it is PNG.
+        // QIcon(path) would load the MIME database to find out that the file, which has no suffix, is a PNG.
         action->setIcon(
             QIcon::fromTheme(QLatin1String(row.themeIcon), QPixmap(QLatin1String(row.fallbackIcon), "PNG")));
     }
@@ -181,7 +166,7 @@ void ProcessMenu::createAction(const ActionRow &row, QActionGroup *&group)
         group->addAction(action);
     }
     QList<QVariant> data{row.kind};
-    if (row.argument != none) {
+    if (row.argument != noArgument) {
         data.append(row.argument);
     }
     action->setData(data);
@@ -193,7 +178,7 @@ void ProcessMenu::fillMenu(QMenu *menu)
 {
     lastMenu = menu;
     treeView->setChecked(!model->isFlat());
-    for (QAction *ProcessMenu::*const member : menuOrder) {
+    for (QAction *ProcessMenu::*member : menuOrder) {
         if (member) {
             menu->addAction(this->*member);
         } else {
@@ -223,15 +208,14 @@ void ProcessMenu::updateSignalActions()
     const bool isProcess = selected.pid() != -1;
     const auto state =
         isProcess ? intParam(selected, gtop_wrappers::StateColumn) : std::tr1::shared_ptr<IntProcessParam>();
-    for (QAction *const action :
-         {stopProcess, continueProcess, terminateProcess, killProcess, changePriority}) {
+    for (QAction *action : {stopProcess, continueProcess, terminateProcess, killProcess, changePriority}) {
         action->setVisible(state != nullptr);
     }
-    const bool stopped = state && state->value() == stoppedState;
+    const bool stopped = state && state->value() == gtop_wrappers::stoppedState;
     stopProcess->setEnabled(state && !stopped);
     continueProcess->setEnabled(stopped);
-    if (isProcess) { // without a process the hidden rest is meant to be left as it is
-        for (QAction *const action : {terminateProcess, killProcess, changePriority}) {
+    if (isProcess) { // Intentional: without a process the other three, now hidden, keep their enabled state.
+        for (QAction *action : {terminateProcess, killProcess, changePriority}) {
             action->setEnabled(state != nullptr);
         }
     }
@@ -239,7 +223,7 @@ void ProcessMenu::updateSignalActions()
 
 void ProcessMenu::setActionsEnabled(bool on)
 {
-    for (QAction *const action : findChildren<QAction *>()) {
+    for (QAction *action : findChildren<QAction *>()) {
         if (action->isVisible()) {
             action->setEnabled(on);
         }
@@ -248,13 +232,13 @@ void ProcessMenu::setActionsEnabled(bool on)
 
 void ProcessMenu::process()
 {
-    const auto *const action = qobject_cast<QAction *>(sender());
+    const auto *action = qobject_cast<QAction *>(sender());
     if (!action) {
         qCritical() << Q_FUNC_INFO << "call not by signal";
         return;
     }
     const QList<QVariant> data = action->data().toList();
-    const int kind = data.value(0, none).toInt();
+    const int kind = data.value(0, unknownKind).toInt();
     const int argument = data.value(1).toInt();
     switch (kind) {
     case SendSignal:
@@ -281,12 +265,26 @@ void ProcessMenu::process()
     }
 }
 
-/// The process is taken before the question: while the box is open the selection can change, and what was
-/// asked about is what gets the signal.
+/// Asks before a signal is sent; false unless the user presses OK.
+bool ProcessMenu::confirmSignal(int signal)
+{
+    const auto sendsIt = [signal](const ActionRow &row) {
+        return row.kind == SendSignal && row.argument == signal;
+    };
+    const auto *row = std::find_if(std::begin(actionRows), std::end(actionRows), sendsIt);
+    const Question &question = row != std::end(actionRows) ? row->question : unknownSignalQuestion;
+    // Cancel is the default, so that a stray Enter sends nothing.
+    return QMessageBox::question(nullptr, tr(question.title), tr(question.text),
+                                 QMessageBox::Ok | QMessageBox::Cancel,
+                                 QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
+/// Copies the pid before the box opens: the selection can change while its event loop runs, and the signal
+/// must go to the process that the user was asked about.
 void ProcessMenu::signalSelected(int signal)
 {
     const int pid = selected.pid();
-    if (confirm(signal)) {
+    if (confirmSignal(signal)) {
         model->sendSignal(pid, signal);
     }
 }

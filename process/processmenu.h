@@ -12,23 +12,24 @@ class ProxyProcModel;
 class QAction;
 class QActionGroup;
 
-/// The actions of the process list and of the selected process. They are children of this object and are
-/// put into menus by fillMenu().
+/// The actions on the process list and on the selected process. The actions are children of this object and
+/// are shared by all the menus that fillMenu() fills.
 class ProcessMenu : public QObject
 {
     Q_OBJECT
 public:
+    /// `proxy` is not owned and must outlive this object.
     ProcessMenu(QObject *parent, ProxyProcModel *proxy);
 
-    /// Adds the actions to a menu; may be called for several menus.
+    /// Appends the actions to `menu`; may be called for several menus.
     void fillMenu(QMenu *menu);
-    /// The selected process, Process(-1) for none: shows, enables and checks the actions accordingly.
+    /// Selects a copy of `process`, Process(-1) for none, and shows, enables and checks the actions for it.
     void setProcess(const gtop_wrappers::Process &process);
-    /// Enables or disables the visible actions; invisible ones are left alone.
+    /// Enables or disables every visible action below this object; invisible ones are left alone.
     void setActionsEnabled(bool on);
 
 public Q_SLOTS:
-    /// Carries out the action that sent the signal.
+    /// Runs the command of the QAction that is the sender; any other caller gets a critical log line.
     void process();
 
 private:
@@ -36,6 +37,7 @@ private:
     static const ActionRow actionRows[];
     static QAction *ProcessMenu::*const menuOrder[];
 
+    static bool confirmSignal(int signal);
     void createAction(const ActionRow &row, QActionGroup *&group);
     void updateListActions();
     void updateSignalActions();
@@ -54,7 +56,8 @@ private:
     QAction *changePriority;
     ProxyProcModel *model;
     gtop_wrappers::Process selected; ///< a copy, which can be stale
-    QPointer<QMenu> lastMenu;        ///< a context menu is gone before the next one is filled
+    /// Required, but never read. Guarded, since a context menu is deleted long before this object.
+    QPointer<QMenu> lastMenu;
 };
 
 #endif

@@ -29,7 +29,7 @@ int ProcItem::row() const
     return static_cast<int>(std::find(siblings.begin(), siblings.end(), this) - siblings.begin());
 }
 
-bool ProcItem::hangsUnder(const ProcItem *ancestor) const
+bool ProcItem::isDescendantOf(const ProcItem *ancestor) const
 {
     const ProcItem *item = parentItem;
     while (item && item != ancestor) {
@@ -62,9 +62,9 @@ bool ProcItem::update(const gtop_wrappers::Process &fresh, quint64 totalDelta)
     if (updated) {
         return false;
     }
-    cpuPercent = takeCpuShare(fresh.getCpuLoad(), totalDelta);
+    cpuPercent = nextCpuShare(fresh.getCpuLoad(), totalDelta);
     const gtop_wrappers::ParamPtr load = fresh.getParam(gtop_wrappers::CpuColumn);
-    if (auto *const cpu = dynamic_cast<gtop_wrappers::CpuProcessParam *>(load.get())) {
+    if (auto *cpu = dynamic_cast<gtop_wrappers::CpuProcessParam *>(load.get())) {
         cpu->showPercent(cpuPercent);
     }
     itemProcess.id = fresh.id;
@@ -73,13 +73,13 @@ bool ProcItem::update(const gtop_wrappers::Process &fresh, quint64 totalDelta)
     return true;
 }
 
-/// The share in percent that `counter` has grown by since the last update. Not guarded against a total of
-/// 0: that gives an infinity or NaN, and shows so. A counter that fell wraps to a huge share.
-double ProcItem::takeCpuShare(int counter, quint64 totalDelta)
+/// Growth of `counter` since the last call, in percent of `totalDelta`. Intentional: a total of 0 gives
+/// infinity or NaN, which is shown as such, and a counter that fell wraps to a huge share.
+double ProcItem::nextCpuShare(int counter, quint64 totalDelta)
 {
     if (previousCpu == 0) {
-        // The first share is meant to be one unit, not 0; and since 0 stands for "none yet", a process whose
-        // counter stays 0 is meant to come here on every refresh.
+        // Intentional: the first share is one unit, not 0. Since 0 means "none yet", a process whose counter
+        // stays 0 gets here on every refresh and never shows a share of exactly 0.
         previousCpu = static_cast<int>(static_cast<unsigned int>(counter) - 1U);
     }
     const qint64 current = counter;

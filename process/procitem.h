@@ -9,14 +9,14 @@
 
 #include <vector>
 
-/// One process of the model, or the invisible root above all. ProcModel's map owns the items; parents and
-/// children know one another by plain pointers.
+/// A node of ProcModel: one process, or the invisible root. ProcModel owns the items; parents and children
+/// refer to one another by plain pointers.
 class ProcItem
 {
 public:
-    /// An item without a process (pid -1). It knows its parent at once; the parent knows it from append() on.
-    ProcItem(const QList<QVariant> &itemData, ProcItem *parent);
-    /// Leaves its parent; its children live on without one.
+    /// An item for Process(-1). It refers to its parent at once, but becomes its child only by append().
+    ProcItem(const QList<QVariant> &data, ProcItem *parent);
+    /// Leaves its parent; its children stay alive without a parent.
     ~ProcItem();
 
     int pid() const { return itemProcess.pid(); }
@@ -24,37 +24,38 @@ public:
 
     ProcItem *parent() const { return parentItem; }
     int childCount() const { return static_cast<int>(children.size()); }
-    /// The child in that row; null outside.
+    /// The child at `row`; null if there is none.
     ProcItem *child(int row) const;
     /// Position among the parent's children; 0 without a parent.
     int row() const;
-    /// Whether the chain of parents reaches `ancestor`.
-    bool hangsUnder(const ProcItem *ancestor) const;
+    bool isDescendantOf(const ProcItem *ancestor) const;
 
+    /// Does not set the child's parent, which the constructor did.
     void append(ProcItem *child) { children.push_back(child); }
-    /// Goes out of the parent's children and forgets the parent.
+    /// Removes itself from the parent's children and clears the parent.
     void leaveParent();
-    /// Forgets parent and children without telling them: for taking everything down at once.
+    /// Clears parent and children without updating them; only for destroying all items at once.
     void forgetRelatives();
 
-    /// Starts a refresh: the item has not been updated in it.
+    /// Begins a refresh: update() works once until the next call.
     void startPass() { updated = false; }
-    /// Takes over the values of `fresh` and computes its CPU load against `totalDelta`, the machine's CPU
-    /// time since the last refresh in the unit of getCpuLoad(). False if already done in this refresh.
+    /// Copies the values of `fresh` and computes the CPU load relative to `totalDelta`, the CPU time of the
+    /// machine since the last refresh in the unit of getCpuLoad(). The load is also written into the CPU
+    /// value that `fresh` shares with this item. Returns false if already called in this refresh.
     bool update(const gtop_wrappers::Process &fresh, quint64 totalDelta);
 
 private:
     Q_DISABLE_COPY(ProcItem)
 
-    double takeCpuShare(int counter, quint64 totalDelta);
+    double nextCpuShare(int counter, quint64 totalDelta);
 
     std::vector<ProcItem *> children;
-    QList<QVariant> itemData; ///< empty for every item
+    QList<QVariant> itemData; ///< required; empty for every item and never read
     ProcItem *parentItem;
     gtop_wrappers::Process itemProcess;
     qint64 previousCpu; ///< CPU counter at the last update; 0 = none yet
-    double cpuPercent;
-    bool updated;
+    double cpuPercent;  ///< required; the CPU column holds the load that is shown
+    bool updated;       ///< in the current refresh
 };
 
 #endif

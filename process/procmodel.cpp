@@ -19,7 +19,7 @@ using gtop_wrappers::ProcessFiller;
 
 namespace {
 
-/// Unchanged values are the same objects from one snapshot to the next, most of the time.
+/// Shortcut for isSameProcess(): unchanged values are mostly the same objects in successive snapshots.
 bool sharesIdentity(const Process &known, const Process &fresh)
 {
     using namespace gtop_wrappers;
@@ -28,7 +28,7 @@ bool sharesIdentity(const Process &known, const Process &fresh)
            known.params[ParentPidColumn] == fresh.params[ParentPidColumn];
 }
 
-/// A pid that was taken by another program, or a process that got another parent, is not the same.
+/// False if the pid was reused by another program or the process was reparented.
 bool isSameProcess(const Process &known, const Process &fresh)
 {
     if (sharesIdentity(known, fresh)) {
@@ -43,8 +43,8 @@ void showError(const QString &whatFailed, int error)
                          whatFailed + QString::fromLocal8Bit(strerror(error)), QMessageBox::Ok);
 }
 
-/// Runs a system call on one process and returns its errno, 0 for success. A pid of 0 or below would mean
-/// a group, or everyone, and is answered as "no such process".
+/// Runs a system call on one process and returns its errno, 0 for success. A pid of 0 or below would mean a
+/// process group or everyone, so it gives ESRCH without the call.
 template <typename Call>
 int onProcess(int pid, Call call)
 {
@@ -73,8 +73,8 @@ ProcModel::~ProcModel()
 
 QModelIndex ProcModel::index(int row, int column, const QModelIndex &parent) const
 {
-    const ProcItem *const above = itemOf(parent);
-    const ProcItem *const item = above ? above->child(row) : nullptr;
+    const ProcItem *above = itemOf(parent);
+    const ProcItem *item = above ? above->child(row) : nullptr;
     if (!item || column < 0 || column >= columnCount()) {
         return QModelIndex();
     }
@@ -83,14 +83,14 @@ QModelIndex ProcModel::index(int row, int column, const QModelIndex &parent) con
 
 QModelIndex ProcModel::parent(const QModelIndex &index) const
 {
-    const ProcItem *const item = index.isValid() ? itemOf(index) : nullptr;
+    const ProcItem *item = index.isValid() ? itemOf(index) : nullptr;
     return item ? indexOf(item->parent()) : QModelIndex();
 }
 
-/// The parent's column is not looked at, on purpose: every cell of a row has the row's children.
+/// Intentional: the column of `parent` is ignored, so every cell of a row has the children of the row.
 int ProcModel::rowCount(const QModelIndex &parent) const
 {
-    const ProcItem *const item = itemOf(parent);
+    const ProcItem *item = itemOf(parent);
     return item ? item->childCount() : 0;
 }
 
@@ -105,14 +105,14 @@ QVariant ProcModel::data(const QModelIndex &index, int role) const
         index.column() >= columnCount()) {
         return QVariant();
     }
-    const ProcItem *const item = itemOf(index);
+    const ProcItem *item = itemOf(index);
     if (!item) {
         return QVariant();
     }
     const unsigned long column = visibleColumns[static_cast<std::size_t>(index.column())];
-    // Not through getParam(): a sort comes here often enough for copies of the pointer to be felt.
+    // getParam() would copy a shared pointer, which shows in the time that a sort takes.
     const std::vector<gtop_wrappers::ParamPtr> &params = item->process().params;
-    const gtop_wrappers::IProcessParam *const param = column < params.size() ? params[column].get() : nullptr;
+    const gtop_wrappers::IProcessParam *param = column < params.size() ? params[column].get() : nullptr;
     if (!param) {
         return QVariant();
     }
@@ -121,7 +121,7 @@ QVariant ProcModel::data(const QModelIndex &index, int role) const
 
 QVariant ProcModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    static const ProcessFiller *const filler = ProcessFiller::instance();
+    static const auto *filler = ProcessFiller::instance();
     if (role != Qt::DisplayRole || orientation != Qt::Horizontal || section < 0 || section >= columnCount()) {
         return QAbstractItemModel::headerData(section, orientation, role);
     }
@@ -169,20 +169,20 @@ void ProcModel::clear()
 
 void ProcModel::update(const Snapshot &snapshot, unsigned long totalDelta, int)
 {
-    // The order of the signals matters to proxy and view: rows of processes that are not the same any more
-    // go before the layout change is announced, and nothing comes or goes between its two signals.
+    // QSortFilterProxyModel and QTreeView keep stale mappings if rows are inserted or removed between the two
+    // layout signals, so mismatched rows are removed before them.
     const Matches matches = matchSnapshot(snapshot);
     Q_EMIT layoutAboutToBeChanged();
     updateKnown(matches.known, totalDelta);
-    Q_EMIT layoutChanged(); // stands for dataChanged() too: makes proxy and view read everything again
+    Q_EMIT layoutChanged(); // also replaces dataChanged(): proxy and view re-read everything
 
-    for (const Process *const process : matches.fresh) {
+    for (const Process *process : matches.fresh) {
         insertWithAncestors(*process, snapshot, totalDelta);
     }
-    // A process that was removed and inserted again above is still stale: it is meant to go, and to come
-    // back with the next refresh.
+    // Intentional: a mismatched process, removed and reinserted above, is still stale, so it is removed again
+    // here and comes back with the next refresh.
     for (const int pid : matches.stale) {
-        if (ProcItem *const item = itemByPid(pid)) {
+        if (ProcItem *item = itemByPid(pid)) {
             removeSubtree(item);
         }
     }
@@ -209,7 +209,7 @@ Process ProcModel::processByPid(int pid) const
     if (found == items.end()) {
         return Process(-1);
     }
-    // A guard that is meant to be fatal: rather no program than an action on the wrong process.
+    // Intentional: this consistency check is fatal, as no program is better than a signal to a wrong process.
     const ItemPtr &item = found->second;
     if (std::none_of(items.begin(), items.end(), [&](const auto &entry) { return entry.second == item; })) {
         std::exit(-1);
@@ -222,15 +222,16 @@ Process ProcModel::processAt(const QModelIndex &index) const
     return index.isValid() ? processByPid(static_cast<int>(index.internalId())) : Process(-1);
 }
 
-/// The root for an invalid index; null for a process that is gone.
+/// The root for an invalid index; null for a stale one.
 ProcItem *ProcModel::itemOf(const QModelIndex &index) const
 {
     if (!index.isValid()) {
         return root.get();
     }
     const int pid = static_cast<int>(index.internalId());
-    // A guess that is right for every index of a flat list that is up to date; a sort comes here often.
-    ProcItem *const inThatRow = root->child(index.row());
+    // Saves the lookup, which shows in the time that a sort takes: right for every current index of a flat
+    // list.
+    ProcItem *inThatRow = root->child(index.row());
     return inThatRow && inThatRow->pid() == pid ? inThatRow : itemByPid(pid);
 }
 
@@ -249,7 +250,7 @@ QModelIndex ProcModel::indexOf(const ProcItem *item) const
     return createIndex(item->row(), 0, static_cast<quintptr>(item->pid()));
 }
 
-/// Sorts the snapshot into known and new processes, and removes the items whose pid now means another.
+/// Compares the snapshot with the items, and removes the items whose pid now means another process.
 ProcModel::Matches ProcModel::matchSnapshot(const Snapshot &snapshot)
 {
     std::vector<int> before;
@@ -264,7 +265,7 @@ ProcModel::Matches ProcModel::matchSnapshot(const Snapshot &snapshot)
     std::vector<int> knownPids;
     knownPids.reserve(snapshot.size());
     for (const auto &entry : snapshot) {
-        ProcItem *const item = itemByPid(entry.first);
+        ProcItem *item = itemByPid(entry.first);
         if (item && isSameProcess(item->process(), entry.second)) {
             matches.known.push_back(&entry.second);
             knownPids.push_back(entry.first);
@@ -282,16 +283,16 @@ ProcModel::Matches ProcModel::matchSnapshot(const Snapshot &snapshot)
 
 void ProcModel::updateKnown(const ProcessList &known, quint64 totalDelta)
 {
-    for (const Process *const process : known) {
-        // It may have gone with a removed ancestor; it then comes back with the next refresh.
-        if (ProcItem *const item = itemByPid(process->pid())) {
+    for (const Process *process : known) {
+        // Null if it was removed together with an ancestor; the next refresh then inserts it.
+        if (ProcItem *item = itemByPid(process->pid())) {
             item->update(*process, totalDelta);
         }
     }
 }
 
-/// The process and its ancestors in the snapshot, from the process upward. Parents can form a ring: one
-/// that is already in the line counts as not in the snapshot.
+/// The process and its ancestors in the snapshot, from the process upward. Parent pids can form a ring: an
+/// ancestor that is already in the line counts as not in the snapshot.
 ProcModel::ProcessList ProcModel::lineage(const Process &process, const Snapshot &snapshot) const
 {
     ProcessList line{&process};
@@ -304,8 +305,8 @@ ProcModel::ProcessList ProcModel::lineage(const Process &process, const Snapshot
     return line;
 }
 
-/// In tree mode every ancestor is made anew, whether it has an item or not: meant so. The item that an
-/// ancestor had before goes, and the children that hung under it stay in the model without a parent.
+/// Intentional: in tree mode every ancestor gets a new item even if it has one already. The old item is
+/// destroyed, and its children stay in the model without a parent, where no view sees them.
 void ProcModel::insertWithAncestors(const Process &process, const Snapshot &snapshot, quint64 totalDelta)
 {
     const ProcessList line = flat ? ProcessList{&process} : lineage(process, snapshot);
@@ -317,7 +318,7 @@ void ProcModel::insertWithAncestors(const Process &process, const Snapshot &snap
 
 ProcItem *ProcModel::insert(const Process &process, ProcItem *parent, quint64 totalDelta)
 {
-    if (ProcItem *const replaced = itemByPid(process.pid())) {
+    if (ProcItem *replaced = itemByPid(process.pid())) {
         detach(replaced);
     }
     const int row = parent->childCount();
@@ -330,10 +331,11 @@ ProcItem *ProcModel::insert(const Process &process, ProcItem *parent, quint64 to
     return item.get();
 }
 
-/// Takes an item that is about to be replaced out of the rows, with the signals that views need.
+/// Removes the row of an item that is about to be replaced: views would keep stale mappings if the item just
+/// disappeared.
 void ProcModel::detach(ProcItem *item)
 {
-    if (!item->hangsUnder(root.get())) {
+    if (!item->isDescendantOf(root.get())) {
         return;
     }
     const int row = item->row();
@@ -342,11 +344,11 @@ void ProcModel::detach(ProcItem *item)
     endRemoveRows();
 }
 
-/// Removes the item with all below it, last child first. Loops instead of recursing: a chain of parents can
-/// be as long as the process table. No signals for what no view can see.
+/// Removes the item and its descendants, last child first. Iterative, since a line of ancestors can be as
+/// long as the process table. Emits no signals for items that are not below the root, as no view sees them.
 void ProcModel::removeSubtree(ProcItem *top)
 {
-    const bool shown = top->hangsUnder(root.get());
+    const bool shown = top->isDescendantOf(root.get());
     ProcItem *item = top;
     bool done = false;
     while (!done) {
@@ -354,7 +356,7 @@ void ProcModel::removeSubtree(ProcItem *top)
             item = item->child(item->childCount() - 1);
         }
         done = item == top;
-        ProcItem *const above = item->parent();
+        ProcItem *above = item->parent();
         removeChildless(item, shown);
         item = above;
     }
@@ -373,7 +375,7 @@ void ProcModel::removeChildless(ProcItem *item, bool shown)
     }
 }
 
-/// Relatives first: items that leave one another one by one would cost the square of their number.
+/// Clears the links first: each item would otherwise search its parent's children, which is quadratic.
 void ProcModel::destroyItems()
 {
     root->forgetRelatives();

@@ -11,10 +11,10 @@
 #include <tr1/memory>
 #include <vector>
 
-/// The processes as a tree by parent pid or as a flat list, brought up to date from snapshots.
+/// The processes as a tree by parent pid or as a flat list, updated from snapshots.
 ///
-/// An index carries its process's pid as internal id and finds its item through the map, so an index that
-/// outlived its item is harmless.
+/// The internal id of an index is the pid, which is looked up in a map, so an index that outlives its item is
+/// harmless.
 class ProcModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -24,12 +24,12 @@ public:
     explicit ProcModel(QObject *parent = nullptr);
     ~ProcModel() override;
 
-    /// Invalid outside the rows and visible columns.
+    /// Invalid outside the rows and the visible columns.
     QModelIndex index(int row, int column, const QModelIndex &parent = QModelIndex()) const override;
     QModelIndex parent(const QModelIndex &index) const override;
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
-    /// Qt::DisplayRole: what the cell shows; Qt::UserRole: what it is sorted by.
+    /// Qt::DisplayRole gives the shown value, Qt::UserRole the value to sort by; other roles give none.
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
@@ -40,37 +40,39 @@ public:
 
     /// Throws std::out_of_range past the last process column.
     bool isColumnVisible(unsigned long i) const;
-    /// Throws std::out_of_range past the last process column. Sends no signal: the caller resets.
+    /// Throws std::out_of_range past the last process column. Emits no signal: the caller must reset.
     void setColumnVisible(unsigned long i, bool on);
 
-    /// The process column that a column of the view shows; -1 outside.
+    /// The process column shown in the model's column `column`; -1 if there is none.
     int processColumn(int column) const;
 
+    /// Removes all processes; the columns and the mode stay.
     void clear();
-    /// Brings the model to the snapshot. `totalDelta`: CPU time of the machine since the last refresh, in the
-    /// unit of Process::getCpuLoad(). The third argument is unused.
+    /// Makes the model match the snapshot. `totalDelta` is the CPU time of the machine since the last
+    /// refresh, in the unit of Process::getCpuLoad(). The third argument is required, but unused.
     void update(const Snapshot &snapshot, unsigned long totalDelta, int = 0);
 
-    /// kill(2); a failure is shown in a warning box. A pid of 0 or below is never handed on.
+    /// kill(2); a failure opens a warning box. A pid of 0 or below, which would mean a process group or
+    /// everyone, fails as ESRCH without the call.
     void sendSignal(int pid, int signal);
-    /// setpriority(2) on one process, nice value -20 to 19; a failure is shown in a warning box. A pid of 0
-    /// or below is never handed on.
+    /// setpriority(2) on one process, nice value -20 to 19. Fails like sendSignal().
     void setPriority(int pid, int priority);
 
-    /// A copy of the process; Process(-1) if the model does not have it.
+    /// A copy of the process; Process(-1) if it is not in the model.
     gtop_wrappers::Process processByPid(int pid) const;
+    /// A copy of the process in the row of `index`; Process(-1) for an invalid or stale index.
     gtop_wrappers::Process processAt(const QModelIndex &index) const;
 
 private:
     using ItemPtr = std::tr1::shared_ptr<ProcItem>;
     using ProcessList = std::vector<const gtop_wrappers::Process *>;
 
-    /// What became of a snapshot when it was held against the items.
+    /// The difference between a snapshot and the items.
     struct Matches
     {
         ProcessList known;      ///< to be updated
         ProcessList fresh;      ///< to be inserted
-        std::vector<int> stale; ///< pids to be removed in the end, ascending
+        std::vector<int> stale; ///< pids to be removed last, ascending
     };
 
     ProcItem *itemOf(const QModelIndex &index) const;

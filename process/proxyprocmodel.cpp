@@ -4,8 +4,8 @@
 #include "process/gtop_wrappers/filler.h"
 
 ProxyProcModel::ProxyProcModel(QObject *parent)
-    : QSortFilterProxyModel(parent), source(new ProcModel(parent)), pendingLayout(true), layoutHeld(false),
-      layoutOwed(false), types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
+    : QSortFilterProxyModel(parent), source(new ProcModel(parent)), expandAndFit(true), layoutDeferred(false),
+      layoutPending(false), types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
 {
     setSortRole(Qt::UserRole);
     setDynamicSortFilter(true);
@@ -31,36 +31,36 @@ void ProxyProcModel::setTotalCpuTime(unsigned long total)
 void ProxyProcModel::refresh(const ProcModel::Snapshot &snapshot, int)
 {
     source->update(snapshot, currentCpuTotal - previousCpuTotal, 0);
-    layoutOwed = true;
-    payLayout();
+    layoutPending = true;
+    layOutUnlessDeferred();
 }
 
-void ProxyProcModel::setLayoutHeld(bool held)
+void ProxyProcModel::setLayoutDeferred(bool deferred)
 {
-    layoutHeld = held;
-    payLayout();
+    layoutDeferred = deferred;
+    layOutUnlessDeferred();
 }
 
-void ProxyProcModel::payLayout()
+void ProxyProcModel::layOutUnlessDeferred()
 {
-    if (layoutOwed && !layoutHeld && view) {
-        layOutView();
-        layoutOwed = false;
+    if (!layoutPending || layoutDeferred || !view) {
+        return;
     }
-}
-
-void ProxyProcModel::layOutView()
-{
-    if (pendingLayout) {
-        expandAll();
-        for (int column = 0; column < columnCount(); ++column) {
-            view->resizeColumnToContents(column);
-        }
-        pendingLayout = false;
+    if (expandAndFit) {
+        expandAndFitView();
+        expandAndFit = false;
     }
-    // At once: the view would lay out on a timer, and a scroll that comes first would read rows that are
-    // gone.
+    // The view on its own would lay out on a zero timer, and a scroll before that would read freed mappings.
     view->doItemsLayout();
+    layoutPending = false;
+}
+
+void ProxyProcModel::expandAndFitView()
+{
+    expandAll();
+    for (int column = 0; column < columnCount(); ++column) {
+        view->resizeColumnToContents(column);
+    }
 }
 
 void ProxyProcModel::setProcessTypes(int processTypes)
@@ -91,8 +91,8 @@ void ProxyProcModel::setColumnVisible(unsigned long i, bool on)
     reset();
 }
 
-/// Without it the view would keep, for each row that is expanded together with all, an index that has to be
-/// followed through every refresh.
+/// Qt::ItemNeverHasChildren keeps expandAll() from storing a persistent index for every row of a flat list;
+/// removing thousands of such rows is quadratic.
 Qt::ItemFlags ProxyProcModel::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags flags = QSortFilterProxyModel::flags(index);
@@ -133,13 +133,13 @@ void ProxyProcModel::collapseAll()
     }
 }
 
-/// modelReset() comes twice from here, once for the source's reset and once for this one, and a third time
-/// before when the mode changes: each is meant to make the controller refresh.
+/// Intentional: modelReset() is emitted twice here, once for the reset of the source and once for this one,
+/// and once more before if the mode changes. The controller refreshes on each.
 void ProxyProcModel::reset()
 {
     beginResetModel();
     source->clear();
-    pendingLayout = true;
-    layoutOwed = false;
+    expandAndFit = true;
+    layoutPending = false;
     endResetModel();
 }

@@ -8,28 +8,30 @@
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 
-/// The sorted process list that the view shows, and the one object through which the rest of the program
-/// reaches the processes.
+/// The sorted process list that the view shows, and the only access to the processes for the rest of the
+/// program.
 class ProxyProcModel : public QSortFilterProxyModel
 {
     Q_OBJECT
 public:
-    /// Makes the process model too, with the same parent.
+    /// Also creates the process model, which is owned by `parent` and not by this proxy.
     explicit ProxyProcModel(QObject *parent);
     ~ProxyProcModel() override;
 
-    /// Puts the list into the view. Needed before the first refresh; the view is not owned.
+    /// Shows the list in a view, which is not owned and may be null. Needed before the first refresh, since
+    /// the proxy has no source model before.
     void setView(QTreeView *treeView);
 
-    /// The machine's CPU time since boot, in the unit of Process::getCpuLoad(); told before each refresh.
+    /// CPU time of the machine since boot, in the unit of Process::getCpuLoad(). To be set before each
+    /// refresh.
     void setTotalCpuTime(unsigned long total);
-    /// Brings list and view up to date; the first time and after a reset expands all rows and fits the
-    /// columns. The second argument is unused.
+    /// Updates the list and lays out the view. The first layout, and the first after a reset, also expands
+    /// all rows and fits the columns. The second argument is required, but unused.
     void refresh(const ProcModel::Snapshot &snapshot, int = 0);
 
-    /// As long as the layout is held, refreshes owe the view its rows and column widths; it gets them in the
-    /// end. For changes in a row that nobody sees.
-    void setLayoutHeld(bool held);
+    /// While the layout is deferred, refresh() does not lay out the view; the end of the deferral does. For a
+    /// series of changes whose intermediate states nobody sees.
+    void setLayoutDeferred(bool deferred);
 
     /// Which processes are listed: a gtop_wrappers::ProcessTypes.
     int processTypes() const { return types; }
@@ -41,15 +43,15 @@ public:
     void setColumnVisible(unsigned long i, bool on);
 
     /// The process column that the list is sorted by; -1 if it is not sorted.
-    int sortedColumn() const { return source->processColumn(sortColumn()); }
+    int sortedProcessColumn() const { return source->processColumn(sortColumn()); }
 
-    /// The source's; in a flat list also that no row ever has children.
+    /// The flags of the source model; rows of a flat list also have Qt::ItemNeverHasChildren.
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    /// The process of a row of this proxy; Process(-1) for an invalid index.
+    // As in ProcModel. processAt() takes an index of this proxy; processByPid() is required, but only tests
+    // call it.
     gtop_wrappers::Process processAt(const QModelIndex &index) const;
     gtop_wrappers::Process processByPid(int pid) const;
-    /// As ProcModel's.
     void sendSignal(int pid, int signal);
     void setPriority(int pid, int priority);
 
@@ -58,14 +60,14 @@ public:
 
 private:
     void reset();
-    void payLayout();
-    void layOutView();
+    void layOutUnlessDeferred();
+    void expandAndFitView();
 
     ProcModel *source;
     QPointer<QTreeView> view;
-    bool pendingLayout; ///< expand the tree and fit the columns after the next refresh
-    bool layoutHeld;
-    bool layoutOwed; ///< a refresh came while the layout was held
+    bool expandAndFit; ///< in the next layout, as it is the first one or the first after a reset
+    bool layoutDeferred;
+    bool layoutPending; ///< refreshed since the last layout
     int types;
     quint64 currentCpuTotal;
     quint64 previousCpuTotal;

@@ -8,6 +8,9 @@
 
 namespace gtop_wrappers {
 
+static_assert(stoppedState == GLIBTOP_PROCESS_STOPPED && stoppedState == 16,
+              "the process menu takes this state for stopped");
+
 namespace {
 
 template <auto... Members>

@@ -27,6 +27,9 @@ enum ProcessColumn : unsigned long {
     ColumnCount
 };
 
+/// libgtop's GLIBTOP_PROCESS_STOPPED: the value of the State column for a stopped process.
+constexpr int stoppedState = 16;
+
 /// One process as it was read: its pid and one value per column. Copied freely; the values are shared.
 class Process
 {

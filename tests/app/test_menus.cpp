@@ -8,8 +8,6 @@
 #include <QtTest>
 #include <QtWidgets>
 
-using testsupport::onModal;
-
 namespace {
 
 QStringList messages;
@@ -86,7 +84,7 @@ private:
     void withContextMenu(const std::function<void(QMenu *)> &act)
     {
         bool seen = false;
-        onModal([&](QWidget *widget) {
+        const ModalDriver driver([&](QWidget *widget) {
             seen = true;
             auto *menu = qobject_cast<QMenu *>(widget);
             act(menu);
@@ -361,7 +359,7 @@ void TestMenus::eachIntervalEntryOpensItsDialog()
     QFETCH(QString, key);
     fixture->start(0);
     bool seen = false;
-    onModal([&](QWidget *dialog) {
+    const ModalDriver driver([&](QWidget *dialog) {
         seen = true;
         bool named = false;
         for (const QLabel *label : dialog->findChildren<QLabel *>()) {
@@ -404,7 +402,7 @@ void TestMenus::aNetworkIntervalReachesTheGraphEvenIfCancelled()
         QMetaObject::invokeMethod(&fixture->updater(), "slotTabChanged", Q_ARG(int, 3));
     }
     QVERIFY(colored() > 0);
-    onModal([](QWidget *dialog) { qobject_cast<QDialog *>(dialog)->reject(); });
+    const ModalDriver driver([](QWidget *dialog) { qobject_cast<QDialog *>(dialog)->reject(); });
     QMetaObject::invokeMethod(&fixture->updater(), "slotIntervalNet");
     QCOMPARE(colored(), 0);
 }

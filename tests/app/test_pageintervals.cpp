@@ -7,8 +7,6 @@
 
 #include <limits>
 
-using testsupport::onModal;
-
 class TestPageIntervals : public QObject
 {
     Q_OBJECT
@@ -35,7 +33,7 @@ private:
     void withDialog(const std::function<void(QDialog *)> &act, int page = 1)
     {
         bool seen = false;
-        onModal([&](QWidget *widget) {
+        const ModalDriver driver([&](QWidget *widget) {
             seen = true;
             auto *dialog = qobject_cast<QDialog *>(widget);
             act(dialog);

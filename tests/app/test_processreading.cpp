@@ -101,7 +101,7 @@ void TestProcessReading::sortedMemoryIsReadWithEachRefresh()
 {
     const int memory = MemoryColumn; // no column before it is hidden
     Fixture::find<QTreeView>("treeView")->sortByColumn(memory, Qt::DescendingOrder);
-    QCOMPARE(list()->sortedColumn(), int(MemoryColumn));
+    QCOMPARE(list()->sortedProcessColumn(), int(MemoryColumn));
     QCOMPARE(callsOfRefresh(), 5U * 3 + 2 + 3 + 2); // the first row's command line beside
     made(200).resident = std::uint64_t(1) << 40;
     fixture->updater().update(true);

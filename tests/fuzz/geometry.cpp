@@ -58,9 +58,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     HOLDS(isNear(client.x()) && isNear(client.y()) && isNear(client.width()) && isNear(client.height()));
     HOLDS(placement.titleBarHeight >= 0 && placement.titleBarHeight <= 500);
     if (!client.isNull()) {
-        const QStringList again = fieldsOf(placement);
+        const QStringList again = placementFields(placement);
         HOLDS(placementFromFields(again).client == client);
-        HOLDS(fieldsOf(placementFromFields(again)) == again);
+        HOLDS(placementFields(placementFromFields(again)) == again);
     }
     tryOn(placement, {QRect(0, 30, 1920, 1050)});
     tryOn(placement, {QRect(-1280, 0, 1280, 1024), QRect(0, 0, 3840, 2160)});

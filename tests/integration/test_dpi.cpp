@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "integration/dpi.h"
 
-#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QTest>
 
@@ -12,14 +11,13 @@ class TestDpi : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void factorIsTheDensityAgainst96_data();
-    void factorIsTheDensityAgainst96();
-    void sizesAreUnchangedWithoutAnApplication();
-    void sizesAreUnchangedWithoutAScreen();
+    void theFactorIsRelativeTo96Dpi_data();
+    void theFactorIsRelativeTo96Dpi();
+    void sizesAreUnchangedWithoutAnApplicationOrAScreen();
     void sizesFollowThePrimaryScreen();
 };
 
-void TestDpi::factorIsTheDensityAgainst96_data()
+void TestDpi::theFactorIsRelativeTo96Dpi_data()
 {
     QTest::addColumn<double>("dpi");
     QTest::addColumn<double>("factor");
@@ -33,30 +31,26 @@ void TestDpi::factorIsTheDensityAgainst96_data()
     QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << 1.0;
 }
 
-void TestDpi::factorIsTheDensityAgainst96()
+void TestDpi::theFactorIsRelativeTo96Dpi()
 {
     QFETCH(double, dpi);
     QTEST(zarnDpiFactor(dpi), "factor");
 }
 
-void TestDpi::sizesAreUnchangedWithoutAnApplication()
+void TestDpi::sizesAreUnchangedWithoutAnApplicationOrAScreen()
 {
     QVERIFY(!QCoreApplication::instance());
     QCOMPARE(zarnDpiScaled(95.5), 95.5);
-}
-
-void TestDpi::sizesAreUnchangedWithoutAScreen()
-{
     int argc = 0;
-    QCoreApplication application(argc, nullptr);
+    const QCoreApplication withoutScreen(argc, nullptr);
     QCOMPARE(zarnDpiScaled(95.5), 95.5);
 }
 
 void TestDpi::sizesFollowThePrimaryScreen()
 {
-    qputenv("QT_FONT_DPI", "144"); // read once per process, when the first screen is made
+    qputenv("QT_FONT_DPI", "144"); // read once per process, when the first screen is created
     int argc = 0;
-    QGuiApplication application(argc, nullptr);
+    const QGuiApplication application(argc, nullptr);
     QCOMPARE(zarnDpiScaled(60), 90.0);
     QCOMPARE(zarnDpiScaled(0), 0.0);
     QCOMPARE(zarnDpiScaled(-5), -7.5);

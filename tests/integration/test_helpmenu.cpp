@@ -3,15 +3,11 @@
 
 #include "integration/dpi.h"
 #include "integration/zarninit.h"
+#include "tests/support/modal.h"
 
-#include <QApplication>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QTest>
-#include <QTimer>
 
-#include <functional>
 #include <memory>
 
 class TestHelpMenu : public QObject
@@ -21,13 +17,11 @@ class TestHelpMenu : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void cleanup() { m_window.reset(); }
+    void cleanup() { window.reset(); }
 
     void titleAndEntries();
-    void entriesTakeNoShortcut();
+    void aboutShowsWhatZarnInitWasGiven_data();
     void aboutShowsWhatZarnInitWasGiven();
-    void aboutEscapesMarkup();
-    void aboutWithoutVersionHasNoVersionLine();
     void aboutIsModalAndBelongsToTheWindow();
     void aboutShowsTheWindowsIcon();
     void aboutFallsBackToTheLogo();
@@ -39,12 +33,12 @@ private Q_SLOTS:
     void aboutWorksWithoutAParent();
 
 private:
-    QAction *entry(int index) const { return m_menu->actions().at(index); }
-    /// Triggers an entry, and hands its box, as it runs, to `look`; what then is still open is closed.
-    void openBox(QAction *action, const std::function<void(QMessageBox *)> &look);
+    QAction *entry(int index) const { return menu->actions().at(index); }
+    /// Triggers an entry, hands its open box to `look`, and closes it.
+    static void openBox(QAction *action, const std::function<void(QMessageBox *)> &look);
 
-    std::unique_ptr<QMainWindow> m_window;
-    ZarnHelpMenu *m_menu = nullptr;
+    std::unique_ptr<QMainWindow> window;
+    ZarnHelpMenu *menu = nullptr;
 };
 
 void TestHelpMenu::initTestCase()
@@ -57,68 +51,63 @@ void TestHelpMenu::init()
 {
     zarnInit("1.2.2", "Watches the system.");
     QApplication::setWindowIcon(QIcon());
-    m_window = std::make_unique<QMainWindow>();
-    m_menu = new ZarnHelpMenu(m_window.get());
-    m_window->menuBar()->addMenu(m_menu);
-    m_window->show();
+    window = std::make_unique<QMainWindow>();
+    menu = new ZarnHelpMenu(window.get());
+    window->menuBar()->addMenu(menu);
+    window->show();
 }
 
 void TestHelpMenu::openBox(QAction *action, const std::function<void(QMessageBox *)> &look)
 {
-    int boxes = 0;
-    QTimer::singleShot(0, this, [&] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    const ModalDriver driver([&](QWidget *dialog) {
+        auto *box = qobject_cast<QMessageBox *>(dialog);
         QVERIFY(box);
-        ++boxes;
         look(box);
         box->close();
     });
     action->trigger();
-    QCOMPARE(boxes, 1);
     QVERIFY(!QApplication::activeModalWidget());
 }
 
 void TestHelpMenu::titleAndEntries()
 {
-    QCOMPARE(m_menu->title(), QStringLiteral("&Help"));
-    QCOMPARE(m_menu->parentWidget(), m_window.get());
-    QCOMPARE(m_menu->actions().size(), 2);
+    QCOMPARE(menu->title(), QStringLiteral("&Help"));
+    QCOMPARE(menu->parentWidget(), window.get());
+    QCOMPARE(menu->actions().size(), 2);
     QCOMPARE(entry(0)->text(), QStringLiteral("About"));
     QCOMPARE(entry(1)->text(), QStringLiteral("About Qt"));
-    QVERIFY(entry(0)->isEnabled() && entry(1)->isEnabled());
+    for (const QAction *action : menu->actions()) {
+        QVERIFY(action->isEnabled());
+        QVERIFY(action->shortcut().isEmpty());
+    }
 }
 
-void TestHelpMenu::entriesTakeNoShortcut()
+void TestHelpMenu::aboutShowsWhatZarnInitWasGiven_data()
 {
-    QVERIFY(entry(0)->shortcut().isEmpty());
-    QVERIFY(entry(1)->shortcut().isEmpty());
+    QTest::addColumn<QByteArray>("version");
+    QTest::addColumn<QByteArray>("description");
+    QTest::addColumn<QString>("shown"); // separated by "|"
+    QTest::newRow("plain texts") << QByteArray("1.2.2") << QByteArray("Watches the system.")
+                                 << QString("Version 1.2.2|Watches the system.");
+    QTest::newRow("markup and place holders are escaped")
+        << QByteArray("1 %2") << QByteArray("<b>a & b</b> %1")
+        << QString("Version 1 %2|&lt;b&gt;a &amp; b&lt;/b&gt; %1");
+    QTest::newRow("no version line without a version") << QByteArray() << QByteArray() << QString();
 }
 
 void TestHelpMenu::aboutShowsWhatZarnInitWasGiven()
 {
-    openBox(entry(0), [](QMessageBox *box) {
+    QFETCH(QByteArray, version);
+    QFETCH(QByteArray, description);
+    QFETCH(QString, shown);
+    zarnInit(version.isNull() ? nullptr : version.constData(),
+             description.isNull() ? nullptr : description.constData());
+    openBox(entry(0), [&](QMessageBox *box) {
         QCOMPARE(box->windowTitle(), QStringLiteral("About watcher"));
-        for (const char *text : {"watcher", "Version 1.2.2", "Watches the system.", "GPL-3.0-or-later"}) {
-            QVERIFY2(box->text().contains(QLatin1String(text)), text);
+        for (const QString &text : (shown + "|watcher|GPL-3.0-or-later").split(QLatin1Char('|'))) {
+            QVERIFY2(box->text().contains(text), qPrintable(text));
         }
-    });
-}
-
-void TestHelpMenu::aboutEscapesMarkup()
-{
-    zarnInit("1 %2", "<b>a & b</b> %1");
-    openBox(entry(0), [](QMessageBox *box) {
-        QVERIFY(box->text().contains(QStringLiteral("Version 1 %2")));
-        QVERIFY(box->text().contains(QStringLiteral("&lt;b&gt;a &amp; b&lt;/b&gt; %1")));
-    });
-}
-
-void TestHelpMenu::aboutWithoutVersionHasNoVersionLine()
-{
-    zarnInit(nullptr, nullptr);
-    openBox(entry(0), [](QMessageBox *box) {
-        QVERIFY(!box->text().contains(QStringLiteral("Version")));
-        QVERIFY(box->text().contains(QStringLiteral("GPL-3.0-or-later")));
+        QCOMPARE(box->text().contains(QStringLiteral("Version")), !version.isNull());
     });
 }
 
@@ -126,7 +115,7 @@ void TestHelpMenu::aboutIsModalAndBelongsToTheWindow()
 {
     openBox(entry(0), [this](QMessageBox *box) {
         QVERIFY(box->isModal());
-        QCOMPARE(box->parentWidget(), m_window.get());
+        QCOMPARE(box->parentWidget(), window.get());
     });
 }
 
@@ -134,7 +123,7 @@ void TestHelpMenu::aboutShowsTheWindowsIcon()
 {
     QPixmap red(64, 64);
     red.fill(Qt::red);
-    m_window->setWindowIcon(red);
+    window->setWindowIcon(red);
     openBox(entry(0), [](QMessageBox *box) {
         QCOMPARE(box->iconPixmap().toImage().pixelColor(32, 32), QColor(Qt::red));
     });
@@ -170,25 +159,20 @@ void TestHelpMenu::aboutClosesOnKey()
 
 void TestHelpMenu::aboutLeavesNothingBehind()
 {
-    const int childrenBefore = m_window->findChildren<QObject *>().size();
+    const int childrenBefore = window->findChildren<QObject *>().size();
     const int windowsBefore = QApplication::topLevelWidgets().size();
     for (int i = 0; i < 3; ++i) {
         openBox(entry(0), [](QMessageBox *) {});
     }
-    QCOMPARE(m_window->findChildren<QObject *>().size(), childrenBefore);
+    QCOMPARE(window->findChildren<QObject *>().size(), childrenBefore);
     QCOMPARE(QApplication::topLevelWidgets().size(), windowsBefore);
 }
 
 void TestHelpMenu::quittingClosesAbout()
 {
-    bool opened = false;
-    QTimer::singleShot(0, m_menu, SLOT(showAbout()));
-    QTimer::singleShot(0, this, [&opened] {
-        opened = QApplication::activeModalWidget() != nullptr;
-        QCoreApplication::quit();
-    });
+    const ModalDriver driver([](QWidget *) { QCoreApplication::quit(); });
+    QTimer::singleShot(0, menu, SLOT(showAbout()));
     QCOMPARE(QCoreApplication::exec(), 0);
-    QVERIFY(opened);
     QVERIFY(!QApplication::activeModalWidget());
 }
 
@@ -202,8 +186,8 @@ void TestHelpMenu::aboutQtShowsTheToolkit()
 
 void TestHelpMenu::aboutWorksWithoutAParent()
 {
-    ZarnHelpMenu menu(nullptr);
-    openBox(menu.actions().at(0), [](QMessageBox *box) { QVERIFY(!box->parentWidget()); });
+    ZarnHelpMenu orphan(nullptr);
+    openBox(orphan.actions().at(0), [](QMessageBox *box) { QVERIFY(!box->parentWidget()); });
 }
 
 QTEST_MAIN(TestHelpMenu)

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The share of a picture's pixels that can be told from a plain ground of that grey.
+/// The share of a picture's pixels that contrast with a plain background of that grey.
 double visibleOn(const QImage &picture, int grey)
 {
     int visible = 0;
@@ -28,15 +28,13 @@ class TestImages : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Q_INIT_RESOURCE(images); }
-    void pictureHasItsSizeAndTransparency_data();
-    void pictureHasItsSizeAndTransparency();
-    void pictureShowsOnLightAndDark_data() { pictureHasItsSizeAndTransparency_data(); }
-    void pictureShowsOnLightAndDark();
+    void picturesAreTransparentAndShowOnLightAndDark_data();
+    void picturesAreTransparentAndShowOnLightAndDark();
     void iconsDiffer();
     void allPicturesTogetherStaySmall();
 };
 
-void TestImages::pictureHasItsSizeAndTransparency_data()
+void TestImages::picturesAreTransparentAndShowOnLightAndDark_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("side");
@@ -48,7 +46,7 @@ void TestImages::pictureHasItsSizeAndTransparency_data()
     QTest::newRow("optical disc") << QStringLiteral(":/images/cd") << 64;
 }
 
-void TestImages::pictureHasItsSizeAndTransparency()
+void TestImages::picturesAreTransparentAndShowOnLightAndDark()
 {
     QFETCH(QString, name);
     QFETCH(int, side);
@@ -58,12 +56,6 @@ void TestImages::pictureHasItsSizeAndTransparency()
     QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
     QVERIFY(picture.pixelColor(side / 2, side / 4).alpha() > 0);
     QVERIFY(!QIcon(name).pixmap(16, 16).isNull());
-}
-
-void TestImages::pictureShowsOnLightAndDark()
-{
-    QFETCH(QString, name);
-    const QImage picture(name);
     for (int grey : {0xff, 0x80, 0x20}) {
         QVERIFY2(visibleOn(picture, grey) > 0.15, qPrintable(QString::number(grey)));
     }

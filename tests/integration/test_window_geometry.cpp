@@ -16,8 +16,9 @@
 namespace {
 
 const QRect defaultRect(0, 0, 640, 480);
+const QRect savedRect(40, 60, 500, 300);
 
-/// A window as the program has it: no smaller than what is in it.
+/// Like the program's window, it has a minimum size.
 class Window : public QMainWindow
 {
 public:
@@ -34,7 +35,7 @@ QVariantList fields(int x, int y, int width, int height, int titleBar = 0, int m
     return {x, y, width, height, titleBar, maximized};
 }
 
-// Mostly six of them, mostly such as a window can have.
+/// Mostly six numbers, and mostly plausible ones.
 QByteArray randomFields(std::mt19937 &random)
 {
     static const char *const odd[] = {
@@ -46,7 +47,7 @@ QByteArray randomFields(std::mt19937 &random)
         fields << (random() % 6 == 0 ? QByteArray(odd[random() % std::size(odd)])
                                      : QByteArray::number(static_cast<int>(random() % 3000) - 1000));
     }
-    if (fields.size() > 4) { // no title bar is drawn here
+    if (fields.size() > 4) { // there are no title bars on the offscreen platform
         fields[4] = random() % 8 == 0 ? QByteArray(odd[random() % std::size(odd)]) : QByteArray("0");
     }
     return fields.join(", ");
@@ -60,31 +61,28 @@ class TestWindowGeometry : public QObject
 
 private Q_SLOTS:
     void init();
-    void cleanup() { m_directory.reset(); }
+    void cleanup() { directory.reset(); }
 
     void titleBarDecidesWhetherARectangleLiesOnAScreen_data();
     void titleBarDecidesWhetherARectangleLiesOnAScreen();
 
     void firstStartGivesTheDefault();
     void geometryIsKeptUnderOneKey();
+    void geometryComesBack_data();
     void geometryComesBack();
     void repeatedSessionsDontDrift();
     void windowThatWasNeverShownKeepsItsGeometry();
-    void maximizedComesBackWithItsNormalSize();
-    void fullScreenComesBackAsANormalWindow();
-    void minimizedComesBackOpen();
     void visibleMaximizedWindowCanBeGivenTheDefault();
-    void geometryOffTheScreenGivesTheDefault();
     void oversizedGeometryIsCutToTheScreen();
     void unusableValuesGiveTheDefault_data();
     void unusableValuesGiveTheDefault();
     void damagedFileGivesTheDefault_data();
     void damagedFileGivesTheDefault();
-    void anyFileGivesAWindowThatCanBeCaught();
+    void anyFileGivesAWindowThatCanBeDragged();
     void toolBarsAreKeptOnlyWhenAskedFor();
 
 private:
-    QString path() const { return m_directory->filePath(QStringLiteral("settings.ini")); }
+    QString path() const { return directory->filePath(QStringLiteral("settings.ini")); }
     void store(const QVariant &value)
     {
         QSettings settings(path(), QSettings::IniFormat);
@@ -107,13 +105,13 @@ private:
         zarnRestoreGeometry(&window, &settings, defaultRect, withToolBars);
     }
 
-    std::unique_ptr<QTemporaryDir> m_directory;
+    std::unique_ptr<QTemporaryDir> directory;
 };
 
 void TestWindowGeometry::init()
 {
-    m_directory = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_directory->isValid());
+    directory = std::make_unique<QTemporaryDir>();
+    QVERIFY(directory->isValid());
 }
 
 void TestWindowGeometry::titleBarDecidesWhetherARectangleLiesOnAScreen_data()
@@ -123,56 +121,52 @@ void TestWindowGeometry::titleBarDecidesWhetherARectangleLiesOnAScreen_data()
     QTest::addColumn<QVector<QRect>>("screens");
     QTest::addColumn<QRect>("fitted");
 
-    const QRect none;
-    // A panel of 30 pixels along the top of the left screen, a lower right screen beside it.
+    // A panel of 30 pixels along the top of the left screen, and a lower screen to the right of it.
     const QVector<QRect> one{QRect(0, 30, 1920, 1050)};
     const QVector<QRect> two{QRect(0, 30, 1920, 1050), QRect(1920, 200, 1280, 720)};
-    const QRect plain(100, 100, 640, 480);
-    const QRect onRight(2000, 300, 640, 480);
+    const QVector<QRect> negative{QRect(-1280, 0, 1280, 720)};
+    const auto fits = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
+                          int titleBar = 25) {
+        QTest::newRow(name) << client << titleBar << screens << client;
+    };
+    const auto isLost = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
+                            int titleBar = 25) {
+        QTest::newRow(name) << client << titleBar << screens << QRect();
+    };
+    const auto isCut = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
+                           const QRect &fitted) { QTest::newRow(name) << client << 25 << screens << fitted; };
 
-    QTest::newRow("inside") << plain << 25 << one << plain;
-    QTest::newRow("on the second screen") << onRight << 25 << two << onRight;
-    QTest::newRow("second screen gone") << onRight << 25 << one << none;
-    QTest::newRow("no screen") << plain << 25 << QVector<QRect>() << none;
-    QTest::newRow("left of a screen at negative coordinates")
-        << QRect(-1200, 100, 640, 480) << 25 << QVector<QRect>{QRect(-1280, 0, 1280, 720)}
-        << QRect(-1200, 100, 640, 480);
+    fits("inside", QRect(100, 100, 640, 480), one);
+    fits("on the second screen", QRect(2000, 300, 640, 480), two);
+    isLost("second screen gone", QRect(2000, 300, 640, 480), one);
+    isLost("no screen", QRect(100, 100, 640, 480), {});
+    fits("left of a screen at negative coordinates", QRect(-1200, 100, 640, 480), negative);
 
-    QTest::newRow("64 pixels left at the right edge")
-        << QRect(1856, 100, 640, 480) << 25 << one << QRect(1856, 100, 640, 480);
-    QTest::newRow("63 pixels left at the right edge") << QRect(1857, 100, 640, 480) << 25 << one << none;
-    QTest::newRow("64 pixels left at the left edge")
-        << QRect(-576, 100, 640, 480) << 25 << one << QRect(-576, 100, 640, 480);
-    QTest::newRow("63 pixels left at the left edge") << QRect(-577, 100, 640, 480) << 25 << one << none;
+    fits("64 pixels left at the right edge", QRect(1856, 100, 640, 480), one);
+    isLost("63 pixels left at the right edge", QRect(1857, 100, 640, 480), one);
+    fits("64 pixels left at the left edge", QRect(-576, 100, 640, 480), one);
+    isLost("63 pixels left at the left edge", QRect(-577, 100, 640, 480), one);
 
-    QTest::newRow("title bar just below the panel")
-        << QRect(100, 55, 640, 480) << 25 << one << QRect(100, 55, 640, 480);
-    QTest::newRow("8 pixels of the title bar below the panel")
-        << QRect(100, 38, 640, 480) << 25 << one << QRect(100, 38, 640, 480);
-    QTest::newRow("7 pixels of the title bar below the panel")
-        << QRect(100, 37, 640, 480) << 25 << one << none;
-    QTest::newRow("title bar wholly above the screen") << QRect(100, 30, 640, 480) << 25 << one << none;
-    QTest::newRow("frameless at the top edge")
-        << QRect(0, 30, 640, 480) << 0 << one << QRect(0, 30, 640, 480);
-    QTest::newRow("frameless above the top edge") << QRect(0, 0, 640, 480) << 0 << one << none;
-    QTest::newRow("title bar at the bottom edge")
-        << QRect(100, 1097, 640, 480) << 25 << one << QRect(100, 1097, 640, 480);
-    QTest::newRow("title bar below the bottom edge") << QRect(100, 1098, 640, 480) << 25 << one << none;
+    fits("title bar just below the panel", QRect(100, 55, 640, 480), one);
+    fits("8 pixels of the title bar below the panel", QRect(100, 38, 640, 480), one);
+    isLost("7 pixels of the title bar below the panel", QRect(100, 37, 640, 480), one);
+    isLost("title bar wholly above the screen", QRect(100, 30, 640, 480), one);
+    fits("frameless at the top edge", QRect(0, 30, 640, 480), one, 0);
+    isLost("frameless above the top edge", QRect(0, 0, 640, 480), one, 0);
+    fits("title bar at the bottom edge", QRect(100, 1097, 640, 480), one);
+    isLost("title bar below the bottom edge", QRect(100, 1098, 640, 480), one);
 
-    QTest::newRow("wider than the screen")
-        << QRect(-50, 100, 4000, 480) << 25 << one << QRect(0, 100, 1920, 480);
-    QTest::newRow("higher than the screen")
-        << QRect(100, 100, 640, 4000) << 25 << one << QRect(100, 55, 640, 1025);
-    QTest::newRow("as large as the screen")
-        << QRect(0, 55, 1920, 1025) << 25 << one << QRect(0, 55, 1920, 1025);
-    QTest::newRow("cut to the screen that shows most of it")
-        << QRect(1800, 300, 1300, 480) << 25 << two << QRect(1920, 300, 1280, 480);
+    isCut("wider than the screen", QRect(-50, 100, 4000, 480), one, QRect(0, 100, 1920, 480));
+    isCut("higher than the screen", QRect(100, 100, 640, 4000), one, QRect(100, 55, 640, 1025));
+    fits("as large as the screen", QRect(0, 55, 1920, 1025), one);
+    isCut("cut to the screen that shows most of it", QRect(1800, 300, 1300, 480), two,
+          QRect(1920, 300, 1280, 480));
 
-    QTest::newRow("smallest") << QRect(100, 100, 64, 32) << 25 << one << QRect(100, 100, 64, 32);
-    QTest::newRow("too narrow") << QRect(100, 100, 63, 480) << 25 << one << none;
-    QTest::newRow("too low") << QRect(100, 100, 640, 31) << 25 << one << none;
-    QTest::newRow("negative size") << QRect(100, 100, -640, -480) << 25 << one << none;
-    QTest::newRow("no size") << QRect() << 0 << one << none;
+    fits("smallest", QRect(100, 100, 64, 32), one);
+    isLost("too narrow", QRect(100, 100, 63, 480), one);
+    isLost("too low", QRect(100, 100, 640, 31), one);
+    isLost("negative size", QRect(100, 100, -640, -480), one);
+    isLost("no size", QRect(), one, 0);
 }
 
 void TestWindowGeometry::titleBarDecidesWhetherARectangleLiesOnAScreen()
@@ -197,7 +191,7 @@ void TestWindowGeometry::firstStartGivesTheDefault()
 void TestWindowGeometry::geometryIsKeptUnderOneKey()
 {
     Window window;
-    window.setGeometry(40, 60, 500, 300);
+    window.setGeometry(savedRect);
     window.show();
     save(window);
     const QSettings settings(path(), QSettings::IniFormat);
@@ -207,18 +201,39 @@ void TestWindowGeometry::geometryIsKeptUnderOneKey()
              QStringLiteral("40 60 500 300 %1 0").arg(titleBar));
 }
 
+void TestWindowGeometry::geometryComesBack_data()
+{
+    QTest::addColumn<Qt::WindowState>("state");
+    QTest::newRow("normal") << Qt::WindowNoState;
+    QTest::newRow("maximized, with its normal size") << Qt::WindowMaximized;
+    QTest::newRow("full screen, as a normal window") << Qt::WindowFullScreen;
+    QTest::newRow("minimized, as an open window") << Qt::WindowMinimized;
+}
+
 void TestWindowGeometry::geometryComesBack()
 {
+    QFETCH(Qt::WindowState, state);
+    const bool maximized = state == Qt::WindowMaximized;
     Window before;
-    before.setGeometry(40, 60, 500, 300);
+    before.setGeometry(savedRect);
     before.show();
+    before.setWindowState(state);
+    if (maximized) {
+        QTRY_VERIFY(before.width() > savedRect.width());
+    }
     save(before);
 
     Window after;
     restore(after);
     after.show();
-    QCOMPARE(after.geometry(), QRect(40, 60, 500, 300));
-    QVERIFY(!after.isMaximized());
+    QCOMPARE(after.isMaximized(), maximized);
+    QVERIFY(!after.isFullScreen());
+    QVERIFY(!after.isMinimized());
+    if (maximized) {
+        QTRY_VERIFY(after.width() > savedRect.width());
+        after.showNormal();
+    }
+    QTRY_COMPARE(after.geometry(), savedRect);
 }
 
 void TestWindowGeometry::repeatedSessionsDontDrift()
@@ -229,7 +244,7 @@ void TestWindowGeometry::repeatedSessionsDontDrift()
         restore(window);
         window.setWindowState(maximized ? Qt::WindowMaximized : Qt::WindowNoState);
         window.show();
-        QCOMPARE(window.normalGeometry(), QRect(40, 60, 500, 300));
+        QCOMPARE(window.normalGeometry(), savedRect);
         save(window);
     }
 }
@@ -237,59 +252,11 @@ void TestWindowGeometry::repeatedSessionsDontDrift()
 void TestWindowGeometry::windowThatWasNeverShownKeepsItsGeometry()
 {
     QWidget before;
-    before.setGeometry(40, 60, 500, 300);
+    before.setGeometry(savedRect);
     save(before);
     Window after;
     restore(after);
-    QCOMPARE(after.geometry(), QRect(40, 60, 500, 300));
-}
-
-void TestWindowGeometry::maximizedComesBackWithItsNormalSize()
-{
-    Window before;
-    before.setGeometry(40, 60, 500, 300);
-    before.show();
-    before.showMaximized();
-    QTRY_VERIFY(before.width() > 500);
-    save(before);
-
-    Window after;
-    restore(after);
-    after.show();
-    QVERIFY(after.isMaximized());
-    QTRY_VERIFY(after.width() > 500);
-    after.showNormal();
-    QTRY_COMPARE(after.geometry(), QRect(40, 60, 500, 300));
-}
-
-void TestWindowGeometry::fullScreenComesBackAsANormalWindow()
-{
-    Window before;
-    before.setGeometry(40, 60, 500, 300);
-    before.show();
-    before.showFullScreen();
-    save(before);
-
-    Window after;
-    restore(after);
-    after.show();
-    QVERIFY(!after.isFullScreen());
-    QCOMPARE(after.geometry(), QRect(40, 60, 500, 300));
-}
-
-void TestWindowGeometry::minimizedComesBackOpen()
-{
-    Window before;
-    before.setGeometry(40, 60, 500, 300);
-    before.show();
-    before.showMinimized();
-    save(before);
-
-    Window after;
-    restore(after);
-    after.show();
-    QVERIFY(!after.isMinimized());
-    QCOMPARE(after.geometry(), QRect(40, 60, 500, 300));
+    QCOMPARE(after.geometry(), savedRect);
 }
 
 void TestWindowGeometry::visibleMaximizedWindowCanBeGivenTheDefault()
@@ -298,17 +265,6 @@ void TestWindowGeometry::visibleMaximizedWindowCanBeGivenTheDefault()
     window.showMaximized();
     restore(window);
     QVERIFY(!window.isMaximized());
-    QCOMPARE(window.size(), defaultRect.size());
-}
-
-void TestWindowGeometry::geometryOffTheScreenGivesTheDefault()
-{
-    store(QVariant(fields(5000, 5000, 500, 300, 25, 1)));
-    Window window;
-    restore(window);
-    window.show();
-    QVERIFY(!window.isMaximized());
-    QCOMPARE(window.frameGeometry().topLeft(), defaultRect.topLeft());
     QCOMPARE(window.size(), defaultRect.size());
 }
 
@@ -330,7 +286,7 @@ void TestWindowGeometry::unusableValuesGiveTheDefault_data()
     QTest::newRow("text") << QVariant(QStringLiteral("nonsense"));
     QTest::newRow("number") << QVariant(7);
     QTest::newRow("true") << QVariant(true);
-    QTest::newRow("rectangle") << QVariant(QRect(40, 60, 500, 300));
+    QTest::newRow("rectangle") << QVariant(savedRect);
     QTest::newRow("foreign bytes") << QVariant(bytes);
     QTest::newRow("truncated bytes") << QVariant(bytes.left(7));
     QTest::newRow("random bytes") << QVariant(QByteArray("\xff\x00\x80,1,2\n@", 9));
@@ -338,15 +294,13 @@ void TestWindowGeometry::unusableValuesGiveTheDefault_data()
     QTest::newRow("empty list") << QVariant(QVariantList());
     QTest::newRow("five fields") << QVariant(fields(40, 60, 500, 300).mid(0, 5));
     QTest::newRow("seven fields") << QVariant(fields(40, 60, 500, 300) << 1);
-    QTest::newRow("words for numbers")
-        << QVariant(QStringList{QStringLiteral("x"), QString(), QStringLiteral("500"), QStringLiteral("300"),
-                                QStringLiteral("0"), QStringLiteral("0")});
-    QTest::newRow("beyond int") << QVariant(QStringList{QStringLiteral("99999999999"), QStringLiteral("60"),
-                                                        QStringLiteral("500"), QStringLiteral("300"),
-                                                        QStringLiteral("0"), QStringLiteral("0")});
+    QTest::newRow("words for numbers") << QVariant(QStringLiteral("x,,500,300,0,0").split(QLatin1Char(',')));
+    QTest::newRow("beyond int") << QVariant(
+        QStringLiteral("99999999999,60,500,300,0,0").split(QLatin1Char(',')));
     QTest::newRow("lowest ints") << QVariant(fields(INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MIN));
     QTest::newRow("highest ints") << QVariant(fields(INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX));
     QTest::newRow("highest size") << QVariant(fields(0, 0, INT_MAX, INT_MAX));
+    QTest::newRow("off the screen") << QVariant(fields(5000, 5000, 500, 300, 25, 1));
     QTest::newRow("1 x 1") << QVariant(fields(40, 60, 1, 1));
     QTest::newRow("0 x 0") << QVariant(fields(40, 60, 0, 0));
     QTest::newRow("negative size") << QVariant(fields(40, 60, -500, -300));
@@ -370,11 +324,14 @@ void TestWindowGeometry::damagedFileGivesTheDefault_data()
 {
     QTest::addColumn<QByteArray>("contents");
     QTest::newRow("binary") << QByteArray("\x00\x01\xfe\xff[[[=\n\r\x80", 12);
-    QTest::newRow("unfinished value") << QByteArray("[General]\ngeometry=\"40, 60");
-    QTest::newRow("unfinished variant") << QByteArray("[General]\ngeometry=@Variant(\\0\\0\\0\n");
-    QTest::newRow("variant of an unknown type")
-        << QByteArray("[General]\ngeometry=@Variant(\\0\\0\\xff\\xff\\xff\\xff)\n");
-    QTest::newRow("unfinished rectangle") << QByteArray("[General]\ngeometry=@Rect(40 60\n");
+    const std::pair<const char *, const char *> values[] = {
+        {"unfinished value", "\"40, 60"},
+        {"unfinished variant", "@Variant(\\0\\0\\0\n"},
+        {"variant of an unknown type", "@Variant(\\0\\0\\xff\\xff\\xff\\xff)\n"},
+        {"unfinished rectangle", "@Rect(40 60\n"}};
+    for (const auto &value : values) {
+        QTest::newRow(value.first) << QByteArray("[General]\ngeometry=") + value.second;
+    }
 }
 
 void TestWindowGeometry::damagedFileGivesTheDefault()
@@ -386,8 +343,8 @@ void TestWindowGeometry::damagedFileGivesTheDefault()
     QCOMPARE(window.geometry(), defaultRect);
 }
 
-// ZSM_SOAK_FILES sets how many.
-void TestWindowGeometry::anyFileGivesAWindowThatCanBeCaught()
+/// ZSM_SOAK_FILES sets the number of files.
+void TestWindowGeometry::anyFileGivesAWindowThatCanBeDragged()
 {
     const int files =
         qEnvironmentVariableIsSet("ZSM_SOAK_FILES") ? qEnvironmentVariableIntValue("ZSM_SOAK_FILES") : 300;

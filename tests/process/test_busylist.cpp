@@ -6,7 +6,7 @@
 #include <QScrollBar>
 #include <QtTest>
 
-/// More than a thousand processes that come, go and change under a view in use.
+/// More than a thousand processes that start, exit and change while a view is used.
 class TestBusyList : public QObject
 {
     Q_OBJECT
@@ -18,9 +18,9 @@ private Q_SLOTS:
 namespace {
 
 const int processes = 1150;
-const int firstFreeColumn = 3; // the checks read the columns before it
+const int firstFreeColumn = 3; ///< the checks read the columns before it
 
-/// The list in a window, the made-up machine, and the literal rules beside it.
+/// The list in a window, the simulated machine, and the literal rules to compare with.
 class BusyList
 {
 public:
@@ -51,7 +51,7 @@ public:
         }
     }
 
-    /// What users do between two refreshes.
+    /// Does what users do between two refreshes.
     void use()
     {
         switch (world.pick(8)) {
@@ -79,7 +79,7 @@ public:
         }
     }
 
-    /// What empties the list: the reference has to follow.
+    /// Does something that empties the list, and clears the reference too.
     void reset()
     {
         switch (world.pick(4)) {
@@ -91,7 +91,7 @@ public:
         case 1:
             proxy->setProcessTypes(world.pick(2));
             break;
-        case 2: // there and back is a change of mode as well
+        case 2: // changes the mode twice
             proxy->setFlat(!proxy->isFlat());
             proxy->setFlat(!proxy->isFlat());
             break;
@@ -108,7 +108,7 @@ public:
         checkRows(QModelIndex(), QModelIndex());
     }
 
-    /// Those without a place in the tree too.
+    /// Includes orphans.
     void checkItems() const
     {
         const std::set<int> expected = reference.pids();
@@ -129,7 +129,7 @@ private:
         return index;
     }
 
-    /// The current row stays with its process as long as that is the same one.
+    /// The current row stays with its process unless that was replaced.
     void checkCurrent(const Facts &before) const
     {
         const auto now = world.facts().find(before.pid);
@@ -139,7 +139,7 @@ private:
         }
     }
 
-    /// Every row of the proxy stands for a row of the model and shows its process.
+    /// Every row of the proxy maps to a row of the model and shows its process.
     void checkRows(const QModelIndex &parent, const QModelIndex &sourceParent) const
     {
         const int rows = proxy->rowCount(parent);

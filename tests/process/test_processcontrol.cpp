@@ -2,8 +2,6 @@
 #include "tests/process/support/control.h"
 #include "tests/process/support/menus.h"
 
-#include <QtTest>
-
 #include <signal.h>
 
 #include <limits>
@@ -12,34 +10,39 @@ namespace {
 
 const int stoppedState = 16;
 
+const char noSuchProcess[] = "Unable send signal to process. Reason - No such process";
+
+/// What happens to the list while a question is open.
+using Change = std::function<void(const Desk &desk, pid_t other)>;
+
 } // namespace
 
+Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(ModalDriver::Handler)
+
+/// Which process a signal reaches, and what refuses it.
 class TestProcessControl : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void stopContinueTerminateReachTheChosenProcessOnly();
-    void killReachesTheChosenProcessOnly();
+    void eachSignalReachesTheSelectedProcessOnly();
     void whatIsNotConfirmedSendsNothing_data();
     void whatIsNotConfirmedSendsNothing();
-    void whatIsNotConfirmedDoesNotContinueAStoppedProcess();
 
-    void anEndedProcessGivesTheErrorBox();
+    void aProcessThatExitedGivesTheErrorBox_data();
+    void aProcessThatExitedGivesTheErrorBox();
     void anotherUsersProcessGivesTheErrorBox();
-    void noPidOfZeroOrBelowReachesKill_data();
-    void noPidOfZeroOrBelowReachesKill();
+    void noPidOfZeroOrBelowReachesTheKernel_data();
+    void noPidOfZeroOrBelowReachesTheKernel();
     void aProcessGroupSurvivesItsNegativePid();
     void anInvalidSignalGivesTheErrorBox();
 
-    void aSelectionThatChangesDuringTheQuestionChangesNothing();
-    void aSelectionThatIsLostDuringTheQuestionChangesNothing();
-    void aProcessThatLeavesTheListDuringTheQuestionGetsItsSignal();
-    void aProcessThatEndsDuringTheQuestionGivesTheErrorBox();
-    void aResetDuringTheQuestionChangesNothing();
-    void aStaleSelectionIsWhatGetsTheSignal();
+    void theProcessThatWasAskedAboutGetsTheSignal_data();
+    void theProcessThatWasAskedAboutGetsTheSignal();
+    void aStaleSelectionGetsTheSignal();
 };
 
-void TestProcessControl::stopContinueTerminateReachTheChosenProcessOnly()
+void TestProcessControl::eachSignalReachesTheSelectedProcessOnly()
 {
     Child chosen;
     Child other;
@@ -53,81 +56,73 @@ void TestProcessControl::stopContinueTerminateReachTheChosenProcessOnly()
     desk.trigger("Continue process");
     QCOMPARE(chosen.waitForSignal(), SIGCONT);
     desk.select(chosen.pid());
-    desk.trigger("Terminate process");
+    desk.trigger("Terminate process"); // SIGKILL: theProcessThatWasAskedAboutGetsTheSignal()
     QCOMPARE(chosen.waitForSignal(), SIGTERM);
-    QCOMPARE(driver.count(), std::size_t(3));
     QVERIFY(!other.hasChanged());
     QCOMPARE(other.endAndTell(), SIGVTALRM);
 }
 
-void TestProcessControl::killReachesTheChosenProcessOnly()
-{
-    Child before;
-    Child chosen;
-    Child after;
-    const Desk desk;
-    desk.select(chosen.pid());
-    const ModalDriver driver(pressing(QMessageBox::Ok));
-    desk.trigger("Kill process");
-    QCOMPARE(chosen.waitForSignal(), SIGKILL);
-    QCOMPARE(before.endAndTell(), SIGVTALRM);
-    QCOMPARE(after.endAndTell(), SIGVTALRM);
-}
-
 void TestProcessControl::whatIsNotConfirmedSendsNothing_data()
 {
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<int>("way");
-    const char *const actions[] = {"Stop process", "Continue process", "Terminate process", "Kill process"};
-    const char *const ways[] = {"Cancel", "Escape", "closing", "Enter", "the keypad's Enter"};
-    for (const char *const action : actions) {
-        for (int way = 0; way < 5; ++way) {
-            const QByteArray name = QByteArray(action) + ", " + ways[way];
-            QTest::newRow(name.constData()) << QString::fromLatin1(action) << way;
-        }
+    QTest::addColumn<QByteArray>("action");
+    QTest::addColumn<ModalDriver::Handler>("answer");
+    for (const char *action : {"Stop process", "Continue process", "Terminate process", "Kill process"}) {
+        QTest::addRow("%s, Cancel", action) << QByteArray(action) << pressing(QMessageBox::Cancel);
+        QTest::addRow("%s, Escape", action) << QByteArray(action) << typing(Qt::Key_Escape);
+        QTest::addRow("%s, closing", action) << QByteArray(action) << closing();
+        QTest::addRow("%s, Return", action) << QByteArray(action) << typing(Qt::Key_Return);
+        QTest::addRow("%s, the keypad's Enter", action) << QByteArray(action) << typing(Qt::Key_Enter);
     }
 }
 
 void TestProcessControl::whatIsNotConfirmedSendsNothing()
 {
-    QFETCH(QString, action);
-    QFETCH(int, way);
-    const ModalDriver::Handler ways[] = {pressing(QMessageBox::Cancel), typing(Qt::Key_Escape), closing(),
-                                         typing(Qt::Key_Return), typing(Qt::Key_Enter)};
+    QFETCH(QByteArray, action);
+    QFETCH(ModalDriver::Handler, answer);
+    const bool stopped = action == "Continue process";
     Child child;
+    if (stopped) {
+        kill(child.pid(), SIGSTOP);
+        QCOMPARE(child.waitForSignal(), SIGSTOP);
+    }
     const Desk desk;
-    desk.select(child.pid());
-    desk.action(action.toLatin1().constData())->setEnabled(true);
-    const ModalDriver driver(ways[way]);
-    desk.trigger(action.toLatin1().constData());
-    QCOMPARE(driver.count(), std::size_t(1));
+    desk.select(child.pid(), stopped ? stoppedState : 1);
+    const ModalDriver driver(answer);
+    desk.trigger(action.constData());
     QVERIFY(!child.hasChanged());
+    if (stopped) {
+        kill(child.pid(), SIGCONT);
+        QCOMPARE(child.waitForSignal(), SIGCONT);
+    }
     QCOMPARE(child.endAndTell(), SIGVTALRM);
 }
 
-void TestProcessControl::whatIsNotConfirmedDoesNotContinueAStoppedProcess()
+void TestProcessControl::aProcessThatExitedGivesTheErrorBox_data()
 {
-    Child child;
-    kill(child.pid(), SIGSTOP);
-    QCOMPARE(child.waitForSignal(), SIGSTOP);
-    const Desk desk;
-    desk.select(child.pid(), stoppedState);
-    const ModalDriver driver({pressing(QMessageBox::Cancel), typing(Qt::Key_Return)});
-    desk.trigger("Continue process");
-    desk.trigger("Continue process");
-    QCOMPARE(driver.count(), std::size_t(2));
-    QVERIFY(!child.hasChanged());
+    QTest::addColumn<bool>("duringTheQuestion");
+    QTest::newRow("before the question") << false;
+    QTest::newRow("during the question") << true;
 }
 
-void TestProcessControl::anEndedProcessGivesTheErrorBox()
+void TestProcessControl::aProcessThatExitedGivesTheErrorBox()
 {
+    QFETCH(bool, duringTheQuestion);
+    Child asked;
     const Desk desk;
-    desk.select(endedPid());
+    desk.select(asked.pid());
+    if (!duringTheQuestion) {
+        asked.endAndTell();
+    }
     SeenBox seen;
-    const ModalDriver driver({pressing(QMessageBox::Ok), pressing(QMessageBox::Ok, &seen)});
+    const auto confirm = [&](QWidget *dialog) {
+        if (duringTheQuestion) {
+            asked.endAndTell();
+        }
+        pressing(QMessageBox::Ok)(dialog);
+    };
+    const ModalDriver driver({confirm, pressing(QMessageBox::Ok, &seen)});
     desk.trigger("Terminate process");
-    QCOMPARE(driver.count(), std::size_t(2));
-    verifyErrorBox(seen, "Unable send signal to process. Reason - No such process");
+    verifyErrorBox(seen, noSuchProcess);
 }
 
 void TestProcessControl::anotherUsersProcessGivesTheErrorBox()
@@ -145,12 +140,11 @@ void TestProcessControl::anotherUsersProcessGivesTheErrorBox()
         QVERIFY(nobody.dropped);
         desk.trigger("Kill process");
     }
-    QCOMPARE(driver.count(), std::size_t(2));
     verifyErrorBox(seen, "Unable send signal to process. Reason - Operation not permitted");
     QCOMPARE(child.endAndTell(), SIGVTALRM);
 }
 
-void TestProcessControl::noPidOfZeroOrBelowReachesKill_data()
+void TestProcessControl::noPidOfZeroOrBelowReachesTheKernel_data()
 {
     QTest::addColumn<int>("pid");
     QTest::newRow("0, the test's own group") << 0;
@@ -160,29 +154,33 @@ void TestProcessControl::noPidOfZeroOrBelowReachesKill_data()
     QTest::newRow("the lowest number") << std::numeric_limits<int>::min();
 }
 
-void TestProcessControl::noPidOfZeroOrBelowReachesKill()
+void TestProcessControl::noPidOfZeroOrBelowReachesTheKernel()
 {
     QFETCH(int, pid);
+    const int before = niceOf(getpid());
     const Desk desk;
-    SeenBox seen;
-    const ModalDriver driver(pressing(QMessageBox::Ok, &seen));
-    // Signal 0 harms nobody: kill would say yes to most of these, and no box would come.
+    SeenBox signalBox;
+    SeenBox priorityBox;
+    const ModalDriver driver(
+        {pressing(QMessageBox::Ok, &signalBox), pressing(QMessageBox::Ok, &priorityBox)});
+    // Signal 0 harms nobody: kill(2) would succeed for most of these, and no box would open.
     desk.list->sendSignal(pid, 0);
-    QCOMPARE(driver.count(), std::size_t(1));
-    verifyErrorBox(seen, "Unable send signal to process. Reason - No such process");
+    verifyErrorBox(signalBox, noSuchProcess);
+    desk.list->setPriority(pid, before + 1); // for 0 this would be the test itself
+    verifyErrorBox(priorityBox, "Unable change priority. Reason - No such process");
+    QCOMPARE(niceOf(getpid()), before);
 }
 
 void TestProcessControl::aProcessGroupSurvivesItsNegativePid()
 {
     Child child;
-    QCOMPARE(kill(-child.pid(), 0), 0); // the group is there
+    QCOMPARE(kill(-child.pid(), 0), 0); // the group exists
     const Desk desk;
     desk.select(-child.pid());
     SeenBox seen;
     const ModalDriver driver({pressing(QMessageBox::Ok), pressing(QMessageBox::Ok, &seen)});
     desk.trigger("Kill process");
-    QCOMPARE(driver.count(), std::size_t(2));
-    verifyErrorBox(seen, "Unable send signal to process. Reason - No such process");
+    verifyErrorBox(seen, noSuchProcess);
     QCOMPARE(child.endAndTell(), SIGVTALRM);
 }
 
@@ -194,88 +192,46 @@ void TestProcessControl::anInvalidSignalGivesTheErrorBox()
     const ModalDriver driver(pressing(QMessageBox::Ok, &seen));
     desk.list->sendSignal(child.pid(), 4711);
     verifyErrorBox(seen, "Unable send signal to process. Reason - Invalid argument");
-    QCOMPARE(driver.count(), std::size_t(1));
 }
 
-void TestProcessControl::aSelectionThatChangesDuringTheQuestionChangesNothing()
+void TestProcessControl::theProcessThatWasAskedAboutGetsTheSignal_data()
 {
-    Child asked;
-    Child other;
-    const Desk desk;
-    desk.select(asked.pid());
-    const ModalDriver driver([&](QWidget *dialog) {
-        desk.select(other.pid());
-        pressing(QMessageBox::Ok)(dialog);
+    QTest::addColumn<Change>("duringTheQuestion");
+    QTest::newRow("nothing changes") << Change([](const Desk &, pid_t) {});
+    QTest::newRow("another process is selected")
+        << Change([](const Desk &desk, pid_t other) { desk.select(other); });
+    QTest::newRow("the selection is lost")
+        << Change([](const Desk &desk, pid_t) { desk.actions->setProcess(gtop_wrappers::Process(-1)); });
+    QTest::newRow("another process takes its row") << Change([](const Desk &desk, pid_t other) {
+        desk.list->refresh(makeSnapshot({{other, 0}}));
     });
-    desk.trigger("Kill process");
-    QCOMPARE(asked.waitForSignal(), SIGKILL);
-    QCOMPARE(other.endAndTell(), SIGVTALRM);
-}
-
-void TestProcessControl::aSelectionThatIsLostDuringTheQuestionChangesNothing()
-{
-    Child asked;
-    const Desk desk;
-    desk.select(asked.pid());
-    const ModalDriver driver([&](QWidget *dialog) {
-        desk.actions->setProcess(gtop_wrappers::Process(-1));
-        pressing(QMessageBox::Ok)(dialog);
-    });
-    desk.trigger("Terminate process");
-    QCOMPARE(driver.count(), std::size_t(1));
-    QCOMPARE(asked.waitForSignal(), SIGTERM);
-}
-
-void TestProcessControl::aProcessThatLeavesTheListDuringTheQuestionGetsItsSignal()
-{
-    Child asked;
-    Child successor;
-    const Desk desk;
-    desk.list->refresh(makeSnapshot({{asked.pid(), 0}}));
-    desk.actions->setProcess(desk.list->processAt(desk.list->index(0, 0)));
-    const ModalDriver driver([&](QWidget *dialog) {
-        desk.list->refresh(makeSnapshot({{successor.pid(), 0}})); // takes the row
-        pressing(QMessageBox::Ok)(dialog);
-    });
-    desk.trigger("Kill process");
-    QCOMPARE(asked.waitForSignal(), SIGKILL);
-    QCOMPARE(successor.endAndTell(), SIGVTALRM);
-}
-
-void TestProcessControl::aProcessThatEndsDuringTheQuestionGivesTheErrorBox()
-{
-    Child asked;
-    const Desk desk;
-    desk.select(asked.pid());
-    SeenBox seen;
-    const ModalDriver driver({[&](QWidget *dialog) {
-                                  asked.endAndTell();
-                                  pressing(QMessageBox::Ok)(dialog);
-                              },
-                              pressing(QMessageBox::Ok, &seen)});
-    desk.trigger("Kill process");
-    QCOMPARE(driver.count(), std::size_t(2));
-    verifyErrorBox(seen, "Unable send signal to process. Reason - No such process");
-}
-
-void TestProcessControl::aResetDuringTheQuestionChangesNothing()
-{
-    Child asked;
-    const Desk desk;
-    desk.list->refresh(makeSnapshot({{asked.pid(), 0}}));
-    desk.actions->setProcess(desk.list->processAt(desk.list->index(0, 0)));
-    const ModalDriver driver([&](QWidget *dialog) {
+    QTest::newRow("the list is reset") << Change([](const Desk &desk, pid_t) {
         desk.list->setFlat(false);
         desk.list->setColumnVisible(2, false);
+    });
+}
+
+void TestProcessControl::theProcessThatWasAskedAboutGetsTheSignal()
+{
+    QFETCH(Change, duringTheQuestion);
+    Child before;
+    Child asked;
+    Child after;
+    const Desk desk;
+    desk.list->refresh(makeSnapshot({{asked.pid(), 0}}));
+    desk.actions->setProcess(desk.list->processAt(desk.list->index(0, 0)));
+    const ModalDriver driver([&](QWidget *dialog) {
+        duringTheQuestion(desk, after.pid());
         pressing(QMessageBox::Ok)(dialog);
     });
     desk.trigger("Kill process");
     QCOMPARE(asked.waitForSignal(), SIGKILL);
+    QCOMPARE(before.endAndTell(), SIGVTALRM);
+    QCOMPARE(after.endAndTell(), SIGVTALRM);
 }
 
-void TestProcessControl::aStaleSelectionIsWhatGetsTheSignal()
+void TestProcessControl::aStaleSelectionGetsTheSignal()
 {
-    // The pid stored last is what is acted on, whatever the list shows by now.
     Child chosen;
     Child shown;
     const Desk desk;

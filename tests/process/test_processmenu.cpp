@@ -10,16 +10,22 @@ namespace {
 
 const char *const signalActions[] = {"Stop process", "Continue process", "Terminate process", "Kill process",
                                      "Change priority..."};
-const int runningState = 1;
 const int stoppedState = 16;
 
-QStringList textsOf(const QMenu &menu)
+QString textsOf(const QMenu &menu)
 {
     QStringList texts;
-    for (const QAction *const action : menu.actions()) {
+    for (const QAction *action : menu.actions()) {
         texts.append(action->isSeparator() ? QStringLiteral("-") : action->text());
     }
-    return texts;
+    return texts.join(QLatin1Char('|'));
+}
+
+/// Whether a hidden action is enabled: QAction reports that only while it is visible.
+bool isEnabledWhenShown(QAction *action)
+{
+    action->setVisible(true);
+    return action->isEnabled();
 }
 
 } // namespace
@@ -34,35 +40,30 @@ private Q_SLOTS:
     void actionsHaveTheirProperties();
     void theTypesAreExclusive();
     void theIconsFallBackOnTheEmbeddedOnes();
-    void fillMenuAddsTheActionsInOrder();
     void fillMenuChecksTheTreeViewByTheMode();
-    void severalMenusShareTheActions();
+    void severalMenusShareTheActionsInOrder();
 
-    void withoutAProcessTheSignalActionsAreHidden();
-    void withoutAProcessTerminateAndKillKeepTheirState();
-    void aRunningProcessCanBeStoppedAStoppedOneContinued();
-    void everyStateButStoppedOffersStop();
+    void withoutAProcessTheSignalActionsAreHiddenAndOnlyTwoDisabled();
+    void onlyAStoppedProcessCanBeContinued_data();
+    void onlyAStoppedProcessCanBeContinued();
     void withoutAStateAllAreHiddenAndDisabled();
     void expandAndCollapseShowInTreeModeOnly();
     void theTypesAreCheckedByTheList();
-    void disablingLeavesInvisibleActionsAlone();
-    void enablingReachesActionsDeepBelow();
+    void disablingReachesAllVisibleActionsAndNoOthers();
 };
 
 void TestProcessMenu::actionsAreMadeInTheOrderOfTheTable()
 {
     const Desk desk;
     QStringList made;
-    for (const QObject *const child : desk.actions->children()) {
-        const auto *const action = qobject_cast<const QAction *>(child);
+    for (const QObject *child : desk.actions->children()) {
+        const auto *action = qobject_cast<const QAction *>(child);
         made.append(action ? action->text() : QLatin1String(child->metaObject()->className()));
     }
-    QCOMPARE(made, (QStringList{QStringLiteral("Tree view"), QStringLiteral("Expand all"),
-                                QStringLiteral("Collapse all"), QStringLiteral("QActionGroup"),
-                                QStringLiteral("All processes"), QStringLiteral("My processes"),
-                                QStringLiteral("Stop process"), QStringLiteral("Continue process"),
-                                QStringLiteral("Terminate process"), QStringLiteral("Kill process"),
-                                QStringLiteral("Change priority...")}));
+    QCOMPARE(made.join(QLatin1Char('|')),
+             QStringLiteral("Tree view|Expand all|Collapse all|QActionGroup|All processes|My processes|"
+                            "Stop process|Continue process|Terminate process|Kill process|"
+                            "Change priority..."));
 }
 
 void TestProcessMenu::actionsHaveTheirProperties_data()
@@ -85,18 +86,15 @@ void TestProcessMenu::actionsHaveTheirProperties_data()
 
 void TestProcessMenu::actionsHaveTheirProperties()
 {
-    QFETCH(QString, shortcut);
-    QFETCH(bool, checkable);
     QFETCH(bool, hasIcon);
-    QFETCH(QVariantList, data);
     const Desk desk;
-    const QAction *const action = desk.action(QTest::currentDataTag());
+    const QAction *action = desk.action(QTest::currentDataTag());
     QVERIFY(action);
     QCOMPARE(action->parent(), desk.actions);
-    QCOMPARE(action->shortcut().toString(QKeySequence::PortableText), shortcut);
-    QCOMPARE(action->isCheckable(), checkable);
+    QTEST(action->shortcut().toString(QKeySequence::PortableText), "shortcut");
+    QTEST(action->isCheckable(), "checkable");
     QCOMPARE(action->data().userType(), int(QMetaType::QVariantList));
-    QCOMPARE(action->data().toList(), data);
+    QTEST(action->data().toList(), "data");
     if (!hasIcon) {
         QVERIFY(action->icon().isNull());
     }
@@ -105,7 +103,7 @@ void TestProcessMenu::actionsHaveTheirProperties()
 void TestProcessMenu::theTypesAreExclusive()
 {
     const Desk desk;
-    const QActionGroup *const group = desk.action("All processes")->actionGroup();
+    const QActionGroup *group = desk.action("All processes")->actionGroup();
     QVERIFY(group);
     QVERIFY(group->isExclusive());
     QCOMPARE(group->actions(), (QList<QAction *>{desk.action("All processes"), desk.action("My processes")}));
@@ -126,16 +124,6 @@ void TestProcessMenu::theIconsFallBackOnTheEmbeddedOnes()
     QVERIFY(looksLike(desk.action("Continue process"), ":/images/continue"));
 }
 
-void TestProcessMenu::fillMenuAddsTheActionsInOrder()
-{
-    const Desk desk;
-    QMenu menu;
-    desk.actions->fillMenu(&menu);
-    QCOMPARE(textsOf(menu).join(QLatin1Char('|')),
-             QStringLiteral("Tree view|Expand all|Collapse all|-|My processes|All processes|-|Stop process|"
-                            "Continue process|Terminate process|Kill process|Change priority...|-"));
-}
-
 void TestProcessMenu::fillMenuChecksTheTreeViewByTheMode()
 {
     const Desk desk;
@@ -147,71 +135,62 @@ void TestProcessMenu::fillMenuChecksTheTreeViewByTheMode()
     QVERIFY(desk.action("Tree view")->isChecked());
 }
 
-void TestProcessMenu::severalMenusShareTheActions()
+void TestProcessMenu::severalMenusShareTheActionsInOrder()
 {
     const Desk desk;
+    const QString texts =
+        QStringLiteral("Tree view|Expand all|Collapse all|-|My processes|All processes|-|Stop process|"
+                       "Continue process|Terminate process|Kill process|Change priority...|-");
     QMenu lasting;
     desk.actions->fillMenu(&lasting);
     {
         QMenu passing;
         desk.actions->fillMenu(&passing);
-        QCOMPARE(textsOf(passing), textsOf(lasting));
+        QCOMPARE(textsOf(passing), texts);
         QCOMPARE(passing.actions().first(), lasting.actions().first());
     }
     desk.select(5);
     QVERIFY(desk.action("Kill process")->isVisible());
-    QCOMPARE(lasting.actions().size(), 13);
+    QCOMPARE(textsOf(lasting), texts);
 }
 
-void TestProcessMenu::withoutAProcessTheSignalActionsAreHidden()
+void TestProcessMenu::withoutAProcessTheSignalActionsAreHiddenAndOnlyTwoDisabled()
 {
     const Desk desk;
     desk.select(5);
     desk.actions->setProcess(Process(-1));
-    for (const char *const text : signalActions) {
-        QVERIFY(!desk.action(text)->isVisible());
+    for (const char *text : signalActions) {
+        QVERIFY2(!desk.action(text)->isVisible(), text);
     }
-    // Visible again, the two show how they were left.
-    for (const char *const text : {"Stop process", "Continue process"}) {
-        desk.action(text)->setVisible(true);
-        QVERIFY(!desk.action(text)->isEnabled());
+    for (const char *text : {"Stop process", "Continue process"}) {
+        QVERIFY2(!isEnabledWhenShown(desk.action(text)), text);
     }
-}
-
-void TestProcessMenu::withoutAProcessTerminateAndKillKeepTheirState()
-{
-    const Desk desk;
-    desk.select(5);
-    desk.actions->setProcess(Process(-1));
-    for (const char *const text : {"Terminate process", "Kill process", "Change priority..."}) {
-        desk.action(text)->setVisible(true);
-        QVERIFY(desk.action(text)->isEnabled());
+    for (const char *text : {"Terminate process", "Kill process", "Change priority..."}) {
+        QVERIFY2(isEnabledWhenShown(desk.action(text)), text);
     }
 }
 
-void TestProcessMenu::aRunningProcessCanBeStoppedAStoppedOneContinued()
+void TestProcessMenu::onlyAStoppedProcessCanBeContinued_data()
 {
-    const Desk desk;
-    for (const int state : {runningState, stoppedState, runningState}) {
-        desk.select(5, state);
-        for (const char *const text : signalActions) {
-            QVERIFY(desk.action(text)->isVisible());
-        }
-        QCOMPARE(desk.action("Stop process")->isEnabled(), state != stoppedState);
-        QCOMPARE(desk.action("Continue process")->isEnabled(), state == stoppedState);
-        QVERIFY(desk.action("Terminate process")->isEnabled());
-        QVERIFY(desk.action("Kill process")->isEnabled());
-        QVERIFY(desk.action("Change priority...")->isEnabled());
+    QTest::addColumn<int>("state");
+    for (const int state : {0, 1, 2, 4, 8, stoppedState, 32, 64, 128, -1}) {
+        QTest::addRow("state %d", state) << state;
     }
 }
 
-void TestProcessMenu::everyStateButStoppedOffersStop()
+void TestProcessMenu::onlyAStoppedProcessCanBeContinued()
 {
+    QFETCH(int, state);
     const Desk desk;
-    for (const int state : {0, 1, 2, 4, 8, 32, 64, 128, -1}) {
-        desk.select(5, state);
-        QVERIFY(desk.action("Stop process")->isEnabled());
-        QVERIFY(!desk.action("Continue process")->isEnabled());
+    desk.select(5, state == stoppedState ? 1 : stoppedState);
+    desk.select(5, state);
+    for (const char *text : signalActions) {
+        QVERIFY2(desk.action(text)->isVisible(), text);
+    }
+    QCOMPARE(desk.action("Stop process")->isEnabled(), state != stoppedState);
+    QCOMPARE(desk.action("Continue process")->isEnabled(), state == stoppedState);
+    for (const char *text : {"Terminate process", "Kill process", "Change priority..."}) {
+        QVERIFY2(desk.action(text)->isEnabled(), text);
     }
 }
 
@@ -220,10 +199,9 @@ void TestProcessMenu::withoutAStateAllAreHiddenAndDisabled()
     const Desk desk;
     desk.select(5);
     desk.actions->setProcess(Process(6));
-    for (const char *const text : signalActions) {
-        QVERIFY(!desk.action(text)->isVisible());
-        desk.action(text)->setVisible(true);
-        QVERIFY(!desk.action(text)->isEnabled());
+    for (const char *text : signalActions) {
+        QVERIFY2(!desk.action(text)->isVisible(), text);
+        QVERIFY2(!isEnabledWhenShown(desk.action(text)), text);
     }
 }
 
@@ -250,26 +228,19 @@ void TestProcessMenu::theTypesAreCheckedByTheList()
     }
 }
 
-void TestProcessMenu::disablingLeavesInvisibleActionsAlone()
+void TestProcessMenu::disablingReachesAllVisibleActionsAndNoOthers()
 {
     const Desk desk; // flat: "Expand all" is hidden
+    const auto *deep = new QAction(desk.action("Tree view"));
     desk.select(5);
     desk.actions->setActionsEnabled(false);
+    QVERIFY(!deep->isEnabled());
     QVERIFY(!desk.action("Tree view")->isEnabled());
     QVERIFY(!desk.action("Kill process")->isEnabled());
-    desk.action("Expand all")->setVisible(true);
-    QVERIFY(desk.action("Expand all")->isEnabled());
+    QVERIFY(isEnabledWhenShown(desk.action("Expand all")));
     desk.actions->setActionsEnabled(true);
     QVERIFY(desk.action("Tree view")->isEnabled());
     QVERIFY(desk.action("Kill process")->isEnabled());
-}
-
-void TestProcessMenu::enablingReachesActionsDeepBelow()
-{
-    const Desk desk;
-    auto *const deep = new QAction(desk.action("Tree view"));
-    desk.actions->setActionsEnabled(false);
-    QVERIFY(!deep->isEnabled());
 }
 
 QTEST_MAIN(TestProcessMenu)

@@ -1,33 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/process/support/menus.h"
-#include "tests/process/support/modaldriver.h"
+#include "tests/support/modal.h"
 
 #include <QSignalSpy>
-#include <QtTest>
 
 namespace {
 
-struct LoggedLine
-{
-    QtMsgType type = QtDebugMsg;
-    QString category;
-    QString text;
-};
-LoggedLine lastLine;
+QStringList logged;
 
 void keepLine(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    lastLine = {type, QLatin1String(context.category), text};
+    logged.append(QStringLiteral("%1 %2: %3").arg(type).arg(QLatin1String(context.category), text));
 }
 
-/// The line that `act` logs.
-LoggedLine lineOf(const std::function<void()> &act)
+/// The lines that `act` logs, with their type and category.
+QStringList linesOf(const std::function<void()> &act)
 {
-    lastLine = LoggedLine();
+    logged.clear();
     const QtMessageHandler before = qInstallMessageHandler(keepLine);
     act();
     qInstallMessageHandler(before);
-    return lastLine;
+    return logged;
 }
 
 } // namespace
@@ -42,11 +35,9 @@ private Q_SLOTS:
     void myProcessesSetsTheTypes();
     void expandAndCollapseReachTheView();
     void anUnknownKindDoesNothing();
-    void aDirectCallWritesOneCriticalLine();
-    void aSenderThatIsNoActionWritesTheSameLine();
+    void withoutAnActionAsSenderOneCriticalLineIsLogged();
     void eachSignalAsksItsQuestion_data();
     void eachSignalAsksItsQuestion();
-    void anUnknownSignalAsksItsQuestionToo();
 };
 
 void TestProcessMenuCommands::treeViewSwitchesTheMode()
@@ -95,87 +86,72 @@ void TestProcessMenuCommands::expandAndCollapseReachTheView()
 void TestProcessMenuCommands::anUnknownKindDoesNothing()
 {
     const Desk desk;
-    const ModalDriver driver(std::vector<ModalDriver::Handler>{});
+    const ModalDriver noDialog;
     const QSignalSpy resets(desk.list, SIGNAL(modelReset()));
-    QAction foreign;
-    connect(&foreign, SIGNAL(triggered(bool)), desk.actions, SLOT(process()));
     for (const QVariant &data : {QVariant(QVariantList{5, 1}), QVariant(QVariantList{-1}),
                                  QVariant(QVariantList()), QVariant(), QVariant(QStringLiteral("text"))}) {
-        foreign.setData(data);
-        foreign.trigger();
+        desk.triggerForeign(data);
     }
     QCOMPARE(resets.count(), 0);
-    QCOMPARE(driver.count(), std::size_t(0));
     QVERIFY(desk.list->isFlat());
 }
 
-void TestProcessMenuCommands::aDirectCallWritesOneCriticalLine()
-{
-    const Desk desk;
-    const LoggedLine line = lineOf([&] { desk.actions->process(); });
-    QCOMPARE(line.type, QtCriticalMsg);
-    QCOMPARE(line.category, QStringLiteral("default"));
-    QCOMPARE(line.text, QStringLiteral("void ProcessMenu::process() call not by signal"));
-}
-
-void TestProcessMenuCommands::aSenderThatIsNoActionWritesTheSameLine()
+void TestProcessMenuCommands::withoutAnActionAsSenderOneCriticalLineIsLogged()
 {
     const Desk desk;
     QObject sender;
     connect(&sender, SIGNAL(objectNameChanged(QString)), desk.actions, SLOT(process()));
-    const LoggedLine line = lineOf([&] { sender.setObjectName(QStringLiteral("x")); });
-    QCOMPARE(line.text, QStringLiteral("void ProcessMenu::process() call not by signal"));
+    const QStringList expected{
+        QStringLiteral("%1 default: void ProcessMenu::process() call not by signal").arg(QtCriticalMsg)};
+    QCOMPARE(linesOf([&] { desk.actions->process(); }), expected);
+    QCOMPARE(linesOf([&] { sender.setObjectName(QStringLiteral("x")); }), expected);
 }
 
 void TestProcessMenuCommands::eachSignalAsksItsQuestion_data()
 {
+    QTest::addColumn<int>("signal");
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("text");
-    QTest::newRow("Stop process") << "Process stopping"
+    QTest::newRow("Stop process") << 19 << "Process stopping"
                                   << "Are you really want to stop process?\n"
                                      "You would be able to resume it later.";
-    QTest::newRow("Continue process") << "Process resuming"
+    QTest::newRow("Continue process") << 18 << "Process resuming"
                                       << "Are you really want to resume process?";
-    QTest::newRow("Terminate process") << "Process terminating"
+    QTest::newRow("Terminate process") << 15 << "Process terminating"
                                        << "Are you really want to terminate process?\n"
                                           "Process will have ability to finish normally.";
-    QTest::newRow("Kill process") << "Process killing"
+    QTest::newRow("Kill process") << 9 << "Process killing"
                                   << "Are you really want to kill process?\n"
                                      "Process will no have ability to finish normally.\n"
                                      "All process data can be lost.";
+    for (const int unknown : {1, 0, -1, 64}) {
+        QTest::addRow("signal %d", unknown) << unknown << "Unknown signal"
+                                            << "Unknown signal";
+    }
 }
 
 void TestProcessMenuCommands::eachSignalAsksItsQuestion()
 {
-    QFETCH(QString, title);
-    QFETCH(QString, text);
+    QFETCH(int, signal);
     const Desk desk; // nothing is selected: even a wrong answer would reach nobody
-    SeenBox seen;
-    const ModalDriver driver(pressing(QMessageBox::Cancel, &seen));
-    desk.trigger(QTest::currentDataTag());
-    QCOMPARE(driver.count(), std::size_t(1));
-    QCOMPARE(seen.title, title);
-    QCOMPARE(seen.text, text);
-    QCOMPARE(seen.icon, QMessageBox::Question);
-    QCOMPARE(seen.buttons, QMessageBox::Ok | QMessageBox::Cancel);
-    QCOMPARE(seen.defaultButton, QMessageBox::Cancel);
-    QVERIFY(!seen.hasParent);
-}
-
-void TestProcessMenuCommands::anUnknownSignalAsksItsQuestionToo()
-{
-    const Desk desk;
-    for (const int signal : {1, 0, -1, 64}) {
-        QAction foreign;
-        connect(&foreign, SIGNAL(triggered(bool)), desk.actions, SLOT(process()));
-        foreign.setData(QVariantList{1, signal});
-        SeenBox seen;
-        const ModalDriver driver(pressing(QMessageBox::Cancel, &seen));
-        foreign.trigger();
-        QCOMPARE(driver.count(), std::size_t(1));
-        QCOMPARE(seen.title, QStringLiteral("Unknown signal"));
-        QCOMPARE(seen.text, QStringLiteral("Unknown signal"));
+    QList<SeenBox> boxes;
+    const auto cancel = [&](QWidget *dialog) {
+        boxes.append(SeenBox());
+        pressing(QMessageBox::Cancel, &boxes.last())(dialog);
+    };
+    const bool hasAction = desk.action(QTest::currentDataTag()) != nullptr;
+    const ModalDriver driver(std::vector<ModalDriver::Handler>(hasAction ? 2 : 1, cancel));
+    if (hasAction) {
+        desk.trigger(QTest::currentDataTag());
+    }
+    desk.triggerForeign(QVariantList{1, signal});
+    for (const SeenBox &seen : boxes) {
+        QTEST(seen.title, "title");
+        QTEST(seen.text, "text");
+        QCOMPARE(seen.icon, QMessageBox::Question);
+        QCOMPARE(seen.buttons, QMessageBox::Ok | QMessageBox::Cancel);
         QCOMPARE(seen.defaultButton, QMessageBox::Cancel);
+        QVERIFY(!seen.hasParent);
     }
 }
 

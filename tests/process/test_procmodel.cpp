@@ -13,20 +13,17 @@ using namespace gtop_wrappers;
 
 namespace {
 
-/// Lets a test make indexes of its own, as a view keeps stale ones.
-class OpenModel : public ProcModel
+/// A model of one process, which lets a test create the stale indexes that a view may keep.
+class OneProcess : public ProcModel
 {
 public:
+    OneProcess() { update(makeCpuSnapshot({{7, 4711}}), 1); }
     using ProcModel::createIndex;
 };
 
-ProcModel::Snapshot oneProcess(int cpuCounter)
+QString title(unsigned long column)
 {
-    Facts facts;
-    facts.pid = 7;
-    facts.name = QStringLiteral("seven");
-    facts.cpuCounter = cpuCounter;
-    return makeSnapshot({{7, facts}});
+    return ProcessFiller::instance()->title(column);
 }
 
 } // namespace
@@ -36,15 +33,13 @@ class TestProcModel : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void startsEmptyFlatAndWithColumns6To9Hidden();
-    void viewColumn6ShowsProcessColumn10();
     void aHiddenColumnComesBackInItsPlace();
     void aColumnPastTheEndThrows();
     void headersAreTheTitlesOfTheVisibleColumns();
     void headersOutsideTheColumnsAreTheToolkitsOwn();
     void displayAndSortValuesAreTheParametersOwn();
     void otherRolesAndMissingParametersGiveNothing();
-    void indexChecksItsBounds();
-    void anIndexCarriesThePid();
+    void anIndexIsCheckedAndCarriesThePid();
     void everyColumnOfAParentHasItsRows();
     void itemsAreSelectableAndEnabledOnly();
     void aStaleIndexIsHarmless();
@@ -53,9 +48,8 @@ private Q_SLOTS:
     void setFlatClearsOnlyOnAChange();
     void clearEmptiesWithOneReset();
     void aChangedNameLeavesForOneRefresh();
-    void aChangedParentLeavesForOneRefresh();
-    void aVanishedProcessLeaves();
-    void newProcessesAreAppendedInAscendingPidOrder();
+    void shapesOfTheFlatList_data();
+    void shapesOfTheFlatList();
 };
 
 void TestProcModel::startsEmptyFlatAndWithColumns6To9Hidden()
@@ -70,27 +64,17 @@ void TestProcModel::startsEmptyFlatAndWithColumns6To9Hidden()
     }
 }
 
-void TestProcModel::viewColumn6ShowsProcessColumn10()
-{
-    ProcModel model;
-    model.update(oneProcess(4711), 1);
-    QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), ProcessFiller::instance()->title(10));
-    const Process process = model.processByPid(7);
-    QCOMPARE(model.index(0, 6).data(Qt::UserRole), process.getParam(10)->sortValue());
-}
-
 void TestProcModel::aHiddenColumnComesBackInItsPlace()
 {
-    ProcModel model;
-    model.update(oneProcess(1), 1);
+    OneProcess model;
     model.setColumnVisible(0, false);
     QVERIFY(!model.isColumnVisible(0));
     QCOMPARE(model.columnCount(), static_cast<int>(ProcessFiller::instance()->size()) - 5);
     QCOMPARE(model.index(0, 1).data().toInt(), 7); // the pid moved up
     model.setColumnVisible(0, true);
-    QCOMPARE(model.index(0, 0).data().toString(), QStringLiteral("seven"));
+    QCOMPARE(model.index(0, 0).data().toString(), QStringLiteral("p7"));
     model.setColumnVisible(8, true);
-    QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), ProcessFiller::instance()->title(8));
+    QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), title(8));
 }
 
 void TestProcModel::aColumnPastTheEndThrows()
@@ -109,11 +93,11 @@ void TestProcModel::headersAreTheTitlesOfTheVisibleColumns()
     int section = 0;
     for (unsigned long i = 0; i < ProcessFiller::instance()->size(); ++i) {
         if (model.isColumnVisible(i)) {
-            QCOMPARE(model.headerData(section++, Qt::Horizontal).toString(),
-                     ProcessFiller::instance()->title(i));
+            QCOMPARE(model.headerData(section++, Qt::Horizontal).toString(), title(i));
         }
     }
     QCOMPARE(section, model.columnCount());
+    QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), title(10));
 }
 
 void TestProcModel::headersOutsideTheColumnsAreTheToolkitsOwn()
@@ -132,17 +116,18 @@ void TestProcModel::displayAndSortValuesAreTheParametersOwn()
     facts.pid = 12;
     facts.name = QStringLiteral("twelve");
     facts.state = 16;
+    facts.cpuCounter = 4711;
     model.update(makeSnapshot({{12, facts}}), 1);
     QCOMPARE(model.index(0, 0).data(), QVariant(QStringLiteral("twelve")));
     QCOMPARE(model.index(0, 2).data(Qt::UserRole), QVariant(12));
     QCOMPARE(model.index(0, 5).data(), QVariant(QStringLiteral("state")));
     QCOMPARE(model.index(0, 5).data(Qt::UserRole), QVariant(16));
+    QCOMPARE(model.index(0, 6).data(Qt::UserRole), QVariant(4711)); // process column 10
 }
 
 void TestProcModel::otherRolesAndMissingParametersGiveNothing()
 {
-    ProcModel model;
-    model.update(oneProcess(1), 1);
+    const OneProcess model;
     for (const int role :
          {int(Qt::DecorationRole), int(Qt::EditRole), int(Qt::ToolTipRole), int(Qt::UserRole) + 1}) {
         QVERIFY(!model.index(0, 0).data(role).isValid());
@@ -152,26 +137,19 @@ void TestProcModel::otherRolesAndMissingParametersGiveNothing()
     QVERIFY(!model.data(QModelIndex()).isValid());
 }
 
-void TestProcModel::indexChecksItsBounds()
+void TestProcModel::anIndexIsCheckedAndCarriesThePid()
 {
-    ProcModel model;
-    model.update(oneProcess(1), 1);
+    const OneProcess model;
     QVERIFY(model.index(0, 0).isValid());
     QVERIFY(model.index(0, model.columnCount() - 1).isValid());
+    QCOMPARE(model.index(0, 3).internalId(), quintptr(7));
+    QVERIFY(!model.index(0, 3).parent().isValid());
     QVERIFY(!model.index(-1, 0).isValid());
     QVERIFY(!model.index(1, 0).isValid());
     QVERIFY(!model.index(0, -1).isValid());
     QVERIFY(!model.index(0, model.columnCount()).isValid());
     QVERIFY(!model.index(0, 0, model.index(0, 0)).isValid());
     QVERIFY(!model.parent(QModelIndex()).isValid());
-}
-
-void TestProcModel::anIndexCarriesThePid()
-{
-    ProcModel model;
-    model.update(oneProcess(1), 1);
-    QCOMPARE(model.index(0, 3).internalId(), quintptr(7));
-    QVERIFY(!model.index(0, 3).parent().isValid());
 }
 
 void TestProcModel::everyColumnOfAParentHasItsRows()
@@ -187,43 +165,39 @@ void TestProcModel::everyColumnOfAParentHasItsRows()
 
 void TestProcModel::itemsAreSelectableAndEnabledOnly()
 {
-    ProcModel model;
-    model.update(oneProcess(1), 1);
+    const OneProcess model;
     QCOMPARE(static_cast<int>(model.flags(model.index(0, 0))), 33);
     QCOMPARE(static_cast<int>(model.flags(QModelIndex())), 0);
 }
 
 void TestProcModel::aStaleIndexIsHarmless()
 {
-    OpenModel model;
-    model.update(oneProcess(1), 1);
-    const QModelIndex gone = model.createIndex(0, 0, quintptr(4711));
-    QVERIFY(!model.data(gone).isValid());
-    QCOMPARE(model.rowCount(gone), 0);
-    QVERIFY(!model.parent(gone).isValid());
-    QVERIFY(!model.index(0, 0, gone).isValid());
-    QCOMPARE(model.processAt(gone).pid(), -1);
-    QVERIFY(!model.data(model.createIndex(0, 4711, quintptr(7))).isValid()); // a column that was hidden since
+    const OneProcess model;
+    const QModelIndex stale = model.createIndex(0, 0, quintptr(4711));
+    QVERIFY(!model.data(stale).isValid());
+    QCOMPARE(model.rowCount(stale), 0);
+    QVERIFY(!model.parent(stale).isValid());
+    QVERIFY(!model.index(0, 0, stale).isValid());
+    QCOMPARE(model.processAt(stale).pid(), -1);
+    QVERIFY(!model.data(model.createIndex(0, 4711, quintptr(7))).isValid()); // a column hidden since
 }
 
 void TestProcModel::processAtAndProcessByPidCopyTheProcess()
 {
-    ProcModel model;
-    model.update(oneProcess(1), 1);
-    QCOMPARE(model.processByPid(7).getName(), QStringLiteral("seven"));
+    OneProcess model;
+    QCOMPARE(model.processByPid(7).getName(), QStringLiteral("p7"));
     QCOMPARE(model.processByPid(8).pid(), -1);
     QCOMPARE(model.processByPid(-1).pid(), -1);
     QCOMPARE(model.processAt(model.index(0, 2)).pid(), 7);
     QCOMPARE(model.processAt(QModelIndex()).pid(), -1);
     const Process kept = model.processByPid(7);
     model.clear();
-    QCOMPARE(kept.getName(), QStringLiteral("seven"));
+    QCOMPARE(kept.getName(), QStringLiteral("p7"));
 }
 
 void TestProcModel::setFlatClearsOnlyOnAChange()
 {
-    ProcModel model;
-    model.update(oneProcess(1), 1);
+    OneProcess model;
     const QSignalSpy resets(&model, SIGNAL(modelReset()));
     model.setFlat(true);
     QCOMPARE(resets.count(), 0);
@@ -273,33 +247,24 @@ void TestProcModel::aChangedNameLeavesForOneRefresh()
     QCOMPARE(model.processByPid(2).getName(), QStringLiteral("other"));
 }
 
-void TestProcModel::aChangedParentLeavesForOneRefresh()
+void TestProcModel::shapesOfTheFlatList_data()
 {
-    ProcModel model;
-    model.update(makeSnapshot({{1, 0}, {2, 1}}), 1);
-    model.update(makeSnapshot({{1, 0}, {2, 0}}), 1);
-    QCOMPARE(shapeOf(model), QStringLiteral("1"));
-    model.update(makeSnapshot({{1, 0}, {2, 0}}), 1);
-    QCOMPARE(shapeOf(model), QStringLiteral("1 2"));
+    QTest::addColumn<Steps>("steps");
+    QTest::newRow("a changed parent leaves for one refresh")
+        << Steps{{makeSnapshot({{1, 0}, {2, 1}}), "1 2"},
+                 {makeSnapshot({{1, 0}, {2, 0}}), "1"},
+                 {makeSnapshot({{1, 0}, {2, 0}}), "1 2"}};
+    QTest::newRow("a vanished process leaves") << Steps{
+        {makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), "1 2 3"}, {makeSnapshot({{1, 0}, {3, 0}}), "1 3"}, {{}, ""}};
+    QTest::newRow("new processes are appended in ascending pid order, whatever their parents") << Steps{
+        {makeSnapshot({{5, 0}, {3, 5}}), "3 5"}, {makeSnapshot({{1, 0}, {3, 5}, {5, 0}, {4, 0}}), "3 5 1 4"}};
 }
 
-void TestProcModel::aVanishedProcessLeaves()
+void TestProcModel::shapesOfTheFlatList()
 {
+    QFETCH(Steps, steps);
     ProcModel model;
-    model.update(makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), 1);
-    model.update(makeSnapshot({{1, 0}, {3, 0}}), 1);
-    QCOMPARE(shapeOf(model), QStringLiteral("1 3"));
-    model.update({}, 1);
-    QCOMPARE(model.rowCount(), 0);
-}
-
-void TestProcModel::newProcessesAreAppendedInAscendingPidOrder()
-{
-    ProcModel model;
-    model.update(makeSnapshot({{5, 0}, {3, 5}}), 1);
-    QCOMPARE(shapeOf(model), QStringLiteral("3 5")); // flat: no child, whatever the parents
-    model.update(makeSnapshot({{1, 0}, {3, 5}, {5, 0}, {4, 0}}), 1);
-    QCOMPARE(shapeOf(model), QStringLiteral("3 5 1 4"));
+    verifySteps(&model, steps);
 }
 
 QTEST_MAIN(TestProcModel)

@@ -11,122 +11,97 @@ using gtop_wrappers::Process;
 namespace {
 
 const int cpuColumn = 1;
+const int lowest = std::numeric_limits<int>::min();
+const int highest = std::numeric_limits<int>::max();
+const unsigned long highestTotal = std::numeric_limits<unsigned long>::max();
 
-ProcModel::Snapshot oneProcess(int cpuCounter)
+/// A refresh of one process, and the load that is sorted by after it.
+struct Refresh
 {
-    Facts facts;
-    facts.pid = 7;
-    facts.name = QStringLiteral("seven");
-    facts.cpuCounter = cpuCounter;
-    return makeSnapshot({{7, facts}});
-}
-
-QString cpuText(const ProcModel &model)
-{
-    return model.index(0, cpuColumn).data().toString();
-}
-
-double cpuLoad(const ProcModel &model)
-{
-    return model.index(0, cpuColumn).data(Qt::UserRole).toDouble();
-}
+    int counter;
+    unsigned long total;
+    double load;
+};
+using Refreshes = std::vector<Refresh>;
 
 } // namespace
+
+Q_DECLARE_METATYPE(Refreshes)
 
 class TestProcModelCpu : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void firstLoadIsOneUnitAndTheSecondTheRealShare();
-    void aCounterOfZeroShowsOneUnitEveryTime();
-    void loadIsShownWithOneDecimal();
-    void aCounterThatFellWrapsAndTheNextShareIsRight();
-    void countersAtTheEndsOfTheirRangeAreTaken();
-    void aTotalOfZeroShowsInfAndNan();
+    void theLoadIsTheShareSinceTheLastRefresh_data();
+    void theLoadIsTheShareSinceTheLastRefresh();
+    void theLoadIsShownWithOneDecimal_data();
+    void theLoadIsShownWithOneDecimal();
     void aLoadThatIsNoNumberHasASortValueThatIsOne();
     void aProcessWithoutCpuParameterIsTaken();
 };
 
-void TestProcModelCpu::firstLoadIsOneUnitAndTheSecondTheRealShare()
+void TestProcModelCpu::theLoadIsTheShareSinceTheLastRefresh_data()
 {
-    ProcModel model;
-    model.update(oneProcess(5000), 400);
-    QCOMPARE(cpuLoad(model), 0.25); // 100.0 / 400
-    model.update(oneProcess(5050), 400);
-    QCOMPARE(cpuLoad(model), 12.5);
-    QCOMPARE(cpuText(model), QStringLiteral("12.5 %"));
-    model.update(oneProcess(5050), 400);
-    QCOMPARE(cpuText(model), QStringLiteral("0.0 %"));
-}
-
-void TestProcModelCpu::aCounterOfZeroShowsOneUnitEveryTime()
-{
-    ProcModel model;
-    for (int i = 0; i < 3; ++i) {
-        model.update(oneProcess(0), 1000);
-        QCOMPARE(cpuLoad(model), 0.1);
-    }
-    model.update(oneProcess(10), 1000);
-    QCOMPARE(cpuLoad(model), 0.1); // still no previous value: one unit, not ten
-    model.update(oneProcess(20), 1000);
-    QCOMPARE(cpuLoad(model), 1.0);
-}
-
-void TestProcModelCpu::loadIsShownWithOneDecimal()
-{
-    ProcModel model;
-    model.update(oneProcess(100), 3000);
-    QCOMPARE(cpuText(model), QStringLiteral("0.0 %"));
-    model.update(oneProcess(1100), 3000);
-    QCOMPARE(cpuText(model), QStringLiteral("33.3 %"));
-    model.update(oneProcess(4100), 3000);
-    QCOMPARE(cpuText(model), QStringLiteral("100.0 %"));
-}
-
-void TestProcModelCpu::aCounterThatFellWrapsAndTheNextShareIsRight()
-{
-    ProcModel model;
-    model.update(oneProcess(1000), 100);
-    model.update(oneProcess(990), 100); // an unsigned difference of 2^64 - 10
-    QCOMPARE(cpuLoad(model), 18446744073709551606.0);
-    model.update(oneProcess(1000), 100);
-    QCOMPARE(cpuLoad(model), 10.0);
-}
-
-void TestProcModelCpu::countersAtTheEndsOfTheirRangeAreTaken()
-{
-    ProcModel model;
-    model.update(oneProcess(std::numeric_limits<int>::max()), 100);
-    QCOMPARE(cpuLoad(model), 1.0);
-    model.update(oneProcess(std::numeric_limits<int>::min()), 100);
-    QCOMPARE(cpuLoad(model), 18446744069414584321.0);
-    model.clear();
+    QTest::addColumn<Refreshes>("refreshes");
+    QTest::newRow("the first load is one unit, then the real share")
+        << Refreshes{{5000, 400, 0.25}, {5050, 400, 12.5}, {5050, 400, 0.0}};
+    QTest::newRow("a counter of 0 shows one unit every time, also when it starts to grow")
+        << Refreshes{{0, 1000, 0.1}, {0, 1000, 0.1}, {0, 1000, 0.1}, {10, 1000, 0.1}, {20, 1000, 1.0}};
+    QTest::newRow("a counter that fell wraps to 2^64 - 10, and the next share is right")
+        << Refreshes{{1000, 100, 1.0}, {990, 100, 18446744073709551606.0}, {1000, 100, 10.0}};
+    QTest::newRow("from the highest counter to the lowest")
+        << Refreshes{{highest, 100, 1.0}, {lowest, 100, 18446744069414584321.0}};
     // The lowest counter less one is the highest as a 32-bit value: a huge first load.
-    model.update(oneProcess(std::numeric_limits<int>::min()), 100);
-    QCOMPARE(cpuLoad(model), 18446744069414584321.0);
-    model.update(oneProcess(std::numeric_limits<int>::min() + 1), std::numeric_limits<unsigned long>::max());
-    QVERIFY(cpuLoad(model) < 1e-15);
+    QTest::newRow("the lowest counter first")
+        << Refreshes{{lowest, 100, 18446744069414584321.0}, {lowest + 1, highestTotal, 100.0 / 0x1p64}};
 }
 
-void TestProcModelCpu::aTotalOfZeroShowsInfAndNan()
+void TestProcModelCpu::theLoadIsTheShareSinceTheLastRefresh()
 {
+    QFETCH(Refreshes, refreshes);
     ProcModel model;
-    model.update(oneProcess(100), 0);
-    QCOMPARE(cpuText(model), QStringLiteral("inf %"));
-    model.update(oneProcess(100), 0);
-    QCOMPARE(cpuText(model), QStringLiteral("nan %"));
-    model.update(oneProcess(101), 100);
-    QCOMPARE(cpuText(model), QStringLiteral("1.0 %"));
+    for (const Refresh &refresh : refreshes) {
+        model.update(makeCpuSnapshot({{7, refresh.counter}}), refresh.total);
+        QCOMPARE(model.index(0, cpuColumn).data(Qt::UserRole).toDouble(), refresh.load);
+    }
+}
+
+void TestProcModelCpu::theLoadIsShownWithOneDecimal_data()
+{
+    QTest::addColumn<int>("counter");
+    QTest::addColumn<int>("total");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("nothing") << 100 << 3000 << "0.0 %";
+    QTest::newRow("a third") << 1100 << 3000 << "33.3 %";
+    QTest::newRow("an eighth") << 150 << 400 << "12.5 %";
+    QTest::newRow("everything") << 3100 << 3000 << "100.0 %";
+    QTest::newRow("something in no time") << 101 << 0 << "inf %";
+    QTest::newRow("nothing in no time") << 100 << 0 << "nan %";
+}
+
+void TestProcModelCpu::theLoadIsShownWithOneDecimal()
+{
+    QFETCH(int, counter);
+    QFETCH(int, total);
+    ProcModel model;
+    const auto refresh = [&](int nextCounter, int nextTotal) {
+        model.update(makeCpuSnapshot({{7, nextCounter}}), static_cast<unsigned long>(nextTotal));
+        return model.index(0, cpuColumn).data().toString();
+    };
+    QCOMPARE(refresh(100, 3000), QStringLiteral("0.0 %")); // one unit
+    QTEST(refresh(counter, total), "text");
+    QCOMPARE(refresh(counter + 1, 100), QStringLiteral("1.0 %"));
 }
 
 void TestProcModelCpu::aLoadThatIsNoNumberHasASortValueThatIsOne()
 {
     ProcModel model;
-    model.update(oneProcess(100), 0);
-    QVERIFY(qIsInf(cpuLoad(model)));
-    model.update(oneProcess(100), 0);
-    QCOMPARE(cpuText(model), QStringLiteral("nan %"));
-    QVERIFY(!qIsNaN(cpuLoad(model)));
+    const auto sortValue = [&] { return model.index(0, cpuColumn).data(Qt::UserRole).toDouble(); };
+    model.update(makeCpuSnapshot({{7, 100}}), 0);
+    QVERIFY(qIsInf(sortValue()));
+    model.update(makeCpuSnapshot({{7, 100}}), 0);
+    QCOMPARE(model.index(0, cpuColumn).data().toString(), QStringLiteral("nan %"));
+    QVERIFY(!qIsNaN(sortValue()));
 }
 
 void TestProcModelCpu::aProcessWithoutCpuParameterIsTaken()

@@ -10,8 +10,8 @@
 
 namespace {
 
-/// Shows the rows of a parent below its first cell only. The process model has them below every cell, which
-/// is required of it and the one thing that the tester objects to.
+/// Shows the rows of a parent below its first cell only. The process model must have them below every cell,
+/// which is the one thing that the tester objects to.
 class FirstCellOnly : public QIdentityProxyModel
 {
 public:
@@ -21,42 +21,29 @@ public:
     }
 };
 
-} // namespace
-
-/// Writes down the signals of a model in their order.
-class SignalLog : public QObject
+/// The signals that one refresh emits: "<" and ">" for the layout change, "+" and "-" with the pid for rows.
+QString signalsOf(ProcModel *model, const ProcModel::Snapshot &snapshot)
 {
-    Q_OBJECT
-public:
-    explicit SignalLog(ProcModel *watched) : model(watched)
-    {
-        connect(model, SIGNAL(layoutAboutToBeChanged()), this, SLOT(noteLayoutBegin()));
-        connect(model, SIGNAL(layoutChanged()), this, SLOT(noteLayoutEnd()));
-        connect(model, SIGNAL(rowsInserted(QModelIndex, int, int)), this,
-                SLOT(noteInsertion(QModelIndex, int, int)));
-        connect(model, SIGNAL(rowsAboutToBeRemoved(QModelIndex, int, int)), this,
-                SLOT(noteRemoval(QModelIndex, int, int)));
-        connect(model, SIGNAL(dataChanged(QModelIndex, QModelIndex)), this, SLOT(noteData()));
-    }
-    QString take() { return std::exchange(entries, {}).join(QLatin1Char(' ')); }
-
-private Q_SLOTS:
-    void noteLayoutBegin() { entries.append(QStringLiteral("<")); }
-    void noteLayoutEnd() { entries.append(QStringLiteral(">")); }
-    void noteData() { entries.append(QStringLiteral("data")); }
-    void noteInsertion(const QModelIndex &parent, int row, int) { note('+', parent, row); }
-    void noteRemoval(const QModelIndex &parent, int row, int) { note('-', parent, row); }
-
-private:
-    void note(char sign, const QModelIndex &parent, int row)
-    {
-        const int pid = model->processAt(model->index(row, 0, parent)).pid();
-        entries.append(QLatin1Char(sign) + QString::number(pid));
-    }
-
-    ProcModel *model;
     QStringList entries;
-};
+    QObject receiver; // ends the connections
+    const auto note = [&](char sign) {
+        return [&entries, model, sign](const QModelIndex &parent, int row) {
+            const int pid = model->processAt(model->index(row, 0, parent)).pid();
+            entries.append(QLatin1Char(sign) + QString::number(pid));
+        };
+    };
+    using Model = QAbstractItemModel;
+    QObject::connect(model, &Model::layoutAboutToBeChanged, &receiver,
+                     [&] { entries.append(QStringLiteral("<")); });
+    QObject::connect(model, &Model::layoutChanged, &receiver, [&] { entries.append(QStringLiteral(">")); });
+    QObject::connect(model, &Model::dataChanged, &receiver, [&] { entries.append(QStringLiteral("data")); });
+    QObject::connect(model, &Model::rowsInserted, &receiver, note('+'));
+    QObject::connect(model, &Model::rowsAboutToBeRemoved, &receiver, note('-'));
+    model->update(snapshot, 1);
+    return entries.join(QLatin1Char(' '));
+}
+
+} // namespace
 
 class TestProcModelProtocol : public QObject
 {
@@ -65,38 +52,33 @@ private Q_SLOTS:
     void signalsInFlatMode();
     void signalsInTreeMode();
     void persistentIndexesStayOnTheirProcess();
-    void theFlatListKeepsTheProtocol();
-    void theTreeKeepsTheProtocol();
+    void theModelKeepsTheProtocol_data();
+    void theModelKeepsTheProtocol();
 };
 
 void TestProcModelProtocol::signalsInFlatMode()
 {
     ProcModel model;
-    SignalLog log(&model);
-    model.update(makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), 1);
-    QCOMPARE(log.take(), QStringLiteral("< > +1 +2 +3"));
-    model.update(makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), 1);
-    QCOMPARE(log.take(), QStringLiteral("< >"));
-    // 2 is another process now: it goes before the layout change, comes, and goes again. 3 has ended.
-    model.update(makeSnapshot({{1, 0}, {2, 1}, {4, 0}}), 1);
-    QCOMPARE(log.take(), QStringLiteral("-2 < > +2 +4 -2 -3"));
+    const ProcModel::Snapshot first = makeSnapshot({{1, 0}, {2, 0}, {3, 0}});
+    QCOMPARE(signalsOf(&model, first), QStringLiteral("< > +1 +2 +3"));
+    QCOMPARE(signalsOf(&model, first), QStringLiteral("< >"));
+    // 2 is another process now: it goes before the layout change, comes, and goes again. 3 has exited.
+    QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}, {4, 0}})), QStringLiteral("-2 < > +2 +4 -2 -3"));
 }
 
 void TestProcModelProtocol::signalsInTreeMode()
 {
     ProcModel model;
     model.setFlat(false);
-    SignalLog log(&model);
-    model.update(makeSnapshot({{1, 0}, {2, 1}}), 1);
-    QCOMPARE(log.take(), QStringLiteral("< > +1 -1 +1 +2"));
-    // A new child: the old 1 leaves with all below it, then the new one comes; 2 has no place any more.
-    model.update(makeSnapshot({{1, 0}, {2, 1}, {3, 1}}), 1);
-    QCOMPARE(log.take(), QStringLiteral("< > -1 +1 +3"));
-    model.update(makeSnapshot({{1, 0}, {2, 1}, {3, 1}, {4, 2}}), 1);
-    QCOMPARE(log.take(), QStringLiteral("< > -1 +1 +2 +4"));
+    QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}})), QStringLiteral("< > +1 -1 +1 +2"));
+    // A new child: the old 1 leaves with its subtree, then the new one comes; 2 becomes an orphan.
+    const ProcModel::Snapshot second = makeSnapshot({{1, 0}, {2, 1}, {3, 1}});
+    QCOMPARE(signalsOf(&model, second), QStringLiteral("< > -1 +1 +3"));
+    QCOMPARE(signalsOf(&model, second), QStringLiteral("< >"));
+    QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}, {3, 1}, {4, 2}})),
+             QStringLiteral("< > -1 +1 +2 +4"));
     // Children go before their parent.
-    model.update(makeSnapshot({{1, 0}, {3, 1}}), 1);
-    QCOMPARE(log.take(), QStringLiteral("< > -4 -2"));
+    QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {3, 1}})), QStringLiteral("< > -4 -2"));
 }
 
 void TestProcModelProtocol::persistentIndexesStayOnTheirProcess()
@@ -113,33 +95,26 @@ void TestProcModelProtocol::persistentIndexesStayOnTheirProcess()
     QVERIFY(!third.isValid());
 }
 
-void TestProcModelProtocol::theFlatListKeepsTheProtocol()
+void TestProcModelProtocol::theModelKeepsTheProtocol_data()
 {
-    ProcModel model;
-    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    ReferenceTree reference(true);
-    World world(20211, 40);
-    for (int round = 0; round < 90; ++round) {
-        world.step();
-        model.update(makeSnapshot(world.facts()), world.totalDelta());
-        reference.refresh(world.facts(), world.totalDelta());
-        QCOMPARE(shapeWithLoad(model), reference.shape());
-        if (round % 30 == 29) {
-            model.clear();
-            reference.clear();
-        }
-    }
+    QTest::addColumn<bool>("flat");
+    QTest::addColumn<unsigned int>("seed");
+    QTest::newRow("flat list") << true << 20211U;
+    QTest::newRow("tree") << false << 20212U;
 }
 
-void TestProcModelProtocol::theTreeKeepsTheProtocol()
+void TestProcModelProtocol::theModelKeepsTheProtocol()
 {
+    QFETCH(bool, flat);
+    QFETCH(unsigned int, seed);
     ProcModel model;
-    model.setFlat(false);
-    FirstCellOnly shown;
-    shown.setSourceModel(&model);
-    const QAbstractItemModelTester tester(&shown, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    ReferenceTree reference(false);
-    World world(20212, 40);
+    model.setFlat(flat);
+    FirstCellOnly firstCellOnly;
+    firstCellOnly.setSourceModel(&model);
+    auto *tested = flat ? static_cast<QAbstractItemModel *>(&model) : &firstCellOnly;
+    const QAbstractItemModelTester tester(tested, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    ReferenceTree reference(flat);
+    World world(seed, 40);
     for (int round = 0; round < 90; ++round) {
         world.step();
         model.update(makeSnapshot(world.facts()), world.totalDelta());

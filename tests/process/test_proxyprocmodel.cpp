@@ -14,14 +14,10 @@ namespace {
 const int cpuColumn = 1;
 const int pidColumn = 2;
 
-ProcModel::Snapshot withCounters(std::initializer_list<std::pair<int, int>> pidsAndCounters)
+void refreshAt(const List &list, unsigned long total, const ProcModel::Snapshot &snapshot)
 {
-    FactsByPid facts;
-    for (const auto &entry : pidsAndCounters) {
-        facts[entry.first].pid = entry.first;
-        facts[entry.first].cpuCounter = entry.second;
-    }
-    return makeSnapshot(facts);
+    list.proxy->setTotalCpuTime(total);
+    list.proxy->refresh(snapshot);
 }
 
 } // namespace
@@ -30,22 +26,20 @@ class TestProxyProcModel : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void startsWithMyProcessesFlatSortedByTheSortValues();
+    void startsWithMyProcessesInAFlatListSortedByTheSortValues();
     void theSourceModelHasTheProxysParent();
-    void theFirstBaseIsTheTotalLessOne();
-    void laterBasesAreDifferences();
-    void aTotalThatDoesNotGrowIsShownAsItComes();
-    void withoutAViewNothingHappensToIt();
-    void aViewThatIsGoneIsForgotten();
+    void theLoadIsRelativeToTheTotalSinceTheLastRefresh_data();
+    void theLoadIsRelativeToTheTotalSinceTheLastRefresh();
+    void worksWithoutAView();
+    void survivesItsView();
     void theCpuColumnSortsByItsPercentage();
     void nanAndInfSortWithoutHarm();
     void theOrderFollowsEveryRefresh();
     void processAtMapsToTheSource();
     void columnFlagsAreTheSourcesOwn();
-    void aColumnPastTheEndThrows();
 };
 
-void TestProxyProcModel::startsWithMyProcessesFlatSortedByTheSortValues()
+void TestProxyProcModel::startsWithMyProcessesInAFlatListSortedByTheSortValues()
 {
     const List list;
     QCOMPARE(list.proxy->processTypes(), 1);
@@ -63,41 +57,31 @@ void TestProxyProcModel::theSourceModelHasTheProxysParent()
     QCOMPARE(static_cast<QObject *>(list.proxy)->parent(), &list.owner);
 }
 
-void TestProxyProcModel::theFirstBaseIsTheTotalLessOne()
+void TestProxyProcModel::theLoadIsRelativeToTheTotalSinceTheLastRefresh_data()
 {
-    List list;
-    list.proxy->setTotalCpuTime(100001);
-    list.proxy->refresh(withCounters({{5, 40}}));
-    QCOMPARE(list.proxy->index(0, cpuColumn).data(Qt::UserRole).toDouble(), 0.001); // 100.0 / 100000
+    QTest::addColumn<QList<int>>("totals"); // one process uses one unit in each refresh
+    QTest::addColumn<QString>("text");
+    QTest::newRow("the first total less one") << QList<int>{3} << "50.0 %";
+    QTest::newRow("then the difference") << QList<int>{5000, 5008} << "12.5 %";
+    QTest::newRow("no difference") << QList<int>{5000, 5000} << "inf %";
+    QTest::newRow("a total that fell, by 2^64 - 1") << QList<int>{5000, 5000, 4999} << "0.0 %";
 }
 
-void TestProxyProcModel::laterBasesAreDifferences()
+void TestProxyProcModel::theLoadIsRelativeToTheTotalSinceTheLastRefresh()
 {
-    List list;
-    list.proxy->setTotalCpuTime(5000);
-    list.proxy->refresh(withCounters({{5, 40}}));
-    list.proxy->setTotalCpuTime(5400);
-    list.proxy->refresh(withCounters({{5, 90}}));
-    QCOMPARE(list.proxy->index(0, cpuColumn).data().toString(), QStringLiteral("12.5 %"));
+    QFETCH(QList<int>, totals);
+    const List list;
+    int counter = 40;
+    for (const int total : totals) {
+        refreshAt(list, static_cast<unsigned long>(total), makeCpuSnapshot({{5, counter++}}));
+    }
+    QTEST(list.proxy->index(0, cpuColumn).data().toString(), "text");
 }
 
-void TestProxyProcModel::aTotalThatDoesNotGrowIsShownAsItComes()
-{
-    List list;
-    list.proxy->setTotalCpuTime(5000);
-    list.proxy->refresh(withCounters({{5, 40}}));
-    list.proxy->setTotalCpuTime(5000);
-    list.proxy->refresh(withCounters({{5, 41}}));
-    QCOMPARE(list.proxy->index(0, cpuColumn).data().toString(), QStringLiteral("inf %"));
-    list.proxy->setTotalCpuTime(4999); // a difference of 2^64 - 1
-    list.proxy->refresh(withCounters({{5, 42}}));
-    QCOMPARE(list.proxy->index(0, cpuColumn).data().toString(), QStringLiteral("0.0 %"));
-}
-
-void TestProxyProcModel::withoutAViewNothingHappensToIt()
+void TestProxyProcModel::worksWithoutAView()
 {
     QObject owner;
-    auto *const proxy = new ProxyProcModel(&owner);
+    auto *proxy = new ProxyProcModel(&owner);
     proxy->setView(nullptr);
     proxy->refresh(makeSnapshot({{1, 0}}));
     proxy->expandAll();
@@ -107,10 +91,10 @@ void TestProxyProcModel::withoutAViewNothingHappensToIt()
     QCOMPARE(proxy->rowCount(), 1);
 }
 
-void TestProxyProcModel::aViewThatIsGoneIsForgotten()
+void TestProxyProcModel::survivesItsView()
 {
     QObject owner;
-    auto *const proxy = new ProxyProcModel(&owner);
+    auto *proxy = new ProxyProcModel(&owner);
     auto view = std::make_unique<QTreeView>();
     proxy->setView(view.get());
     proxy->refresh(makeSnapshot({{1, 0}}));
@@ -123,10 +107,8 @@ void TestProxyProcModel::aViewThatIsGoneIsForgotten()
 void TestProxyProcModel::theCpuColumnSortsByItsPercentage()
 {
     List list;
-    list.proxy->setTotalCpuTime(1001);
-    list.proxy->refresh(withCounters({{1, 10}, {2, 10}, {3, 10}}));
-    list.proxy->setTotalCpuTime(2001);
-    list.proxy->refresh(withCounters({{1, 100}, {2, 110}, {3, 60}})); // 9.0, 10.0, 5.0: as texts 10 5 9
+    refreshAt(list, 1001, makeCpuSnapshot({{1, 10}, {2, 10}, {3, 10}}));
+    refreshAt(list, 2001, makeCpuSnapshot({{1, 100}, {2, 110}, {3, 60}})); // 9.0, 10.0, 5.0: as texts 10 5 9
     list.view.sortByColumn(cpuColumn, Qt::AscendingOrder);
     QCOMPARE(list.pids(), (QList<int>{3, 1, 2}));
     list.view.sortByColumn(cpuColumn, Qt::DescendingOrder);
@@ -137,18 +119,12 @@ void TestProxyProcModel::nanAndInfSortWithoutHarm()
 {
     List list;
     list.view.sortByColumn(cpuColumn, Qt::DescendingOrder);
-    list.proxy->setTotalCpuTime(1000);
-    FactsByPid facts;
-    for (int pid = 1; pid <= 200; ++pid) {
-        facts[pid].pid = pid;
-        facts[pid].cpuCounter = 100 + pid;
-    }
-    list.proxy->refresh(makeSnapshot(facts));
-    list.proxy->setTotalCpuTime(1000);
+    FactsByPid facts = factsUpTo(200);
+    refreshAt(list, 1000, makeSnapshot(facts));
     for (int pid = 1; pid <= 200; pid += 3) {
         ++facts[pid].cpuCounter; // infinite where it grew, not a number elsewhere
     }
-    list.proxy->refresh(makeSnapshot(facts));
+    refreshAt(list, 1000, makeSnapshot(facts));
     QCOMPARE(list.proxy->rowCount(), 200);
     for (int row = 0; row < 200; ++row) {
         const QString text = list.proxy->index(row, cpuColumn).data().toString();
@@ -160,13 +136,10 @@ void TestProxyProcModel::theOrderFollowsEveryRefresh()
 {
     List list;
     list.view.sortByColumn(cpuColumn, Qt::DescendingOrder);
-    list.proxy->setTotalCpuTime(1001);
-    list.proxy->refresh(withCounters({{1, 10}, {2, 10}, {3, 10}}));
-    list.proxy->setTotalCpuTime(2001);
-    list.proxy->refresh(withCounters({{1, 20}, {2, 30}, {3, 40}}));
+    refreshAt(list, 1001, makeCpuSnapshot({{1, 10}, {2, 10}, {3, 10}}));
+    refreshAt(list, 2001, makeCpuSnapshot({{1, 20}, {2, 30}, {3, 40}}));
     QCOMPARE(list.pids(), (QList<int>{3, 2, 1}));
-    list.proxy->setTotalCpuTime(3001);
-    list.proxy->refresh(withCounters({{1, 120}, {2, 31}, {3, 42}}));
+    refreshAt(list, 3001, makeCpuSnapshot({{1, 120}, {2, 31}, {3, 42}}));
     QCOMPARE(list.pids(), (QList<int>{1, 3, 2}));
 }
 
@@ -184,16 +157,11 @@ void TestProxyProcModel::processAtMapsToTheSource()
 
 void TestProxyProcModel::columnFlagsAreTheSourcesOwn()
 {
-    List list;
+    const List list;
     QVERIFY(!list.proxy->isColumnVisible(7));
     list.proxy->setColumnVisible(7, true);
     QVERIFY(list.proxy->isColumnVisible(7));
     QVERIFY(qobject_cast<ProcModel *>(list.proxy->sourceModel())->isColumnVisible(7));
-}
-
-void TestProxyProcModel::aColumnPastTheEndThrows()
-{
-    const List list;
     QVERIFY_EXCEPTION_THROWN(list.proxy->isColumnVisible(ProcessFiller::instance()->size()),
                              std::out_of_range);
 }

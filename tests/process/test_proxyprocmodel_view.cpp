@@ -14,62 +14,48 @@ namespace {
 
 const int cpuColumn = 1;
 const int pidColumn = 2;
+const int userWidth = 777; ///< that a user has given to the first column
+
+/// A tree of two processes, the second under the first.
+struct TwoLevels : List
+{
+    TwoLevels() { proxy->setFlat(false); }
+    void refresh() { proxy->refresh(makeSnapshot({{1, 0}, {2, 1}})); }
+    bool isExpanded() const { return view.isExpanded(proxy->index(0, 0)); }
+    bool isFitted() const { return view.columnWidth(0) != userWidth; }
+};
 
 } // namespace
-
-/// Refreshes the list on every reset, as the controller does.
-class Refresher : public QObject
-{
-    Q_OBJECT
-public:
-    explicit Refresher(ProxyProcModel *refreshed) : proxy(refreshed)
-    {
-        connect(proxy, SIGNAL(modelReset()), this, SLOT(refresh()));
-    }
-    ProcModel::Snapshot snapshot = makeSnapshot({{1, 0}, {2, 1}, {3, 2}});
-    int count = 0;
-
-public Q_SLOTS:
-    void refresh()
-    {
-        ++count;
-        proxy->setTotalCpuTime(static_cast<unsigned long>(count) * 100);
-        proxy->refresh(snapshot);
-    }
-
-private:
-    ProxyProcModel *proxy;
-};
 
 /// What resets and refreshes do to a view.
 class TestProxyProcModelView : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void setFlatResetsThreeTimesOnAChangeAndTwiceWithout();
+    void aModeChangeResetsThreeTimesFirstBeforeTheFlagIsStored();
     void otherSettersResetTwice();
-    void theFirstResetOfAModeChangeComesBeforeTheFlagIsStored();
     void everyResetIsFollowedByARefreshThatRebuildsTheList();
     void hidingAColumnTakesItFromTheViewAndRefillsTheList();
     void columnsAreFittedAndRowsExpandedOnceAfterAReset();
     void whatTheUserArrangedStaysBetweenResets();
     void expandAllAndCollapseAllReachTheView();
     void theViewIsLaidOutWhenRefreshReturns();
-    void aHeldLayoutComesWhenItIsLetGo();
-    void aResetTakesTheLayoutThatIsHeld();
+    void aDeferredLayoutHappensAtTheEndOfTheDeferral();
+    void aResetDropsADeferredLayout();
     void onlyRowsOfATreeCanHaveChildren();
     void selectionStaysOnItsProcessWhileOthersAreReplaced();
     void aFilledProxyKeepsTheProtocolThroughResets();
 };
 
-void TestProxyProcModelView::setFlatResetsThreeTimesOnAChangeAndTwiceWithout()
+void TestProxyProcModelView::aModeChangeResetsThreeTimesFirstBeforeTheFlagIsStored()
 {
     List list;
-    const QSignalSpy resets(list.proxy, SIGNAL(modelReset()));
+    QList<bool> flat; // at each reset
+    connect(list.proxy, &QAbstractItemModel::modelReset, this, [&] { flat.append(list.proxy->isFlat()); });
     list.proxy->setFlat(false);
-    QCOMPARE(resets.count(), 3);
-    list.proxy->setFlat(false);
-    QCOMPARE(resets.count(), 5);
+    QCOMPARE(flat, (QList<bool>{true, false, false}));
+    list.proxy->setFlat(false); // no change
+    QCOMPARE(flat.size(), 5);
 }
 
 void TestProxyProcModelView::otherSettersResetTwice()
@@ -80,35 +66,32 @@ void TestProxyProcModelView::otherSettersResetTwice()
     QCOMPARE(resets.count(), 2);
     list.proxy->setProcessTypes(0);
     QCOMPARE(resets.count(), 4);
-    list.proxy->setProcessTypes(0); // without a change too
+    list.proxy->setProcessTypes(0); // no change
     QCOMPARE(resets.count(), 6);
     QCOMPARE(list.proxy->processTypes(), 0);
-}
-
-void TestProxyProcModelView::theFirstResetOfAModeChangeComesBeforeTheFlagIsStored()
-{
-    List list;
-    QList<bool> seen;
-    connect(list.proxy, &QAbstractItemModel::modelReset, this, [&] { seen.append(list.proxy->isFlat()); });
-    list.proxy->setFlat(false);
-    QCOMPARE(seen, (QList<bool>{true, false, false}));
 }
 
 void TestProxyProcModelView::everyResetIsFollowedByARefreshThatRebuildsTheList()
 {
     List list;
     list.view.sortByColumn(pidColumn, Qt::AscendingOrder);
-    Refresher refresher(list.proxy);
-    refresher.refresh();
+    ProcModel::Snapshot snapshot = makeSnapshot({{1, 0}, {2, 1}, {3, 2}});
+    unsigned long refreshes = 0;
+    const auto refresh = [&] { // as the controller does
+        list.proxy->setTotalCpuTime(++refreshes * 100);
+        list.proxy->refresh(snapshot);
+    };
+    connect(list.proxy, &QAbstractItemModel::modelReset, this, refresh);
+    refresh();
     QCOMPARE(list.pids(), (QList<int>{1, 2, 3}));
     list.proxy->setFlat(false);
-    QCOMPARE(refresher.count, 4);
+    QCOMPARE(refreshes, 4UL);
     QCOMPARE(list.pids(), (QList<int>{1}));
     QCOMPARE(list.proxy->rowCount(list.proxy->index(0, 0)), 1);
     QVERIFY(list.view.isExpanded(list.proxy->index(0, 0)));
     list.proxy->setFlat(true);
     QCOMPARE(list.pids(), (QList<int>{1, 2, 3}));
-    refresher.snapshot = makeSnapshot({{1, 0}, {9, 1}});
+    snapshot = makeSnapshot({{1, 0}, {9, 1}});
     list.proxy->setProcessTypes(0);
     QCOMPARE(list.pids(), (QList<int>{1, 9}));
 }
@@ -128,16 +111,15 @@ void TestProxyProcModelView::hidingAColumnTakesItFromTheViewAndRefillsTheList()
 
 void TestProxyProcModelView::columnsAreFittedAndRowsExpandedOnceAfterAReset()
 {
-    List list;
-    list.proxy->setFlat(false);
-    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 1}}));
-    QVERIFY(list.view.isExpanded(list.proxy->index(0, 0)));
+    TwoLevels list;
+    list.refresh();
+    QVERIFY(list.isExpanded());
     list.view.collapseAll();
-    list.view.setColumnWidth(0, 777);
+    list.view.setColumnWidth(0, userWidth);
     list.proxy->setProcessTypes(0);
-    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 1}}));
-    QVERIFY(list.view.isExpanded(list.proxy->index(0, 0)));
-    QVERIFY(list.view.columnWidth(0) != 777);
+    list.refresh();
+    QVERIFY(list.isExpanded());
+    QVERIFY(list.isFitted());
     for (int column = 0; column < list.proxy->columnCount(); ++column) {
         QCOMPARE(list.view.columnWidth(column),
                  qMax(list.view.columnHint(column), list.view.header()->sectionSizeHint(column)));
@@ -146,26 +128,23 @@ void TestProxyProcModelView::columnsAreFittedAndRowsExpandedOnceAfterAReset()
 
 void TestProxyProcModelView::whatTheUserArrangedStaysBetweenResets()
 {
-    List list;
-    list.proxy->setFlat(false);
-    const ProcModel::Snapshot snapshot = makeSnapshot({{1, 0}, {2, 1}});
-    list.proxy->refresh(snapshot);
+    TwoLevels list;
+    list.refresh();
     list.view.collapse(list.proxy->index(0, 0));
-    list.view.setColumnWidth(0, 777);
-    list.proxy->refresh(snapshot);
-    QVERIFY(!list.view.isExpanded(list.proxy->index(0, 0)));
-    QCOMPARE(list.view.columnWidth(0), 777);
+    list.view.setColumnWidth(0, userWidth);
+    list.refresh();
+    QVERIFY(!list.isExpanded());
+    QCOMPARE(list.view.columnWidth(0), userWidth);
 }
 
 void TestProxyProcModelView::expandAllAndCollapseAllReachTheView()
 {
-    List list;
-    list.proxy->setFlat(false);
-    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 1}}));
+    TwoLevels list;
+    list.refresh();
     list.proxy->collapseAll();
-    QVERIFY(!list.view.isExpanded(list.proxy->index(0, 0)));
+    QVERIFY(!list.isExpanded());
     list.proxy->expandAll();
-    QVERIFY(list.view.isExpanded(list.proxy->index(0, 0)));
+    QVERIFY(list.isExpanded());
 }
 
 void TestProxyProcModelView::theViewIsLaidOutWhenRefreshReturns()
@@ -173,69 +152,64 @@ void TestProxyProcModelView::theViewIsLaidOutWhenRefreshReturns()
     List list;
     list.view.resize(300, 100);
     list.view.show();
-    FactsByPid facts;
-    for (int pid = 1; pid <= 100; ++pid) {
-        facts[pid].pid = pid;
-    }
+    FactsByPid facts = factsUpTo(100);
     list.proxy->refresh(makeSnapshot(facts));
     list.view.verticalScrollBar()->setValue(list.view.verticalScrollBar()->maximum());
     facts.erase(facts.begin(), facts.find(91));
     list.proxy->refresh(makeSnapshot(facts));
-    // Ten rows are left. The scroll bar knows at once, not only after the event loop has run.
+    // Ten rows are left. The scroll bar knows without a run of the event loop.
     QVERIFY(list.view.verticalScrollBar()->maximum() < 10);
 }
 
-void TestProxyProcModelView::aHeldLayoutComesWhenItIsLetGo()
+void TestProxyProcModelView::aDeferredLayoutHappensAtTheEndOfTheDeferral()
 {
-    List list;
-    list.proxy->setFlat(false);
-    list.proxy->setLayoutHeld(true);
-    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 1}}));
-    list.view.setColumnWidth(0, 777);
+    TwoLevels list;
+    list.proxy->setLayoutDeferred(true);
+    list.refresh();
+    list.view.setColumnWidth(0, userWidth);
     QCOMPARE(list.proxy->rowCount(), 1);
-    QVERIFY(!list.view.isExpanded(list.proxy->index(0, 0)));
-    list.proxy->setLayoutHeld(false);
-    QVERIFY(list.view.isExpanded(list.proxy->index(0, 0)));
-    QVERIFY(list.view.columnWidth(0) != 777);
-    list.view.setColumnWidth(0, 777);
-    list.proxy->setLayoutHeld(true);
-    list.proxy->setLayoutHeld(false);
-    QCOMPARE(list.view.columnWidth(0), 777);
+    QVERIFY(!list.isExpanded());
+    list.proxy->setLayoutDeferred(false);
+    QVERIFY(list.isExpanded());
+    QVERIFY(list.isFitted());
+    list.view.setColumnWidth(0, userWidth);
+    list.proxy->setLayoutDeferred(true);
+    list.proxy->setLayoutDeferred(false);
+    QCOMPARE(list.view.columnWidth(0), userWidth);
 }
 
-void TestProxyProcModelView::aResetTakesTheLayoutThatIsHeld()
+void TestProxyProcModelView::aResetDropsADeferredLayout()
 {
-    List list;
-    list.proxy->setLayoutHeld(true);
-    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
+    TwoLevels list;
+    list.proxy->setLayoutDeferred(true);
+    list.refresh();
     list.proxy->setProcessTypes(0);
-    list.view.setColumnWidth(0, 777);
-    list.proxy->setLayoutHeld(false);
-    QCOMPARE(list.view.columnWidth(0), 777); // until a refresh fills the list
-    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
-    QVERIFY(list.view.columnWidth(0) != 777);
+    list.view.setColumnWidth(0, userWidth);
+    list.proxy->setLayoutDeferred(false);
+    QCOMPARE(list.view.columnWidth(0), userWidth); // until a refresh fills the list
+    list.refresh();
+    QVERIFY(list.isFitted());
 }
 
 void TestProxyProcModelView::onlyRowsOfATreeCanHaveChildren()
 {
-    List list;
-    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 1}}));
+    TwoLevels list;
+    list.refresh();
     const Qt::ItemFlags ofTheSource = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    QCOMPARE(list.proxy->flags(list.proxy->index(0, 0)), ofTheSource);
+    list.proxy->setFlat(true);
+    list.refresh();
     QCOMPARE(list.proxy->flags(list.proxy->index(0, 0)), ofTheSource | Qt::ItemNeverHasChildren);
     QCOMPARE(list.proxy->flags(QModelIndex()), Qt::NoItemFlags);
-    list.proxy->setFlat(false);
-    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 1}}));
-    QCOMPARE(list.proxy->flags(list.proxy->index(0, 0)), ofTheSource);
 }
 
 void TestProxyProcModelView::selectionStaysOnItsProcessWhileOthersAreReplaced()
 {
     List list;
     list.view.show();
-    FactsByPid facts;
-    for (int pid = 1; pid <= 80; ++pid) {
-        facts[pid].pid = pid;
-        facts[pid].cpuCounter = pid * 17 % 31;
+    FactsByPid facts = factsUpTo(80);
+    for (auto &entry : facts) {
+        entry.second.cpuCounter = entry.first * 17 % 31;
     }
     list.view.sortByColumn(cpuColumn, Qt::DescendingOrder);
     list.proxy->setTotalCpuTime(1000);
@@ -260,10 +234,7 @@ void TestProxyProcModelView::aFilledProxyKeepsTheProtocolThroughResets()
 {
     List list;
     const QAbstractItemModelTester tester(list.proxy, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    FactsByPid facts;
-    for (int pid = 1; pid <= 30; ++pid) {
-        facts[pid].pid = pid;
-    }
+    FactsByPid facts = factsUpTo(30);
     list.view.sortByColumn(pidColumn, Qt::DescendingOrder);
     for (int round = 0; round < 20; ++round) {
         facts[1 + round].name = QStringLiteral("exec %1").arg(round);

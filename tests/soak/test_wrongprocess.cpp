@@ -2,7 +2,7 @@
 #include "process/proxyprocmodel.h"
 #include "tests/app/fixture.h"
 #include "tests/process/support/child.h"
-#include "tests/process/support/modaldriver.h"
+#include "tests/support/modal.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -193,7 +193,6 @@ void TestWrongProcess::whileTheBoxIsOpenNothingChangesWhoIsMeant()
         pressing(QMessageBox::Ok)(dialog);
     });
     killAction()->trigger();
-    QCOMPARE(driver.count(), std::size_t(1));
     QCOMPARE(asked->waitForSignal(), SIGKILL);
     QCOMPARE(other->endAndTell(), SIGVTALRM);
 }
@@ -205,10 +204,9 @@ void TestWrongProcess::beforeTheActionIsChosenNobodyElseIsHit()
     QFETCH(std::function<void()>, change);
     change();
     const bool offered = killAction()->isVisible() && killAction()->isEnabled();
-    const ModalDriver driver(pressing(QMessageBox::Ok));
     if (offered) {
+        const ModalDriver driver(pressing(QMessageBox::Ok));
         killAction()->trigger();
-        QCOMPARE(driver.count(), std::size_t(1));
         QCOMPARE(asked->waitForSignal(), SIGKILL);
     }
     QCOMPARE(other->endAndTell(), SIGVTALRM);

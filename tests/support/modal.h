@@ -3,126 +3,139 @@
 #define TESTS_SUPPORT_MODAL_H
 
 #include <QApplication>
-#include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QList>
+#include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QTimerEvent>
-#include <QWidget>
+#include <QtTest>
 
+#include <algorithm>
 #include <functional>
-#include <memory>
+#include <vector>
 
-/// Driving modal dialogs and popup menus while their exec() runs, in the test's own process.
-namespace testsupport {
-
-/// What became of one onModal().
-class ModalStep
+/// Drives the modal dialogs and popup menus that open during its lifetime, from within their exec(). Each
+/// handler gets one dialog, in the order of appearance, and has to close it (press a button, trigger an
+/// action).
+///
+/// The test fails if a dialog opens when no handler is left, if its handler leaves it open, or if handlers
+/// are left over at the end of the lifetime. Dialogs are closed then, so that a failing test does not hang.
+class ModalDriver : public QObject
 {
 public:
-    /// Whether the dialog came and the function returned.
-    bool done() const { return *m_done; }
+    using Handler = std::function<void(QWidget *)>;
 
-private:
-    friend class ModalQueue;
-    std::shared_ptr<bool> m_done = std::make_shared<bool>(false);
-};
-
-/// The steps that wait for their dialogs, in the order of their onModal() calls.
-class ModalQueue : public QObject
-{
-public:
-    static ModalQueue &instance()
+    /// Expects no dialog.
+    ModalDriver() : ModalDriver(std::vector<Handler>()) {}
+    explicit ModalDriver(Handler handler) : ModalDriver(std::vector<Handler>{std::move(handler)}) {}
+    /// `deadlineMs` is how long a dialog may stay open after its handler has been called.
+    explicit ModalDriver(std::vector<Handler> dialogHandlers, int deadlineMs = 30000)
+        : handlers(std::move(dialogHandlers)), deadline(deadlineMs)
     {
-        static QPointer<ModalQueue> queue;
-        if (!queue)
-            queue = new ModalQueue(qApp);
-        return *queue;
-    }
-
-    ModalStep append(std::function<void(QWidget *)> act, int deadlineMs)
-    {
-        if (m_last && !m_last->isVisible())
-            m_last.clear(); // a dialog that runs a second time is handed out a second time
-        Waiting waiting{std::move(act), deadlineMs, {}, {}};
-        waiting.elapsed.start();
-        m_waiting.append(waiting);
         restartTimer();
-        return waiting.step;
     }
+    ~ModalDriver() override { QCOMPARE(dialogs, handlers.size()); }
 
 protected:
     void timerEvent(QTimerEvent *) override
     {
-        QWidget *const shown = shownModal();
-        if (shown && shown != m_last)
-            actOn(shown);
-        else if (m_waiting.first().elapsed.hasExpired(m_waiting.first().deadlineMs))
-            giveUp(shown);
+        forgetClosed();
+        QWidget *popup = QApplication::activePopupWidget();
+        QWidget *shown = popup ? popup : QApplication::activeModalWidget();
+        if (!shown || !shown->isVisible()) {
+            return;
+        }
+        if (!handedOut.contains(shown)) {
+            handOut(shown);
+        } else if (sinceLast.hasExpired(deadline)) {
+            shown->close();
+            QVERIFY2(false, "a dialog was left open");
+        }
     }
 
 private:
-    struct Waiting
-    {
-        std::function<void(QWidget *)> act;
-        int deadlineMs;
-        QElapsedTimer elapsed;
-        ModalStep step;
-    };
-
-    explicit ModalQueue(QObject *parent) : QObject(parent) {}
-
-    static QWidget *shownModal()
-    {
-        QWidget *const popup = QApplication::activePopupWidget();
-        QWidget *const shown = popup ? popup : QApplication::activeModalWidget();
-        return shown && shown->isVisible() ? shown : nullptr;
-    }
-
-    // A timer doesn't fire again while its event is handled, and what the function presses may well run the
-    // next dialog's exec() inside it: so each handout leaves a new timer behind.
+    /// A timer does not fire again while its event is handled, but the handler may open the next dialog.
     void restartTimer()
     {
-        if (m_timer)
-            killTimer(m_timer);
-        m_timer = m_waiting.isEmpty() ? 0 : startTimer(10);
+        killTimer(timer);
+        timer = startTimer(1);
     }
 
-    void actOn(QWidget *shown)
+    /// A dialog that is shown a second time is handed out a second time.
+    void forgetClosed()
     {
-        const Waiting next = m_waiting.takeFirst();
-        if (!m_waiting.isEmpty())
-            m_waiting.first().elapsed.start();
-        m_last = shown;
-        restartTimer();
-        next.act(shown);
-        *next.step.m_done = true;
+        const auto closed = [](const QPointer<QWidget> &dialog) { return !dialog || !dialog->isVisible(); };
+        handedOut.erase(std::remove_if(handedOut.begin(), handedOut.end(), closed), handedOut.end());
     }
 
-    // Closes what is open, so that a test whose dialog isn't the expected one fails and doesn't hang.
-    void giveUp(QWidget *shown)
+    void handOut(QWidget *dialog)
     {
-        qWarning("No modal dialog came within %d ms", m_waiting.first().deadlineMs);
-        m_waiting.clear();
+        const QPointer<QWidget> guard = dialog;
+        handedOut.append(guard);
+        sinceLast.start();
+        if (dialogs == handlers.size()) {
+            dialog->close();
+            QVERIFY2(false, "more dialogs than expected");
+            return; // even if the failure is expected
+        }
         restartTimer();
-        if (shown)
-            shown->close();
+        handlers[dialogs++](dialog);
+        if (guard && QTest::currentTestFailed()) {
+            guard->close();
+        }
+        forgetClosed();
     }
 
-    QList<Waiting> m_waiting;
-    QPointer<QWidget> m_last; // handled already; null once it is destroyed
-    int m_timer = 0;
+    std::vector<Handler> handlers;
+    std::size_t dialogs = 0; ///< how many have been handed out
+    QList<QPointer<QWidget>> handedOut;
+    QElapsedTimer sinceLast;
+    int deadline;
+    int timer = 0;
 };
 
-/// Calls `act` with the next modal dialog or popup menu that shows, from within its exec(). Steps that are
-/// asked for in advance take one dialog each, in order; one dialog is never handed out twice. `act` has to
-/// close the dialog (press a button, trigger an action). When none comes in time a warning is written, what
-/// is open is closed and the steps that wait are dropped: compare done() after exec().
-inline ModalStep onModal(std::function<void(QWidget *)> act, int deadlineMs = 10000)
+/// What a message box showed.
+struct SeenBox
 {
-    return ModalQueue::instance().append(std::move(act), deadlineMs);
+    QString title;
+    QString text;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QMessageBox::StandardButtons buttons = QMessageBox::NoButton;
+    QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
+    bool hasParent = false;
+};
+
+/// Reads a message box into `seen` and presses one of its buttons.
+inline ModalDriver::Handler pressing(QMessageBox::StandardButton button, SeenBox *seen = nullptr)
+{
+    return [button, seen](QWidget *dialog) {
+        auto *box = qobject_cast<QMessageBox *>(dialog);
+        QVERIFY2(box && box->button(button), "the dialog has no such button");
+        if (seen) {
+            *seen = {box->windowTitle(),
+                     box->text(),
+                     box->icon(),
+                     box->standardButtons(),
+                     box->standardButton(box->defaultButton()),
+                     box->parentWidget() != nullptr};
+        }
+        box->button(button)->click();
+    };
 }
 
-} // namespace testsupport
+/// Presses a key in the focused widget.
+inline ModalDriver::Handler typing(Qt::Key key)
+{
+    return [key](QWidget *dialog) {
+        QWidget *focused = dialog->focusWidget();
+        QTest::keyClick(focused ? focused : dialog, key);
+    };
+}
+
+/// Closes the dialog as a window manager does.
+inline ModalDriver::Handler closing()
+{
+    return [](QWidget *dialog) { dialog->close(); };
+}
 
 #endif

@@ -2,149 +2,137 @@
 #include "tests/support/modal.h"
 
 #include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QtTest>
 
-using testsupport::ModalStep;
-using testsupport::onModal;
+namespace {
+
+QMessageBox::StandardButton ask(const QString &text)
+{
+    return QMessageBox::question(nullptr, QStringLiteral("Title"), text,
+                                 QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel);
+}
+
+/// A menu whose only entry asks a question.
+struct AskingMenu : QMenu
+{
+    AskingMenu()
+    {
+        connect(entry, &QAction::triggered, this, [this] { answer = ask(QStringLiteral("from the menu")); });
+    }
+    /// Opens the menu, clicks its entry and hands the box to `handler`.
+    void run(const ModalDriver::Handler &handler)
+    {
+        const auto click = [this](QWidget *popup) {
+            QCOMPARE(popup, this);
+            QTest::mouseClick(popup, Qt::LeftButton, {}, actionGeometry(entry).center());
+        };
+        const ModalDriver driver({click, handler});
+        QCOMPARE(exec(QPoint(10, 10)), entry);
+    }
+
+    QAction *entry = addAction(QStringLiteral("Ask"));
+    QMessageBox::StandardButton answer = QMessageBox::NoButton;
+};
+
+} // namespace
 
 class TestModal : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void aBoxIsHandedOutWhileItRuns();
-    void boxesInARowAreHandedOutInOrder();
-    void aPopupMenuIsHandedOut();
+    void boxesAreHandedOutInOrderWhileTheyRun();
+    void aBoxIsReadBeforeItsButtonIsPressed();
+    void keysGoToTheFocusedButton();
+    void aMenuAndTheBoxThatItOpensAreHandedOut();
     void aBoxThatOpensFromAnotherIsHandedOut();
-    void aBoxThatAMenuEntryOpensIsHandedOut();
     void aDialogThatRunsAgainIsHandedOutAgain();
-    void aStepWithoutDialogIsNotDone();
-    void aDialogThatNobodyAnswersIsClosed();
+    void aHandlerWithoutDialogFailsTheTest();
+    void anUnexpectedDialogIsClosedAndFailsTheTest();
+    void aDialogThatItsHandlerLeavesOpenIsClosedAndFailsTheTest();
 };
 
-namespace {
-
-std::function<void(QWidget *)> press(QMessageBox::StandardButton button)
+void TestModal::boxesAreHandedOutInOrderWhileTheyRun()
 {
-    return [button](QWidget *dialog) {
-        auto *const box = qobject_cast<QMessageBox *>(dialog);
-        QVERIFY(box);
-        QTest::mouseClick(box->button(button), Qt::LeftButton);
-    };
-}
-
-QMessageBox::StandardButton ask(const QString &text)
-{
-    return QMessageBox::question(nullptr, QStringLiteral("Title"), text,
-                                 QMessageBox::Ok | QMessageBox::Cancel);
-}
-
-} // namespace
-
-void TestModal::aBoxIsHandedOutWhileItRuns()
-{
-    QString text;
-    const ModalStep step = onModal([&](QWidget *dialog) {
-        text = qobject_cast<QMessageBox *>(dialog)->text();
-        press(QMessageBox::Ok)(dialog);
-    });
-    QVERIFY(!step.done());
-    QCOMPARE(ask(QStringLiteral("Really?")), QMessageBox::Ok);
-    QVERIFY(step.done());
-    QCOMPARE(text, QStringLiteral("Really?"));
-}
-
-void TestModal::boxesInARowAreHandedOutInOrder()
-{
-    const ModalStep first = onModal(press(QMessageBox::Cancel));
-    const ModalStep second = onModal(press(QMessageBox::Ok));
+    const ModalDriver driver({pressing(QMessageBox::Cancel), pressing(QMessageBox::Ok), closing()});
     QCOMPARE(ask(QStringLiteral("1")), QMessageBox::Cancel);
-    QVERIFY(first.done());
-    QVERIFY(!second.done());
     QCOMPARE(ask(QStringLiteral("2")), QMessageBox::Ok);
-    QVERIFY(second.done());
+    QCOMPARE(ask(QStringLiteral("3")), QMessageBox::Cancel);
 }
 
-void TestModal::aPopupMenuIsHandedOut()
+void TestModal::aBoxIsReadBeforeItsButtonIsPressed()
 {
-    QMenu menu;
-    QAction *const action = menu.addAction(QStringLiteral("Do"));
-    const ModalStep step = onModal([&](QWidget *popup) {
-        QCOMPARE(popup, &menu);
-        QTest::mouseClick(popup, Qt::LeftButton, {}, menu.actionGeometry(action).center());
-    });
-    QCOMPARE(menu.exec(QPoint(10, 10)), action);
-    QVERIFY(step.done());
+    SeenBox seen;
+    const ModalDriver driver(pressing(QMessageBox::Ok, &seen));
+    QCOMPARE(ask(QStringLiteral("Really?")), QMessageBox::Ok);
+    QCOMPARE(seen.title, QStringLiteral("Title"));
+    QCOMPARE(seen.text, QStringLiteral("Really?"));
+    QCOMPARE(seen.icon, QMessageBox::Question);
+    QCOMPARE(seen.buttons, QMessageBox::Ok | QMessageBox::Cancel);
+    QCOMPARE(seen.defaultButton, QMessageBox::Cancel);
+    QVERIFY(!seen.hasParent);
+}
+
+void TestModal::keysGoToTheFocusedButton()
+{
+    const ModalDriver driver({typing(Qt::Key_Return), [](QWidget *dialog) {
+                                  qobject_cast<QMessageBox *>(dialog)->button(QMessageBox::Ok)->setFocus();
+                                  typing(Qt::Key_Space)(dialog);
+                              }});
+    QCOMPARE(ask(QStringLiteral("1")), QMessageBox::Cancel);
+    QCOMPARE(ask(QStringLiteral("2")), QMessageBox::Ok);
+}
+
+void TestModal::aMenuAndTheBoxThatItOpensAreHandedOut()
+{
+    AskingMenu menu;
+    menu.run(pressing(QMessageBox::Cancel));
+    QCOMPARE(menu.answer, QMessageBox::Cancel);
+    menu.run(pressing(QMessageBox::Ok));
+    QCOMPARE(menu.answer, QMessageBox::Ok);
 }
 
 void TestModal::aBoxThatOpensFromAnotherIsHandedOut()
 {
     QMessageBox::StandardButton inner = QMessageBox::NoButton;
-    const ModalStep outerStep = onModal([&](QWidget *dialog) {
+    const auto askMore = [&](QWidget *dialog) {
         QTimer::singleShot(0, dialog, [&, dialog] {
             inner = ask(QStringLiteral("inner"));
-            press(QMessageBox::Ok)(dialog);
+            pressing(QMessageBox::Ok)(dialog);
         });
-    });
-    const ModalStep innerStep = onModal(press(QMessageBox::Cancel));
+    };
+    const ModalDriver driver({askMore, pressing(QMessageBox::Cancel)});
     QCOMPARE(ask(QStringLiteral("outer")), QMessageBox::Ok);
-    QVERIFY(outerStep.done());
-    QVERIFY(innerStep.done());
     QCOMPARE(inner, QMessageBox::Cancel);
-}
-
-void TestModal::aBoxThatAMenuEntryOpensIsHandedOut()
-{
-    QMenu menu;
-    QAction *const action = menu.addAction(QStringLiteral("Ask"));
-    QMessageBox::StandardButton answer = QMessageBox::NoButton;
-    connect(action, &QAction::triggered, &menu, [&] { answer = ask(QStringLiteral("from the menu")); });
-    const ModalStep menuStep = onModal([&](QWidget *popup) {
-        QTest::mouseClick(popup, Qt::LeftButton, {}, menu.actionGeometry(action).center());
-    });
-    const ModalStep boxStep = onModal(press(QMessageBox::Cancel));
-    menu.exec(QPoint(10, 10));
-    QVERIFY(menuStep.done());
-    QVERIFY(boxStep.done());
-    QCOMPARE(answer, QMessageBox::Cancel);
 }
 
 void TestModal::aDialogThatRunsAgainIsHandedOutAgain()
 {
     QMessageBox box;
     box.addButton(QMessageBox::Ok);
-    for (int i = 0; i < 2; ++i) {
-        const ModalStep step = onModal(press(QMessageBox::Ok));
-        QCOMPARE(box.exec(), int(QMessageBox::Ok));
-        QVERIFY(step.done());
-    }
+    const ModalDriver driver({pressing(QMessageBox::Ok), pressing(QMessageBox::Ok)});
+    QCOMPARE(box.exec(), int(QMessageBox::Ok));
+    QCOMPARE(box.exec(), int(QMessageBox::Ok));
 }
 
-void TestModal::aStepWithoutDialogIsNotDone()
+void TestModal::aHandlerWithoutDialogFailsTheTest()
 {
-    static bool warned;
-    warned = false;
-    const QtMessageHandler before =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
-            warned = text == QLatin1String("No modal dialog came within 20 ms");
-        });
-    const ModalStep step = onModal([](QWidget *) {}, 20);
-    const bool came = QTest::qWaitFor([] { return warned; });
-    qInstallMessageHandler(before);
-    QVERIFY(came);
-    QVERIFY(!step.done());
+    QEXPECT_FAIL("", "the second handler", Continue);
+    const ModalDriver driver({closing(), closing()});
+    ask(QStringLiteral("the only one"));
 }
 
-void TestModal::aDialogThatNobodyAnswersIsClosed()
+void TestModal::anUnexpectedDialogIsClosedAndFailsTheTest()
 {
-    QTest::ignoreMessage(QtWarningMsg, "No modal dialog came within 50 ms");
-    const ModalStep seen = onModal([](QWidget *) {});
-    const ModalStep never = onModal([](QWidget *) {}, 50);
+    const ModalDriver driver;
+    QEXPECT_FAIL("", "the box", Continue);
+    ask(QStringLiteral("unexpected"));
+}
+
+void TestModal::aDialogThatItsHandlerLeavesOpenIsClosedAndFailsTheTest()
+{
+    const ModalDriver driver({[](QWidget *) {}}, 50);
+    QEXPECT_FAIL("", "the box", Continue);
     QCOMPARE(ask(QStringLiteral("left open")), QMessageBox::Cancel);
-    QVERIFY(seen.done());
-    QVERIFY(!never.done());
 }
 
 QTEST_MAIN(TestModal)

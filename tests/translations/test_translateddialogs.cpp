@@ -9,8 +9,6 @@
 #include <QtTest>
 #include <QtWidgets>
 
-using testsupport::onModal;
-
 // Each dialog, in each language, can be read and has buttons in that language.
 class TestTranslatedDialogs : public QObject
 {
@@ -33,14 +31,13 @@ private:
     static void checkDialog(
         const std::function<void()> &open, const std::function<void(QWidget *)> &look = [](QWidget *) {})
     {
-        const auto step = onModal([&](QWidget *dialog) {
+        const ModalDriver driver([&](QWidget *dialog) {
             QCoreApplication::processEvents();
             check(dialog);
             look(dialog);
             dialog->close();
         });
         open();
-        QVERIFY(step.done());
     }
     static void check(QWidget *dialog)
     {

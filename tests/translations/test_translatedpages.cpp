@@ -8,8 +8,6 @@
 #include <QtTest>
 #include <QtWidgets>
 
-using testsupport::onModal;
-
 namespace {
 
 const QSize defaultSize(640, 480);
@@ -96,13 +94,12 @@ void TestTranslatedPages::theContextMenuCanBeRead()
     const InLanguage texts(language);
     Fixture fixture;
     fixture.start(1);
-    const auto step = onModal([](QWidget *widget) {
+    const ModalDriver driver([](QWidget *widget) {
         auto *menu = qobject_cast<QMenu *>(widget);
         checkMenu(menu); // with the choice of columns, which is its last entry
         menu->close();
     });
     QMetaObject::invokeMethod(&fixture.updater(), "popup");
-    QVERIFY(step.done());
 }
 
 void TestTranslatedPages::theGraphsLegendStaysInItsBox()

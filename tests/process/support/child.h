@@ -6,22 +6,22 @@
 
 #include <sys/types.h>
 
-/// A sleeping child process, in a process group of its own; ends with this object.
+/// A sleeping child process in a process group of its own; killed by the destructor.
 class Child
 {
 public:
-    /// Runs as `user`; 0 keeps the user of the test.
+    /// Runs as `user`; 0 means the user of the test.
     explicit Child(uid_t user = 0);
     ~Child();
 
     pid_t pid() const { return id; }
-    /// Waits for the next change of state: the signal that stopped or ended the child, SIGCONT if it
-    /// continued. 0 if it left by itself, -1 if nothing comes for ten seconds.
+    /// Waits for the next change of state and returns the signal that stopped or killed the child, SIGCONT if
+    /// it continued, 0 if it exited, -1 if nothing happens for ten seconds.
     int waitForSignal();
-    /// Whether a change of state is there to be read.
+    /// Whether waitForSignal() would return at once.
     bool hasChanged() const;
-    /// Ends the child with a signal that nobody else sends, and returns the signal that got it: a stop or
-    /// an end that was under way comes first.
+    /// Kills the child by a signal that nobody else sends, and returns the signal that reached it first:
+    /// another one if that was already on its way.
     int endAndTell();
 
 private:

@@ -3,7 +3,7 @@
 #define TESTS_PROCESS_CONTROL_H
 
 #include "tests/process/support/child.h"
-#include "tests/process/support/modaldriver.h"
+#include "tests/support/modal.h"
 
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -12,7 +12,7 @@
 const uid_t daemonUser = 1;
 const uid_t nobodyUser = 65534;
 
-/// The rights of nobody as long as it lives; needs root.
+/// Drops the rights of root for its lifetime.
 class WithoutRights
 {
 public:
@@ -30,13 +30,6 @@ public:
 inline int niceOf(pid_t pid)
 {
     return getpriority(PRIO_PROCESS, static_cast<id_t>(pid));
-}
-
-/// A pid that was a child's and is nobody's now.
-inline int endedPid()
-{
-    const Child child;
-    return child.pid();
 }
 
 inline void verifyErrorBox(const SeenBox &seen, const char *text)

@@ -14,7 +14,7 @@ public:
     int columnHint(int column) const { return sizeHintForColumn(column); }
 };
 
-/// A proxy with the view that it fills.
+/// A proxy with its view.
 struct List
 {
     List() : proxy(new ProxyProcModel(&owner))

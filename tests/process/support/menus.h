@@ -10,7 +10,7 @@
 #include <QMenu>
 #include <QTreeView>
 
-/// The process actions with the list and the view that they work on.
+/// The process actions with the list and the view that they act on.
 struct Desk
 {
     Desk() : list(new ProxyProcModel(&owner)), actions(new ProcessMenu(&owner, list))
@@ -21,7 +21,7 @@ struct Desk
     /// The action of that text; null if there is none.
     QAction *action(const char *text) const
     {
-        for (QAction *const candidate : actions->findChildren<QAction *>()) {
+        for (QAction *candidate : actions->findChildren<QAction *>()) {
             if (candidate->text() == QLatin1String(text)) {
                 return candidate;
             }
@@ -29,8 +29,16 @@ struct Desk
         return nullptr;
     }
     void trigger(const char *text) const { action(text)->trigger(); }
+    /// Triggers an action that is none of the menu's own, with that data.
+    void triggerForeign(const QVariant &data) const
+    {
+        QAction foreign;
+        QObject::connect(&foreign, SIGNAL(triggered(bool)), actions, SLOT(process()));
+        foreign.setData(data);
+        foreign.trigger();
+    }
 
-    /// Makes a process of that pid and state the selected one.
+    /// Selects a process of that pid, state and nice value.
     void select(int pid, int state = 1, int nice = 0) const
     {
         Facts facts;

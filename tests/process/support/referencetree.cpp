@@ -52,7 +52,7 @@ bool ReferenceTree::match(const Facts &facts, quint64 totalDelta)
     if (found == items.end()) {
         return false;
     }
-    Item *const item = found->second.get();
+    Item *item = found->second.get();
     if (item->facts.ppid != facts.ppid || item->facts.name != facts.name) {
         remove(item);
         return false;

@@ -9,7 +9,7 @@
 #include <set>
 #include <vector>
 
-/// The rules of the process list once more, taken literally and without a toolkit: what the model has to hold
+/// A literal implementation of the rules of the process list, without a toolkit: what the model has to hold
 /// after each refresh.
 class ReferenceTree
 {
@@ -20,9 +20,9 @@ public:
     void setFlat(bool on) { flat = on; }
     void refresh(const FactsByPid &snapshot, quint64 totalDelta);
 
-    /// As shapeOf(), with the CPU load behind each pid: "1:0.5(2:0.1)".
+    /// Like shapeOf(), with the CPU load after each pid: "1:0.5(2:0.1)".
     QString shape() const;
-    /// The pids of all items, those without a place in the tree too.
+    /// The pids of all items, orphans included.
     std::set<int> pids() const;
 
 private:
@@ -48,7 +48,7 @@ private:
     std::set<int> stale;
 };
 
-/// The shape of the model in the form of ReferenceTree::shape(); the first two columns must be visible.
+/// The shape of the model in the same form; the first two columns must be visible.
 QString shapeWithLoad(const ProcModel &model, const QModelIndex &parent = QModelIndex());
 
 #endif

@@ -1,9 +1,57 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/process/support/synthetic.h"
 
+#include <QRegularExpression>
 #include <QStringList>
+#include <QtTest>
 
 using namespace gtop_wrappers;
+
+namespace {
+
+Facts namedFacts(int pid)
+{
+    Facts facts;
+    facts.pid = pid;
+    facts.name = QStringLiteral("p%1").arg(pid);
+    return facts;
+}
+
+QString shapeUnder(const ProcModel &model, const QModelIndex &parent)
+{
+    QStringList shapes;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        const QString below = shapeUnder(model, index);
+        const QString pid = QString::number(model.processAt(index).pid());
+        shapes.append(below.isEmpty() ? pid : pid + QLatin1Char('(') + below + QLatin1Char(')'));
+    }
+    return shapes.join(QLatin1Char(' '));
+}
+
+QString orphansOf(const ProcModel &model)
+{
+    const QStringList shown = shapeOf(model).split(QRegularExpression(QStringLiteral("\\D+")));
+    QStringList orphans;
+    for (int pid = 0; pid < 100; ++pid) {
+        const QString text = QString::number(pid);
+        if (model.processByPid(pid).pid() == pid && !shown.contains(text)) {
+            orphans.append(text);
+        }
+    }
+    return orphans.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+FactsByPid factsUpTo(int lastPid)
+{
+    FactsByPid facts;
+    for (int pid = 1; pid <= lastPid; ++pid) {
+        facts[pid].pid = pid;
+    }
+    return facts;
+}
 
 Process makeProcess(const Facts &facts)
 {
@@ -32,27 +80,32 @@ ProcModel::Snapshot makeSnapshot(std::initializer_list<std::pair<int, int>> pids
 {
     FactsByPid facts;
     for (const auto &entry : pidsAndParents) {
-        Facts &process = facts[entry.first];
-        process.pid = entry.first;
-        process.ppid = entry.second;
-        process.name = QStringLiteral("p%1").arg(entry.first);
+        facts[entry.first] = namedFacts(entry.first);
+        facts[entry.first].ppid = entry.second;
     }
     return makeSnapshot(facts);
 }
 
-static QString shapeUnder(const ProcModel &model, const QModelIndex &parent)
+ProcModel::Snapshot makeCpuSnapshot(std::initializer_list<std::pair<int, int>> pidsAndCounters)
 {
-    QStringList shapes;
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, 0, parent);
-        const QString below = shapeUnder(model, index);
-        const QString pid = QString::number(model.processAt(index).pid());
-        shapes.append(below.isEmpty() ? pid : pid + QLatin1Char('(') + below + QLatin1Char(')'));
+    FactsByPid facts;
+    for (const auto &entry : pidsAndCounters) {
+        facts[entry.first] = namedFacts(entry.first);
+        facts[entry.first].cpuCounter = entry.second;
     }
-    return shapes.join(QLatin1Char(' '));
+    return makeSnapshot(facts);
 }
 
 QString shapeOf(const ProcModel &model)
 {
     return shapeUnder(model, QModelIndex());
+}
+
+void verifySteps(ProcModel *model, const Steps &steps)
+{
+    for (const Step &step : steps) {
+        model->update(step.snapshot, 1);
+        QCOMPARE(shapeOf(*model), QLatin1String(step.shape));
+        QCOMPARE(orphansOf(*model), QLatin1String(step.orphans));
+    }
 }

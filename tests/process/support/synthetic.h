@@ -7,8 +7,9 @@
 #include <QString>
 
 #include <map>
+#include <vector>
 
-/// What a test says of a process that does not exist.
+/// The values of a process that does not exist.
 struct Facts
 {
     int pid = 0;
@@ -21,12 +22,29 @@ struct Facts
 
 using FactsByPid = std::map<int, Facts>;
 
+/// Processes 1 to `lastPid`, without names and parents.
+FactsByPid factsUpTo(int lastPid);
+
 gtop_wrappers::Process makeProcess(const Facts &facts);
 ProcModel::Snapshot makeSnapshot(const FactsByPid &facts);
 /// Processes named "p<pid>", given as pid and parent pid.
 ProcModel::Snapshot makeSnapshot(std::initializer_list<std::pair<int, int>> pidsAndParents);
+/// Processes named "p<pid>", given as pid and CPU counter.
+ProcModel::Snapshot makeCpuSnapshot(std::initializer_list<std::pair<int, int>> pidsAndCounters);
 
 /// The pids of all rows in their order, children in brackets: "1(2(3) 4) 5".
 QString shapeOf(const ProcModel &model);
+
+/// A refresh and what the model has to hold after it; the pids must be below 100.
+struct Step
+{
+    ProcModel::Snapshot snapshot;
+    const char *shape;
+    const char *orphans = ""; ///< pids of the items that have no place in the tree
+};
+using Steps = std::vector<Step>;
+Q_DECLARE_METATYPE(Steps)
+
+void verifySteps(ProcModel *model, const Steps &steps);
 
 #endif

@@ -17,8 +17,8 @@ int World::pick(int end)
 void World::step()
 {
     using Event = void (World::*)();
-    static const Event events[] = {&World::fork,        &World::exit,     &World::exec,
-                                   &World::takeOverPid, &World::reparent, &World::makeRing};
+    static const Event events[] = {&World::fork,     &World::exit,     &World::exec,
+                                   &World::reusePid, &World::reparent, &World::makeRing};
     for (int i = pick(12); i > 0; --i) {
         (this->*events[pick(6)])();
     }
@@ -56,8 +56,7 @@ void World::exit()
     alive.erase(pid);
     const int heir = pick(2) == 0 ? 0 : alive.begin()->first;
     for (auto &entry : alive) {
-        if (entry.second.ppid == pid &&
-            pick(4) != 0) { // sometimes read before the kernel gave it a new parent
+        if (entry.second.ppid == pid && pick(4) != 0) { // 0: read before the kernel reparented it
             entry.second.ppid = heir;
         }
     }
@@ -68,12 +67,12 @@ void World::exec()
     alive.at(anyPid()).name = QStringLiteral("exec %1").arg(++execs);
 }
 
-void World::takeOverPid()
+void World::reusePid()
 {
-    Facts &taken = alive.at(anyPid());
-    taken.ppid = pick(3) == 0 ? taken.ppid : anyPid();
-    taken.name = QStringLiteral("taken over %1").arg(++execs);
-    taken.cpuCounter = pick(3);
+    Facts &reused = alive.at(anyPid());
+    reused.ppid = pick(3) == 0 ? reused.ppid : anyPid();
+    reused.name = QStringLiteral("reused %1").arg(++execs);
+    reused.cpuCounter = pick(3);
 }
 
 void World::reparent()
@@ -84,7 +83,7 @@ void World::reparent()
 void World::makeRing()
 {
     const int first = anyPid();
-    const int second = anyPid(); // the same one is its own parent
+    const int second = anyPid(); // if it is the same, it becomes its own parent
     alive.at(first).ppid = second;
     alive.at(second).ppid = first;
 }
@@ -94,7 +93,7 @@ void World::burnCpu()
     delta = 200 + static_cast<unsigned long>(pick(800));
     for (auto &entry : alive) {
         if (pick(3) == 0) {
-            entry.second.cpuCounter += pick(50) - pick(5); // a counter that falls now and then
+            entry.second.cpuCounter += pick(50) - pick(5); // sometimes the counter falls
         }
     }
 }

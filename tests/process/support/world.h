@@ -6,27 +6,27 @@
 
 #include <random>
 
-/// A made-up machine whose processes fork, exit, exec, take over pids and parents, and now and then form
-/// rings. The same seed gives the same history.
+/// A simulated machine whose processes fork, exit, exec, reuse pids, get reparented and sometimes form rings
+/// of parents. The same seed gives the same history.
 class World
 {
 public:
     World(unsigned int seed, int processes);
 
-    /// Lets a refresh interval pass.
+    /// Simulates one refresh interval.
     void step();
 
     const FactsByPid &facts() const { return alive; }
-    /// CPU time that passed in the last interval.
+    /// CPU time of the machine in the last interval.
     unsigned long totalDelta() const { return delta; }
-    /// A number from 0 to below `end`.
+    /// A random number from 0 to `end` - 1.
     int pick(int end);
 
 private:
     void fork();
     void exit();
     void exec();
-    void takeOverPid();
+    void reusePid();
     void reparent();
     void makeRing();
     void burnCpu();
