@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the gauge draws, and the signal that comes of it.
+// What the gauge draws, and the signal that painting emits.
 #include "resources/qprog.h"
 
 #include <QImage>
@@ -18,8 +18,8 @@ constexpr double huge = std::numeric_limits<double>::max();
 const QColor trough(70, 70, 70);
 const QColor bar(0, 255, 0);
 
-// The gauge as it paints itself on white; at a height of 80 its units are pixels.
-QImage painted(QProg &gauge, int width, int height = 80)
+/// The gauge as it paints itself on white; at a height of 80 its units are pixels.
+QImage painted(QProg &gauge, int width = 250, int height = 80)
 {
     gauge.resize(width, height);
     QImage image(width, height, QImage::Format_RGB32);
@@ -28,10 +28,17 @@ QImage painted(QProg &gauge, int width, int height = 80)
     return image;
 }
 
-// The middle between two tick lines, at mid height: `number` counts the gaps from 0, right of x = 20.
+/// The colour halfway between two tick lines, at mid height: `number` counts the gaps from 0, right of x
+/// = 20.
 QColor gapColor(const QImage &image, int number)
 {
     return image.pixelColor(25 + 10 * number, image.height() / 2);
+}
+
+/// The colour of the gauge's first gap, which is the bar's unless it is empty or absent.
+QColor firstGap(QProg &gauge)
+{
+    return gapColor(painted(gauge), 0);
 }
 
 } // namespace
@@ -44,31 +51,27 @@ private Q_SLOTS:
     void freshGaugeShowsTroughAndTicks_data();
     void freshGaugeShowsTroughAndTicks();
     void frameRunsFromLightToDark();
-    void barEndsWhereItsLengthSays_data();
-    void barEndsWhereItsLengthSays();
+    void barEndsAtItsLength_data();
+    void barEndsAtItsLength();
     void barHasItsColour();
     void emptyRangeShowsFourBlocks_data();
     void emptyRangeShowsFourBlocks();
-    void valueOutsideAnEmptyRangeShowsNoBlocks();
-    void valueBelowARaisedMinimumShowsNoBarUntilSetAgain();
-    void valueAboveALoweredMaximumShowsNoBar();
-    void whatIsNotANumberShowsNoBar();
-    void rangesWithoutBoundsAreSurvived();
-    void tinySizesAreSurvived();
+    void valueOutsideTheRangeShowsNoBarUntilSetAgain();
+    void notANumberShowsNoBar();
+    void infiniteRangesAreHandled();
+    void tinySizesAreHandled();
     void heightIsStretched();
     void signalComesFromPaintingOnly();
-    void noSignalOutsideTheRangeOrWithoutARange();
+    void noSignalOutsideTheRangeOrWithAnEmptyRange();
     void everySettingSchedulesARepaint();
 };
 
 void TestQProgPainting::freshGaugeShowsTroughAndTicks_data()
 {
     QTest::addColumn<int>("width");
-    QTest::newRow("250") << 250;
-    QTest::newRow("251") << 251;
-    QTest::newRow("600") << 600;
-    QTest::newRow("100") << 100;
-    QTest::newRow("3000") << 3000;
+    for (int width : {100, 250, 251, 600, 3000}) {
+        QTest::addRow("%d", width) << width;
+    }
 }
 
 void TestQProgPainting::freshGaugeShowsTroughAndTicks()
@@ -85,8 +88,9 @@ void TestQProgPainting::freshGaugeShowsTroughAndTicks()
     for (int x = 20; x < width - 10; x += 10) { // a line 2 wide covers the pixels on both sides of x
         QCOMPARE(image.pixelColor(x - 1, 40), QColor(Qt::black));
         QCOMPARE(image.pixelColor(x, 40), QColor(Qt::black));
-        if (x + 5 < width - 8)
+        if (x + 5 < width - 8) {
             QCOMPARE(image.pixelColor(x + 5, 40), trough);
+        }
     }
     QCOMPARE(image.pixelColor(15, 40), trough); // no line left of 20
 }
@@ -94,7 +98,7 @@ void TestQProgPainting::freshGaugeShowsTroughAndTicks()
 void TestQProgPainting::frameRunsFromLightToDark()
 {
     QProg gauge(nullptr);
-    const QImage image = painted(gauge, 250);
+    const QImage image = painted(gauge);
     int last = 256;
     for (int x = 5; x < 10; ++x) {
         const QColor color = image.pixelColor(x, 40);
@@ -107,17 +111,18 @@ void TestQProgPainting::frameRunsFromLightToDark()
     QCOMPARE(image.pixelColor(20, 7), QColor(Qt::black));
 }
 
-void TestQProgPainting::barEndsWhereItsLengthSays_data()
+void TestQProgPainting::barEndsAtItsLength_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<double>("value");
     for (int width : {250, 333, 1000}) {
-        for (double value : {1.0, 10.0, 50.0, 99.0, 100.0})
+        for (double value : {1.0, 10.0, 50.0, 99.0, 100.0}) {
             QTest::addRow("%d wide at %g", width, value) << width << value;
+        }
     }
 }
 
-void TestQProgPainting::barEndsWhereItsLengthSays()
+void TestQProgPainting::barEndsAtItsLength()
 {
     QFETCH(int, width);
     QFETCH(double, value);
@@ -127,12 +132,13 @@ void TestQProgPainting::barEndsWhereItsLengthSays()
     const double end = 10 + (width - 10) * value / 100;
     for (int gap = 0; 25 + 10 * gap < width - 10; ++gap) {
         const double x = 25 + 10 * gap;
-        if (x + 1 < end)
+        if (x + 1 < end) {
             QCOMPARE(gapColor(image, gap), bar);
-        else if (x > end)
+        } else if (x > end) {
             QCOMPARE(gapColor(image, gap), trough);
+        }
     }
-    QCOMPARE(image.pixelColor(20, 40), QColor(Qt::black)); // the ticks lie over the bar
+    QCOMPARE(image.pixelColor(20, 40), QColor(Qt::black)); // the ticks are drawn over the bar
     QCOMPARE(image.pixelColor(25, 7), QColor(Qt::black));  // the bar doesn't cover the frame
 }
 
@@ -142,7 +148,7 @@ void TestQProgPainting::barHasItsColour()
     gauge.setValue(100);
     for (const QColor &color : {QColor(Qt::red), QColor(Qt::blue), QColor(1, 2, 3)}) {
         gauge.setBarColor(color);
-        QCOMPARE(gapColor(painted(gauge, 250), 3), color);
+        QCOMPARE(gapColor(painted(gauge), 3), color);
     }
 }
 
@@ -167,75 +173,68 @@ void TestQProgPainting::emptyRangeShowsFourBlocks()
     }
 }
 
-void TestQProgPainting::valueOutsideAnEmptyRangeShowsNoBlocks()
+void TestQProgPainting::valueOutsideTheRangeShowsNoBarUntilSetAgain()
 {
-    QProg gauge(nullptr);
-    gauge.setMinValue(100);
-    QCOMPARE(gapColor(painted(gauge, 250), 3), trough);
-    gauge.setValue(7); // clamped into the range
-    QCOMPARE(gapColor(painted(gauge, 250), 3), bar);
+    QProg below(nullptr);
+    below.setValue(40);
+    below.setMinValue(50);
+    QCOMPARE(firstGap(below), trough);
+    QCOMPARE(painted(below).pixelColor(20, 40), QColor(Qt::black)); // the ticks are drawn without a bar too
+    below.setValue(75);
+    QCOMPARE(firstGap(below), bar);
+
+    QProg above(nullptr);
+    above.setValue(80);
+    above.setMaxValue(50);
+    QCOMPARE(firstGap(above), trough);
+
+    QProg emptyRange(nullptr);
+    emptyRange.setMinValue(100);
+    QCOMPARE(gapColor(painted(emptyRange), 3), trough);
+    emptyRange.setValue(7); // clamped into the range
+    QCOMPARE(gapColor(painted(emptyRange), 3), bar);
 }
 
-void TestQProgPainting::valueBelowARaisedMinimumShowsNoBarUntilSetAgain()
-{
-    QProg gauge(nullptr);
-    gauge.setValue(40);
-    gauge.setMinValue(50);
-    const QImage without = painted(gauge, 250);
-    QCOMPARE(gapColor(without, 0), trough);
-    QCOMPARE(without.pixelColor(20, 40), QColor(Qt::black));
-    gauge.setValue(75);
-    QCOMPARE(gapColor(painted(gauge, 250), 0), bar);
-}
-
-void TestQProgPainting::valueAboveALoweredMaximumShowsNoBar()
-{
-    QProg gauge(nullptr);
-    gauge.setValue(80);
-    gauge.setMaxValue(50);
-    QCOMPARE(gapColor(painted(gauge, 250), 0), trough);
-}
-
-void TestQProgPainting::whatIsNotANumberShowsNoBar()
+void TestQProgPainting::notANumberShowsNoBar()
 {
     QProg gauge(nullptr);
     QSignalSpy changes(&gauge, SIGNAL(valueChanged(double)));
     gauge.setValue(notANumber);
-    QCOMPARE(gapColor(painted(gauge, 250), 0), trough);
+    QCOMPARE(firstGap(gauge), trough);
     gauge.setValue(50);
     gauge.setMaxValue(notANumber);
-    QCOMPARE(gapColor(painted(gauge, 250), 0), trough);
+    QCOMPARE(firstGap(gauge), trough);
     gauge.setMinValue(notANumber);
-    QCOMPARE(gapColor(painted(gauge, 250), 0), trough);
+    QCOMPARE(firstGap(gauge), trough);
     QCOMPARE(changes.size(), 0);
-    gauge.setMinValue(0); // out of it again
+    gauge.setMinValue(0);
     gauge.setMaxValue(100);
     gauge.setValue(50);
-    QCOMPARE(gapColor(painted(gauge, 250), 0), bar);
+    QCOMPARE(firstGap(gauge), bar);
 }
 
-void TestQProgPainting::rangesWithoutBoundsAreSurvived()
+void TestQProgPainting::infiniteRangesAreHandled()
 {
     QProg gauge(nullptr);
     QSignalSpy changes(&gauge, SIGNAL(valueChanged(double)));
-    gauge.setMaxValue(infinity);
-    gauge.setMinValue(-infinity);
-    QCOMPARE(gapColor(painted(gauge, 250), 0), trough);
-    gauge.setMaxValue(huge);
-    gauge.setMinValue(-huge);
-    QCOMPARE(gapColor(painted(gauge, 250), 0), trough);
+    for (double bound : {infinity, huge}) {
+        gauge.setMaxValue(bound);
+        gauge.setMinValue(-bound);
+        QCOMPARE(firstGap(gauge), trough);
+    }
     QCOMPARE(changes.size(), 2);
 }
 
-void TestQProgPainting::tinySizesAreSurvived()
+void TestQProgPainting::tinySizesAreHandled()
 {
     QProg gauge(nullptr);
     gauge.setValue(100);
     for (int width = 1; width <= 30; ++width) {
-        for (int height : {1, 2, 80})
+        for (int height : {1, 2, 80}) {
             painted(gauge, width, height);
+        }
     }
-    // Narrower than where it begins, a rectangle isn't drawn to its left instead.
+    // A negative width is not drawn mirrored.
     QCOMPARE(painted(gauge, 4).pixelColor(2, 40), QColor(Qt::white));
 }
 
@@ -258,25 +257,25 @@ void TestQProgPainting::signalComesFromPaintingOnly()
     gauge.setValue(30);
     gauge.setValue(0);
     QCOMPARE(changes.size(), 0);
-    painted(gauge, 250);
+    painted(gauge);
     QCOMPARE(changes.size(), 1);
     QCOMPARE(changes.takeFirst().first().toDouble(), 0.0);
     gauge.setValue(42);
-    painted(gauge, 250);
-    painted(gauge, 250); // again, though nothing changed
+    painted(gauge);
+    painted(gauge); // emitted again although nothing changed
     QCOMPARE(changes.size(), 2);
     QCOMPARE(changes.last().first().toDouble(), 42.0);
 }
 
-void TestQProgPainting::noSignalOutsideTheRangeOrWithoutARange()
+void TestQProgPainting::noSignalOutsideTheRangeOrWithAnEmptyRange()
 {
     QProg gauge(nullptr);
     QSignalSpy changes(&gauge, SIGNAL(valueChanged(double)));
     gauge.setMinValue(50);
-    painted(gauge, 250);
+    painted(gauge);
     gauge.setMinValue(0);
     gauge.setMaxValue(0);
-    painted(gauge, 250);
+    painted(gauge);
     QCOMPARE(changes.size(), 0);
 }
 
