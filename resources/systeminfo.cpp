@@ -86,8 +86,9 @@ QString cpuModelFromText(QTextStream &text)
 {
     // Intentional: unlike the lines of lsb-release these are not trimmed, so an indented one doesn't match.
     for (QString line = text.readLine(); !line.isNull(); line = text.readLine()) {
-        if (line.startsWith(QLatin1String("model name")))
+        if (line.startsWith(QLatin1String("model name"))) {
             return line.section(QLatin1Char(':'), 1, 1).simplified();
+        }
     }
     return QStringLiteral("Unknown CPU");
 }
