@@ -69,13 +69,13 @@ class TestMountReading : public QObject
 
 private Q_SLOTS:
     void init();
-    void allFileSystemsAreAskedFor();
+    void allFileSystemsAreQueried();
     void aMissingMountListGivesAnEmptyList();
     void countsComeFromTheUsageOfTheMountPoint();
-    void usageIsAskedForInOrderByTheBytesOfTheMountPoint();
-    void aMountThatVanishedIsLeftOut();
-    void namesThatFillTheirArrayWithoutNulAreReadToItsEnd();
-    void nothingIsKeptFromOneReadingToTheNext();
+    void usageIsQueriedInOrderByTheBytesOfTheMountPoint();
+    void aVanishedMountIsDropped();
+    void namesThatFillTheirArrayWithoutNulAreReadInFull();
+    void nothingIsKeptBetweenReadings();
 };
 
 void TestMountReading::init()
@@ -89,7 +89,7 @@ void TestMountReading::init()
     machine.usage.block_size = 512;
 }
 
-void TestMountReading::allFileSystemsAreAskedFor()
+void TestMountReading::allFileSystemsAreQueried()
 {
     QVERIFY(collectMountList().empty());
     QCOMPARE(machine.askedForAll, std::vector<int>{1});
@@ -112,7 +112,7 @@ void TestMountReading::countsComeFromTheUsageOfTheMountPoint()
     QCOMPARE(countsOf(mounts.front()), (QVector<qint32>{10, 9, 8, 7, 512}));
 }
 
-void TestMountReading::usageIsAskedForInOrderByTheBytesOfTheMountPoint()
+void TestMountReading::usageIsQueriedInOrderByTheBytesOfTheMountPoint()
 {
     machine.mounts = {mountEntry("a", "/b\xff", "ext4"), mountEntry("b", "/a", "tmpfs"),
                       mountEntry("c", "/c\xc3\xa9", "xfs")};
@@ -120,14 +120,14 @@ void TestMountReading::usageIsAskedForInOrderByTheBytesOfTheMountPoint()
     QCOMPARE(machine.askedForUsage, (std::vector<std::string>{"/b\xff", "/a", "/c\xc3\xa9"}));
 }
 
-void TestMountReading::aMountThatVanishedIsLeftOut()
+void TestMountReading::aVanishedMountIsDropped()
 {
     machine.mounts = {mountEntry("/dev/sdb1", "/gone", "vfat")};
     machine.usage = glibtop_fsusage{};
     QVERIFY(collectMountList().empty());
 }
 
-void TestMountReading::namesThatFillTheirArrayWithoutNulAreReadToItsEnd()
+void TestMountReading::namesThatFillTheirArrayWithoutNulAreReadInFull()
 {
     constexpr std::size_t full = GLIBTOP_MOUNTENTRY_LEN + 1;
     machine.mounts = {
@@ -141,7 +141,7 @@ void TestMountReading::namesThatFillTheirArrayWithoutNulAreReadToItsEnd()
     QCOMPARE(machine.askedForUsage, std::vector<std::string>{std::string(full, 'm')});
 }
 
-void TestMountReading::nothingIsKeptFromOneReadingToTheNext()
+void TestMountReading::nothingIsKeptBetweenReadings()
 {
     machine.mounts.assign(500, mountEntry("/dev/sda1", "/", "ext4"));
     QCOMPARE(collectMountList().size(), std::size_t{500});

@@ -18,14 +18,14 @@ using Tester = QAbstractItemModelTester;
 /// The page's view, set up like the window's, on a proxy.
 struct Page
 {
-    explicit Page(QObject *parent = nullptr) : proxy(parent)
+    Page()
     {
         view.setRootIsDecorated(false);
         view.setSortingEnabled(true);
         proxy.setView(&view);
     }
 
-    QTreeView view; // outlives the proxy, as a child of the window may
+    QTreeView view; ///< outlives the proxy, as a child of the window may
     ProxyFsModel proxy;
 };
 

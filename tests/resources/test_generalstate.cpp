@@ -16,29 +16,31 @@ class TestGeneralState : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void sizesAreTexts();
+    void figuresAreSizeTextsAndWholePercents();
     void sharesAreTruncated_data();
     void sharesAreTruncated();
     void liveMemoryIsSane();
 };
 
-void TestGeneralState::sizesAreTexts()
+void TestGeneralState::figuresAreSizeTextsAndWholePercents()
 {
     const auto texts = [](const MemoryState &memory, quint64 freeDisk) {
         const GeneralFigures figures = generalFigures(memory, freeDisk, freeDisk);
-        return QStringList{figures.memTotal, figures.memFree, figures.diskFree}.join(", ");
+        const QString memPercent = QString::number(figures.memPercent) + '%';
+        return QStringList{figures.memTotal, figures.memFree, memPercent, figures.diskFree}.join(", ");
     };
     // The memory is total, free, buffers and cache.
-    QCOMPARE(texts({16ULL << 30, 3ULL << 20, 0, 0}, 5ULL << 40), QString("16.00 GB, 3.00 MB, 5120.00 GB"));
-    QCOMPARE(texts({}, 0), QString("0.00 B, 0.00 B, 0.00 B"));
+    QCOMPARE(texts({16ULL << 30, 3ULL << 20, 0, 0}, 5ULL << 40),
+             QString("16.00 GB, 3.00 MB, 0%, 5120.00 GB"));
+    QCOMPARE(texts({}, 0), QString("0.00 B, 0.00 B, 0%, 0.00 B"));
     // Buffers and cache count as free.
-    QCOMPARE(texts({8192, 1024, 512, 512}, 0), QString("8.00 KB, 2.00 KB, 0.00 B"));
-    QCOMPARE(texts({8192, 1024, 0, 0}, 0), QString("8.00 KB, 1.00 KB, 0.00 B"));
-    QCOMPARE(texts({8192, 0, 1024, 0}, 0), QString("8.00 KB, 1.00 KB, 0.00 B"));
-    QCOMPARE(texts({8192, 0, 0, 1024}, 0), QString("8.00 KB, 1.00 KB, 0.00 B"));
+    QCOMPARE(texts({8192, 1024, 512, 512}, 0), QString("8.00 KB, 2.00 KB, 25%, 0.00 B"));
+    QCOMPARE(texts({8192, 1024, 0, 0}, 0), QString("8.00 KB, 1.00 KB, 12%, 0.00 B"));
+    QCOMPARE(texts({8192, 0, 1024, 0}, 0), QString("8.00 KB, 1.00 KB, 12%, 0.00 B"));
+    QCOMPARE(texts({8192, 0, 0, 1024}, 0), QString("8.00 KB, 1.00 KB, 12%, 0.00 B"));
     // The sum wraps at 64 bits.
-    QCOMPARE(texts({100, largest, 1, 50}, 0), QString("100.00 B, 50.00 B, 0.00 B"));
-    QCOMPARE(texts({}, largest), QString("0.00 B, 0.00 B, 17179869184.00 GB"));
+    QCOMPARE(texts({100, largest, 1, 50}, 0), QString("100.00 B, 50.00 B, 50%, 0.00 B"));
+    QCOMPARE(texts({}, largest), QString("0.00 B, 0.00 B, 0%, 17179869184.00 GB"));
 }
 
 void TestGeneralState::sharesAreTruncated_data()

@@ -176,7 +176,7 @@ void TestQProgPainting::barAndSignalNeedAValueInsideTheRange_data()
     row("value that is not a number", {notANumber, 100, 0}, trough, 0);
     row("maximum that is not a number", {50, notANumber, 0}, trough, 0);
     row("minimum that is not a number", {50, 100, notANumber}, trough, 0);
-    row("range of which nothing is a number", {notANumber, notANumber, notANumber}, trough, 0);
+    row("range that is not a number", {50, notANumber, notANumber}, trough, 0);
     row("infinite range", {0, infinity, -infinity}, trough, 1);
     row("range that overflows", {0, huge, -huge}, trough, 1);
 }
@@ -198,7 +198,9 @@ void TestQProgPainting::barAndSignalNeedAValueInsideTheRange()
         if (valueMaxMinValue.size() == 4) {
             gauge.setValue(valueMaxMinValue.at(3));
         }
-        QTEST(gapColor(painted(gauge), 3), "color");
+        const QImage image = painted(gauge);
+        QTEST(gapColor(image, 3), "color");
+        QCOMPARE(image.pixelColor(20, 40), QColor(Qt::black)); // the ticks need no bar
         QTEST(changes.size(), "signalCount");
     }
 }
