@@ -12,7 +12,7 @@ namespace {
 constexpr double noValue = -1.0;
 constexpr double fullCircle = 5760.0;
 
-/// Truncates toward zero, and holds what an int can't: an out-of-range conversion would be undefined.
+/// Truncates toward zero and clamps to int, as an out-of-range conversion would be undefined.
 int truncated(double angle)
 {
     constexpr double lowest = std::numeric_limits<int>::min();
@@ -33,7 +33,8 @@ ChartGeometry chartGeometry(const QSize &size)
 ChartAngles chartAngles(double percentAvailable)
 {
     const double used = fullCircle * (100.0 - percentAvailable) / 100.0;
-    // Each angle is meant to be truncated by itself: the two spans may fall one short of the full circle.
+    // Intentional: each angle is truncated separately, so the spans may add up to one less than the full
+    // circle.
     return {truncated(used), truncated(used), truncated(fullCircle - used)};
 }
 
@@ -73,7 +74,7 @@ bool Chart::hasValue() const
     return value != noValue && std::isfinite(value);
 }
 
-/// Tells assistive technology what the pie shows to the eye.
+/// Sets the accessible description to the share that the pie shows.
 void Chart::describe()
 {
     const QString text =

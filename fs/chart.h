@@ -5,17 +5,17 @@
 #include <QColor>
 #include <QWidget>
 
-/// Where the pie lies in its widget, in pixels; its top is always at 10.
+/// Position of the pie in its widget, in pixels; its top is always at 10.
 struct ChartGeometry
 {
     int x;        ///< left edge
     int diameter; ///< negative in a widget below 40 pixels
 };
 
-/// The place of the pie in a widget of that size.
+/// The pie's position in a widget of `size`.
 ChartGeometry chartGeometry(const QSize &size);
 
-/// The two shares of the pie in 1/16 degrees, counter-clockwise from three o'clock. Used comes first.
+/// The two shares of the pie in 1/16 degrees, counter-clockwise from three o'clock, used space first.
 struct ChartAngles
 {
     int usedSpan;
@@ -23,8 +23,7 @@ struct ChartAngles
     int availSpan;
 };
 
-/// The shares for an available part of `percentAvailable`, a finite number; angles beyond the range of int
-/// are held at its ends.
+/// The shares for `percentAvailable`, which must be finite. Angles are clamped to the range of int.
 ChartAngles chartAngles(double percentAvailable);
 
 /// Pie chart of the used and the available share of a file system.
@@ -39,8 +38,8 @@ public:
     static QColor usedColor();
     static QColor availColor();
 
-    /// Percentage that is available to ordinary users. Any number is taken: -1 and what isn't finite stand
-    /// for no value, which shows as an empty circle.
+    /// Sets the percentage that is available to ordinary users, without a range check. -1 and anything that
+    /// is not finite mean no value, which shows as an empty circle.
     void setValue(double percentAvailable);
 
 protected:

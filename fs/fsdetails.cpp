@@ -15,7 +15,7 @@ double percentAvailable(const FSInfo &info)
     return info.availBlocks * 100.0 / info.blocks;
 }
 
-/// The difference wraps at 32 bits as the counts themselves do; free blocks are meant to play no part.
+/// Wraps at 32 bits, as the counts do. Intentional: the free blocks play no part.
 qint32 usedBlocks(const FSInfo &info)
 {
     return static_cast<qint32>(static_cast<quint32>(info.blocks) - static_cast<quint32>(info.availBlocks));

@@ -4,18 +4,18 @@
 
 #include "fs/mountlist.h"
 
-/// What the details panel says of one file system.
+/// What the details panel shows for one file system.
 struct FsDetails
 {
-    double percentAvailable; ///< share that ordinary users may fill, in percent; NaN without blocks
+    double percentAvailable; ///< share available to ordinary users; NaN if there are no blocks
     QString device;
     QString type;
     QString total; ///< size text
-    QString used;  ///< size text of all that ordinary users may not fill, the superuser's reserve included
+    QString used;  ///< size text of what ordinary users can't fill, including the superuser's reserve
     QString avail; ///< size text
 };
 
-/// The details of `info`. An empty record gives empty names, sizes of "0.00 B" and no share.
+/// The details of `info`. An empty record yields empty names, sizes of "0.00 B" and NaN.
 FsDetails fsDetails(const FSInfo &info);
 
 #endif

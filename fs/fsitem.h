@@ -13,13 +13,13 @@ class FSItem
 public:
     explicit FSItem(const FSInfo &info);
 
-    /// Makes the row show `info` from now on.
+    /// Replaces the row's contents by those of `info`.
     void setItem(const FSInfo &info);
 
-    /// The values by column: mount point, type, device, then total, free and available space as size
-    /// texts, then the number of file nodes as an integer.
+    /// Values by column: mount point, type, device; size texts of total, free and available space; the number
+    /// of file nodes as an integer.
     QList<QVariant> cells;
-    /// What the cells were made from.
+    /// The record that the cells were made from.
     FSInfo item;
 };
 

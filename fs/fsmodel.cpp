@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Header titles by column. All seven are known, though the table shows only the first two.
+/// Header titles of all seven columns, although the table shows only the first two.
 const char *const titles[] = {
     QT_TRANSLATE_NOOP("FSModel", "Mountpoint"), QT_TRANSLATE_NOOP("FSModel", "Type"),
     QT_TRANSLATE_NOOP("FSModel", "Device"),     QT_TRANSLATE_NOOP("FSModel", "Total space"),
@@ -36,7 +36,7 @@ int FSModel::rowCount(const QModelIndex &parent) const
 
 int FSModel::columnCount(const QModelIndex & /*parent*/) const
 {
-    // Two columns are meant, although rows have seven cells: the details panel shows the other figures.
+    // Intentional: rows have seven cells, but the other figures are shown by the details panel.
     return 2;
 }
 
@@ -73,8 +73,8 @@ void FSModel::update(const std::list<FSInfo> &list)
     removeUnmounted(list);
 }
 
-// The two passes are meant to match rows by different keys: this one by device, so that a device mounted
-// twice has one row, which shows the later mount; the other one by mount point.
+/// Intentional: the two passes match rows by different keys. This one goes by device, so a device mounted
+/// twice has one row, which shows the later mount; the other one goes by mount point.
 void FSModel::updateAndInsert(const std::list<FSInfo> &list)
 {
     QHash<QString, int> rowOfDevice;
@@ -86,7 +86,7 @@ void FSModel::updateAndInsert(const std::list<FSInfo> &list)
         const int found = rowOfDevice.value(info.device, count);
         if (found < count) {
             rows[static_cast<std::size_t>(found)]->setItem(info);
-            // The bottom right is meant to lie one past the last column, which makes it an invalid index.
+            // Intentional: the bottom right is one past the last column and thereby an invalid index.
             Q_EMIT dataChanged(index(found, 0), index(found, columnCount()));
             continue;
         }
@@ -97,9 +97,9 @@ void FSModel::updateAndInsert(const std::list<FSInfo> &list)
     }
 }
 
-// This walk is meant to be as odd as it is: after an erase it skips the row that moved into the gap (which
-// goes at the next refresh, if it is to go), and it doesn't count that row, so that each later removal of
-// the same walk is announced one row lower per earlier one.
+/// Intentional: after an erase the walk skips the row that moved into the gap, which may thus stay until the
+/// next refresh, and doesn't count it, so each removal is announced one row too low per earlier removal of
+/// the walk.
 void FSModel::removeUnmounted(const std::list<FSInfo> &list)
 {
     QSet<QString> mountDirs;
@@ -157,7 +157,7 @@ QIcon FSModel::icon(const FSInfo &info) const
 
 qint64 FSModel::sumOverDevices(qint32 FSInfo::*count) const
 {
-    quint64 bytes = 0; // unsigned, since a wrapped count may carry the sum past any bound
+    quint64 bytes = 0; // unsigned, since wrapped counts may overflow the sum
     for (const auto &row : rows) {
         if (row->item.device.startsWith(QLatin1String("/dev"))) {
             bytes += blocksToBytes(row->item.*count, row->item.blockSize);

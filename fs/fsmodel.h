@@ -10,8 +10,8 @@
 #include <tr1/memory>
 #include <vector>
 
-/// The mounted file systems as a table, one row per device name, in the order in which they appeared.
-/// Rows carry seven cells, of which the table shows two. The mount point is every cell's Qt::UserRole.
+/// Table of the mounted file systems, one row per device name, in order of appearance. Rows have seven cells,
+/// of which the table shows two. Qt::UserRole of every cell is the mount point.
 class FSModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -25,17 +25,17 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
-    /// Brings the rows in step with a fresh mount list, row by row and without a reset.
+    /// Updates, inserts and removes single rows to match a fresh mount list; never resets the model.
     void update(const std::list<FSInfo> &list);
 
-    /// What the first row mounted at `mountDir` shows; an empty record if there is none.
+    /// The record of the first row that is mounted at `mountDir`; an empty one if there is none.
     FSInfo itemByMountDir(const QString &mountDir) const;
-    /// Bytes that ordinary users may still fill on all rows whose device begins with "/dev".
+    /// Sum of the bytes available to ordinary users over the rows whose device begins with "/dev".
     qint64 availableDevSpace() const;
-    /// Bytes in all on the rows whose device begins with "/dev".
+    /// Sum of the total bytes over the rows whose device begins with "/dev".
     qint64 totalDevSpace() const;
-    /// Row 0, column 0, with the row's object as internal pointer, which nothing ever follows; invalid if
-    /// there is no row.
+    /// Row 0, column 0, with the row's object as internal pointer, which is never dereferenced; invalid if
+    /// there is no row. Called by tests only.
     QModelIndex firstIndex() const;
 
 private:

@@ -12,19 +12,18 @@
 
 namespace {
 
-/// A name from one of libgtop's fixed arrays, which need not end in NUL when the name fills them.
+/// Reads one of libgtop's fixed arrays, which has no terminating NUL if the name fills it.
 template <std::size_t size>
 std::string boundedName(const char (&bytes)[size])
 {
     return std::string(bytes, strnlen(bytes, size));
 }
 
-/// libgtop adds what has been read from and written to the device, and looks through all mounts for it each
-/// time, unless the kernel is too old to tell. Letting it think so for as long as this call takes keeps a
-/// machine with thousands of mounts from millions of lines to be read per refresh.
+/// glibtop_get_fsusage() rescans the whole mount table for I/O totals, which makes a refresh quadratic in the
+/// number of mounts; it skips that on old kernels, so pretend to run on one during the call.
 void readUsage(const std::string &mountDir, glibtop_fsusage &usage)
 {
-    glibtop *const server = glibtop_init();
+    auto *server = glibtop_init();
     const unsigned long kernel = std::exchange(server->os_version_code, 0UL);
     glibtop_get_fsusage(&usage, mountDir.c_str());
     server->os_version_code = kernel;
@@ -37,7 +36,7 @@ MountEntry readEntry(const glibtop_mountentry &mount)
     entry.mountdir = boundedName(mount.mountdir);
     entry.type = boundedName(mount.type);
 
-    // A failed query is not reported: it leaves no blocks, which is what drops a vanished mount.
+    // A failed query goes unnoticed: it leaves 0 blocks, for which a vanished mount is dropped.
     glibtop_fsusage usage{};
     readUsage(entry.mountdir, usage);
     entry.blocks = usage.blocks;
@@ -50,7 +49,7 @@ MountEntry readEntry(const glibtop_mountentry &mount)
 
 std::vector<MountEntry> readMounts()
 {
-    // All file systems are asked for: what is of no interest is left out by our own rule, not libgtop's.
+    // Unfiltered by libgtop: reduceMounts() decides which mounts to drop.
     constexpr int allFileSystems = 1;
     glibtop_mountlist list{};
     const std::unique_ptr<glibtop_mountentry, decltype(&g_free)> mounts(
@@ -94,7 +93,7 @@ std::list<FSInfo> reduceMounts(const std::vector<MountEntry> &entries)
     std::list<FSInfo> mounts;
     for (const MountEntry &entry : entries) {
         FSInfo info = toFSInfo(entry);
-        // The stored count is meant to decide: a multiple of 2^32 blocks is stored as 0 and left out.
+        // Intentional: the stored count decides, so a multiple of 2^32 blocks, stored as 0, is dropped.
         if (info.blocks != 0 && info.type != QLatin1String("tmpfs")) {
             mounts.push_back(std::move(info));
         }

@@ -9,29 +9,30 @@
 #include <string>
 #include <vector>
 
-/// One mounted file system. The counts are meant to be the low 32 bits of what the system reports, read
-/// as signed: they wrap for file systems of 2^31 blocks and more, and all users of the record follow suit.
+/// One mounted file system. Intentional: the counts are the low 32 bits of the reported ones, read as signed,
+/// so they wrap for file systems of 2^31 blocks and more, and all users of the record compute with them as
+/// they are.
 struct FSInfo
 {
     QString device;         ///< device name, for example a path under /dev
     QString mountDir;       ///< mount point
     QString type;           ///< file system type
-    qint32 blocks = 0;      ///< blocks in all
-    qint32 freeBlocks = 0;  ///< free blocks, those reserved for the superuser included
-    qint32 availBlocks = 0; ///< free blocks that ordinary users may fill
-    qint32 files = 0;       ///< file nodes in all
+    qint32 blocks = 0;      ///< total blocks
+    qint32 freeBlocks = 0;  ///< free blocks, including those reserved for the superuser
+    qint32 availBlocks = 0; ///< free blocks available to ordinary users
+    qint32 files = 0;       ///< total file nodes
     qint32 blockSize = 0;   ///< bytes in one block
 };
 
-/// Bytes in `count` blocks: the product modulo 2^64 of both factors widened with their sign, so that a
-/// wrapped (negative) count makes a huge amount.
+/// Bytes in `count` blocks: the product modulo 2^64 of the sign-extended factors, so a wrapped (negative)
+/// count yields a huge size.
 inline quint64 blocksToBytes(qint32 count, qint32 blockSize)
 {
     return static_cast<quint64>(qint64{count}) * static_cast<quint64>(qint64{blockSize});
 }
 
-/// A mount as libgtop reports it (`glibtop_mountentry` and `glibtop_fsusage`): names are bytes in no
-/// particular encoding, counts are whole.
+/// A mount as reported by libgtop (`glibtop_mountentry` and `glibtop_fsusage`): names are bytes in no
+/// particular encoding, counts are untruncated.
 struct MountEntry
 {
     std::string devname;
@@ -44,16 +45,16 @@ struct MountEntry
     quint32 blockSize = 0;
 };
 
-/// The mounted file systems that hold data, in the order of the system's mount list; empty if there is no
-/// such list. Blocks for as long as a file system takes to report its usage.
+/// The mounted file systems that hold data, in the order of the system's mount list; empty if that is
+/// missing. Blocks for as long as the file systems take to report their usage.
 std::list<FSInfo> collectMountList();
 
-/// The record of one mount: names read as UTF-8 (bytes that are not become replacement characters),
-/// counts cut to 32 bits.
+/// Converts one mount to a record: names are decoded as UTF-8 (invalid bytes become replacement characters),
+/// counts are truncated to 32 bits.
 FSInfo toFSInfo(const MountEntry &entry);
 
-/// Reduces what was read to the mounts that hold data, in the same order: those of type "tmpfs" and those
-/// whose stored block count is 0 are left out.
+/// Converts the mounts that hold data, in the same order; drops those of type "tmpfs" and those whose stored
+/// block count is 0.
 std::list<FSInfo> reduceMounts(const std::vector<MountEntry> &entries);
 
 #endif

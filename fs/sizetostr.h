@@ -5,11 +5,11 @@
 #include <QObject>
 #include <QString>
 
-/// The text of a byte count for the eye: two decimals and the largest unit up to gigabytes under which
-/// the value stays below 1024, as in "512.00 B" or "1.50 KB". The value is converted to double first:
-/// an unsigned count never turns negative, and a negative double is shown in bytes with its sign.
-/// The unit is chosen before rounding, so one byte less than a megabyte reads "1024.00 KB".
-/// Only the unit is translated (context QObject); the number has a decimal point in every locale.
+/// Formats a byte count with two decimals, in the smallest unit up to gigabytes in which it is below 1024, as
+/// in "512.00 B" or "1.50 KB". The value is converted to double first: an unsigned count never becomes
+/// negative; a negative double is shown in bytes with its sign. The unit is chosen before rounding, so one
+/// byte less than a megabyte reads "1024.00 KB". Only the unit is translated (context QObject); the number
+/// has a decimal point in every locale.
 template <class T>
 QString sizeToStr(const T &value)
 {
@@ -23,7 +23,7 @@ QString sizeToStr(const T &value)
     } else if ((number *= perUnit) < 1024.0) {
         unit = QObject::tr(" MB");
     } else {
-        // There is meant to be no larger unit: a tebibyte reads "1024.00 GB".
+        // Intentional: there is no larger unit, so a tebibyte reads "1024.00 GB".
         number *= perUnit;
         unit = QObject::tr(" GB");
     }

@@ -8,7 +8,7 @@
 
 int cpuCount()
 {
-    // Read once only so that libgtop has looked at the machine and knows its CPUs.
+    // libgtop sets ncpu on the first read; the values are discarded.
     glibtop_cpu cpu;
     glibtop_get_cpu(&cpu);
     return cpuCountFromLastIndex(glibtop_global_server->ncpu);
@@ -31,8 +31,9 @@ std::vector<CpuCounters> readCpuCounters(std::size_t count)
     glibtop_cpu cpu;
     glibtop_get_cpu(&cpu);
     std::vector<CpuCounters> read(std::min<std::size_t>(count, GLIBTOP_NCPU));
-    for (std::size_t i = 0; i < read.size(); ++i)
+    for (std::size_t i = 0; i < read.size(); ++i) {
         read[i] = {cpu.xcpu_idle[i], cpu.xcpu_total[i]};
+    }
     return read;
 }
 
@@ -57,10 +58,11 @@ quint64 sampleCpus(std::vector<CpuRec> &records)
 
 int cpuLoadPercent(quint64 idleDelta, quint64 totalDelta)
 {
-    // A tick without any time counts as full load on purpose. It is told apart before anything is
-    // divided or converted, as is a share too large for a load above -101, which counts as full load too.
-    if (totalDelta == 0)
+    // Intentional: a tick in which no time passed shows full load, and so does an idle share that would give
+    // -101 or less. Both are decided before the division and the conversion, which would be undefined.
+    if (totalDelta == 0) {
         return 100;
+    }
     const double idleShare = 100.0 * static_cast<double>(idleDelta) / static_cast<double>(totalDelta);
     return idleShare < 201.0 ? 100 - static_cast<int>(idleShare) : 100;
 }

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// CPU times of the machine, and the load between two samples of them.
 #ifndef RESOURCES_CPULOAD_H
 #define RESOURCES_CPULOAD_H
 
@@ -10,49 +9,50 @@
 class QLabel;
 class QProg;
 
-// One CPU: its counters in jiffies, and the widgets of its row, which belong to their parent widget.
+/// One CPU: its counters in jiffies and the widgets of its row, which are owned by their parent widget.
 struct CpuRec
 {
-    quint64 idleDelta = 0;  // since the previous sample
-    quint64 totalDelta = 0; // since the previous sample
-    quint64 idleLast = 0;
-    quint64 totalLast = 0;
+    quint64 idleDelta = 0;  ///< since the previous sample
+    quint64 totalDelta = 0; ///< since the previous sample
+    quint64 idleLast = 0;   ///< counter at the latest sample
+    quint64 totalLast = 0;  ///< counter at the latest sample
     QProg *gauge = nullptr;
     QLabel *percentLabel = nullptr;
     QLabel *captionLabel = nullptr;
 };
 
-// What was read of one CPU: jiffies since boot.
+/// Raw counters of one CPU, in jiffies since boot.
 struct CpuCounters
 {
     quint64 idle = 0;
     quint64 total = 0;
 };
 
-// Number of CPUs that libgtop counts, 1 to 1024 (GLIBTOP_NCPU, where its per-CPU arrays end).
+/// Number of CPUs that libgtop counts, 1 to GLIBTOP_NCPU (1024), the length of its per-CPU arrays.
 int cpuCount();
 
-// That number from the index of the last CPU, whatever the index is.
+/// Converts the index of the last CPU (`ncpu` of libgtop's server) to a count, clamped to 1 to 1024.
 int cpuCountFromLastIndex(int lastIndex);
 
-// Jiffies of all CPUs together since boot (`total` of glibtop_cpu).
+/// Jiffies of all CPUs together since boot (`total` of glibtop_cpu).
 quint64 totalCpuTime();
 
-// Counters of the first `count` CPUs from glibtop_get_cpu; at most 1024. A CPU that is offline reads as 0.
+/// Counters of the first `count` CPUs, at most 1024, from glibtop_get_cpu. An offline CPU reads as 0.
 std::vector<CpuCounters> readCpuCounters(std::size_t count);
 
-// Sets each record's deltas and latest counters from what was read; records beyond it stay as they are.
-// Returns the sum of the total deltas. Unsigned throughout: a counter that fell gives a huge delta.
+/// Updates the deltas and latest counters of `records` from `read`; records without a reading stay unchanged.
+/// Returns the sum of the total deltas, which the controller is required to keep although nothing reads it.
+/// Unsigned throughout: a counter that decreased yields a huge delta.
 quint64 updateCpuDeltas(const std::vector<CpuCounters> &read, std::vector<CpuRec> &records);
 
-// Both of the above: one sample of as many CPUs as there are records.
+/// Samples as many CPUs as there are records: readCpuCounters(), then updateCpuDeltas().
 quint64 sampleCpus(std::vector<CpuRec> &records);
 
-// 100 minus the idle share, truncated to a whole percent. 100 when there is no share to speak of (no time
-// has passed) or it leaves the load at a distance of more than 100 from 0; otherwise from -100 to 100.
+/// 100 minus the idle share, truncated to a whole percent; -100 to 100. Yields 100 if no time has passed or
+/// if the result would be below -100.
 int cpuLoadPercent(quint64 idleDelta, quint64 totalDelta);
 
-// "42 %".
+/// The label text for a load: "42 %".
 QString cpuLoadText(int percent);
 
 #endif

@@ -9,7 +9,7 @@
 
 namespace {
 
-// A single CPU is not one core among others.
+/// The caption of CPU `number`, counted from 1; a machine's only CPU has no number.
 QString loadCaption(int number, std::size_t count)
 {
     return count == 1 ? QCoreApplication::translate("Updater", "CPU load")

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The rows of widgets that show the CPUs of the machine, in grid layouts that already sit in a widget.
 #ifndef RESOURCES_CPUROWS_H
 #define RESOURCES_CPUROWS_H
 
@@ -11,13 +10,16 @@
 
 class QGridLayout;
 
-// Adds a caption and the CPU model per CPU, from row 7 on, in columns 1 and 3.
+// The CPU rows of the General page. Each grid layout must already belong to a widget.
+
+/// Adds one row per CPU, from row 7 on: caption in column 1, CPU model in column 3.
 void addCpuModelRows(QGridLayout *glGeneral, int cpuCount, const QString &model);
 
-// Adds caption, percentage and gauge per record, from row 3 on, in columns 1 to 3, and stores them there.
+/// Adds one row per record, from row 3 on, and stores its widgets in the record: caption, percentage and
+/// gauge in columns 1 to 3.
 void createCpuRows(QGridLayout *glState, std::vector<CpuRec> &records);
 
-// Shows each record's load in its row, which createCpuRows() made.
+/// Shows each record's load in the row that createCpuRows() added for it.
 void showCpuLoad(const std::vector<CpuRec> &records);
 
 #endif

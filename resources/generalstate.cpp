@@ -8,7 +8,7 @@
 
 namespace {
 
-// Truncated before it reaches the gauge, and not rounded, on purpose.
+/// Intentional: truncated to a whole percent before it reaches the gauge, not rounded.
 double wholePercent(quint64 part, quint64 whole)
 {
     const quint64 percent = whole == 0 ? 0 : part * 100 / whole;

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Memory and disk figures of the General page.
 #ifndef RESOURCES_GENERALSTATE_H
 #define RESOURCES_GENERALSTATE_H
 
 #include <QString>
 
-// Physical memory in bytes, as glibtop_get_mem gives it.
+/// Physical memory in bytes, from glibtop_get_mem.
 struct MemoryState
 {
     quint64 total = 0;
@@ -15,18 +14,17 @@ struct MemoryState
 };
 MemoryState readMemory();
 
-// What the page shows: sizes as text, free shares in whole percent, rounded down.
+/// Memory and disk figures of the General page: size texts, and free shares in whole percent, rounded down.
 struct GeneralFigures
 {
     QString memTotal;
-    QString memFree; // buffers and cache count as free
+    QString memFree; ///< buffers and cache count as free
     QString diskFree;
     double memPercent = 0.0;
     double diskPercent = 0.0;
 };
 
-// Figures from what was read; disk sizes in bytes. The arithmetic is unsigned 64-bit and may wrap; a share
-// of nothing is 0.
+/// Disk sizes are in bytes. The arithmetic is unsigned 64-bit and may wrap; a share of a zero total is 0.
 GeneralFigures generalFigures(const MemoryState &memory, quint64 freeDisk, quint64 totalDisk);
 
 #endif

@@ -8,13 +8,23 @@
 
 namespace histogeometry {
 
-static const int leftMargin = 70; // the labels of the amounts
-static const int margin = 15;     // the other three sides; the time labels stand in the lower one
+namespace {
+
+constexpr int leftMargin = 70; ///< holds the amount labels
+constexpr int margin = 15;     ///< of the other three sides; the bottom one holds the time labels
+
+double amountStep(const QSize &size)
+{
+    return (size.height() - 2 * margin) * 0.25;
+}
+
+} // namespace
 
 int wholePixel(double coordinate)
 {
     const double limit = 1 << 24;
-    return static_cast<int>(std::max(-limit, std::min(limit, coordinate))); // in this order NaN is held too
+    return static_cast<int>(
+        std::max(-limit, std::min(limit, coordinate))); // this argument order also clamps NaN
 }
 
 double horizontalScale(int width)
@@ -40,12 +50,8 @@ QRectF timeLabelRect(int k, const QSize &size, double scale)
 
 QString timeLabel(int k, int interval)
 {
-    return QString::number(qint64(100 - k) * interval); // 64 bits: a stored interval may be any int
-}
-
-static double amountStep(const QSize &size)
-{
-    return (size.height() - 2 * margin) * 0.25;
+    return QString::number(qint64(100 - k) *
+                           interval); // 64-bit: the interval, read from the settings, may be any int
 }
 
 QLine amountLine(int i, const QSize &size)
@@ -61,7 +67,7 @@ QRectF amountLabelRect(int i, const QSize &size)
 
 QString amountLabel(int i, qint32 maxValue)
 {
-    // In double, as 4 * maxValue leaves 32 bits; + 0.0 turns the -0 of a negative maximum into 0.
+    // In double, as 4 * maxValue overflows 32 bits; + 0.0 turns the -0 of a negative maximum into 0.
     return sizeToStr(static_cast<double>(maxValue) * (4 - i) * 0.25 + 0.0);
 }
 

@@ -10,39 +10,39 @@
 #include <QString>
 #include <QVector>
 
-/// Where the traffic graph draws what, in pixels from the widget's top left corner. The margins of 70 (left)
-/// and 15 pixels don't grow with the display's resolution. Widgets too small for them get lines that run
-/// backwards, never an error.
+/// Geometry of the traffic graph, in pixels from the widget's top left corner. The margins, 70 pixels on the
+/// left and 15 on the other sides, don't scale with the dpi. A widget smaller than its margins yields lines
+/// that run backwards, never an error.
 namespace histogeometry {
 
-/// The integer part of a coordinate, held within +-2^24: what lies beyond is out of sight on any display.
+/// The integer part of a coordinate, clamped to +-2^24, which is out of sight on any display.
 int wholePixel(double coordinate);
 
 /// Pixels per sample; negative below a width of 85.
 double horizontalScale(int width);
 
-/// Pixels per byte; 0 for a largest value of 0, which puts all samples on the base line.
+/// Pixels per byte; 0 if `maxValue` is 0, which puts all samples on the base line.
 double verticalScale(int height, qint32 maxValue);
 
-/// The vertical grid line `k` hundredths of the graph's width from its left edge; k = 0, 10 ... 100.
+/// The vertical grid line at `k` percent of the graph's width from its left edge; k = 0, 10 ... 100.
 QLine timeLine(int k, const QSize &size, double scale);
-/// The rectangle in whose middle the label of that line stands.
+/// The rectangle in which that line's label is centred.
 QRectF timeLabelRect(int k, const QSize &size, double scale);
-/// The label of that line: its age in seconds with a sample every `interval` seconds.
+/// That line's label: its age in seconds, with one sample every `interval` seconds.
 QString timeLabel(int k, int interval);
 
 /// The horizontal grid line `i`, from the top (0) to the base line (4).
 QLine amountLine(int i, const QSize &size);
-/// The rectangle in whose middle the label of that line stands.
+/// The rectangle in which that line's label is centred.
 QRectF amountLabelRect(int i, const QSize &size);
-/// The label of that line: the size text of its share of `maxValue`, which itself stands at the top line.
+/// That line's label: the size text of its share of `maxValue`, which is the top line's.
 QString amountLabel(int i, qint32 maxValue);
 
-/// The lines that draw `ring`, which has data, from the newest sample at the right to the oldest. The first
-/// one is meant to join the newest sample to itself: it makes a single sample a dot.
+/// The lines that draw `ring`, which must have data, from the newest sample at the right to the oldest.
+/// Intentional: the first line joins the newest sample to itself, which shows a single sample as a dot.
 QVector<QLine> seriesLines(const HistoRing &ring, const QSize &size, double xScale, double yScale);
 
-/// Sizes in the legend, in pixels.
+/// Sizes of the legend's parts, in pixels.
 struct LegendSizes
 {
     int margin;
@@ -51,19 +51,20 @@ struct LegendSizes
     int boxHeight;
 };
 
-/// The sizes scaled to the primary screen's dpi.
+/// The legend's sizes, scaled to the primary screen's dpi.
 LegendSizes legendSizes();
 
-/// The parts of the legend at the bottom left.
+/// The parts of the legend, which is at the bottom left.
 struct Legend
 {
     QRect box;
     QRect inSwatch;
     QRect outSwatch;
-    QRect inText; ///< meant to reach past the box: translations may be longer
+    QRect inText; ///< Intentional: extends past the box, as translations may be longer.
     QRect outText;
 };
 
+/// The legend of a graph that is `height` pixels high.
 Legend legend(int height, const LegendSizes &sizes);
 
 } // namespace histogeometry

@@ -6,24 +6,24 @@
 
 #include <vector>
 
-/// The last 100 samples of one series, in bytes per update interval; the oldest gives way to the newest.
+/// Ring buffer of the last 100 samples of one series, in bytes per update interval.
 struct HistoRing
 {
-    /// Adds the newest sample.
+    /// Adds the newest sample; a full ring drops its oldest.
     void append(quint32 value);
 
-    /// Empties the ring. The old entries stay in `values`, out of reach.
+    /// Empties the ring. The old entries stay in `values` but are unreachable.
     void clear();
 
-    /// Number of stored samples, 1 to 100. Meaningful only while `hasData`: an empty ring counts 1,
-    /// as its head and tail stand where those of a single sample would.
+    /// Number of stored samples, 1 to 100. Intentional: an empty ring counts 1, as its head and tail are
+    /// those of a ring with one sample; only `hasData` tells the two apart.
     quint64 count() const;
 
-    /// The sample `age` steps back from the newest, which has age 0; `age` is below count().
+    /// The sample `age` steps before the newest, which has age 0; `age` must be below count().
     quint32 at(quint64 age) const;
 
-    /// The largest stored sample, compared as signed 32-bit: one of 2^31 or more counts as negative.
-    /// Call it only while `hasData`.
+    /// The largest stored sample. Intentional: compared as signed 32-bit, so 2^31 and above count as
+    /// negative. Requires `hasData`.
     qint32 largest() const;
 
     const quint64 capacity = 100;

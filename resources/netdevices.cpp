@@ -10,28 +10,16 @@
 
 #include <algorithm>
 
-static NetReading readNetDevice(const char *name)
+namespace {
+
+NetReading readNetDevice(const char *name)
 {
-    glibtop_netload load = {};
+    glibtop_netload load{};
     glibtop_get_netload(&load, name);
     return {name, load.address, load.subnet, load.bytes_in, load.bytes_out, load.errors_total};
 }
 
-std::vector<NetReading> readNetDevices()
-{
-    glibtop_netlist list = {};
-    char **names = glibtop_get_netlist(&list);
-    std::vector<NetReading> readings;
-    // The terminating null counts, not list.number: both come from the same walk, but only the null also
-    // covers the list that is not there at all.
-    for (char **name = names; name && *name; ++name) {
-        readings.push_back(readNetDevice(*name));
-    }
-    g_strfreev(names);
-    return readings;
-}
-
-static NetRec netRecord(const NetReading &reading)
+NetRec netRecord(const NetReading &reading)
 {
     return {QString::fromUtf8(reading.name),
             reading.address,
@@ -39,6 +27,21 @@ static NetRec netRecord(const NetReading &reading)
             reading.bytesIn,
             reading.bytesOut,
             static_cast<quint32>(reading.errorsTotal)};
+}
+
+} // namespace
+
+std::vector<NetReading> readNetDevices()
+{
+    glibtop_netlist list{};
+    char **names = glibtop_get_netlist(&list);
+    std::vector<NetReading> readings;
+    // Stops at the terminating null instead of list.number, since that also covers a missing list.
+    for (char **name = names; name && *name; ++name) {
+        readings.push_back(readNetDevice(*name));
+    }
+    g_strfreev(names);
+    return readings;
 }
 
 std::vector<NetRec> netRecords(const std::vector<NetReading> &readings)
@@ -63,7 +66,7 @@ quint32 counterDelta(quint64 now, quint64 last)
 QString dottedAddress(quint32 address)
 {
     const in_addr wrapped = {address};
-    return QString::fromLatin1(inet_ntoa(wrapped)); // empty for null
+    return QString::fromLatin1(inet_ntoa(wrapped)); // null yields an empty text
 }
 
 NetTexts netTexts(const NetRec &record)

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// One network interface with its totals since it came up.
+/// One network interface, with its totals since it came up.
 struct NetRec
 {
     QString name;
@@ -15,13 +15,13 @@ struct NetRec
     quint32 subnet = 0;  ///< net mask, network byte order; 0 without one
     quint64 bytesIn = 0;
     quint64 bytesOut = 0;
-    quint32 errors = 0; ///< of both directions, cut to 32 bits
+    quint32 errors = 0; ///< of both directions, truncated to 32 bits
 };
 
-/// One interface as libgtop reports it (glibtop_netlist and the fields of glibtop_netload).
+/// One interface as reported by libgtop (a name of glibtop_netlist and fields of glibtop_netload).
 struct NetReading
 {
-    QByteArray name; ///< raw bytes; the kernel allows all but '/', ':', white space and NUL
+    QByteArray name; ///< raw bytes; the kernel permits anything but '/', ':', white space and NUL
     quint32 address = 0;
     quint32 subnet = 0;
     quint64 bytesIn = 0;
@@ -29,25 +29,24 @@ struct NetReading
     quint64 errorsTotal = 0;
 };
 
-/// The interfaces in the order the system lists them; empty when it lists none. One that vanishes
-/// meanwhile is listed with zeros.
+/// The interfaces in the system's order. One that disappears while being read is listed with zeros.
 std::vector<NetReading> readNetDevices();
 
-/// The records of `readings`, sorted by name in code-unit order, case-sensitive; equal names keep their
-/// order. Bytes of a name that are not UTF-8 become replacement characters.
+/// Converts `readings` to records, stably sorted by name in code-unit order, case-sensitive. Invalid UTF-8 in
+/// a name is decoded to replacement characters.
 std::vector<NetRec> netRecords(const std::vector<NetReading> &readings);
 
-/// The machine's interfaces now, sorted by name.
+/// The current interfaces of this machine, sorted by name.
 std::vector<NetRec> collectNetDevices();
 
-/// What a byte counter has gained since `last`, cut to 32 bits. A counter that fell back is meant to give
-/// the huge difference of unsigned arithmetic: an interface reset shows as a peak.
+/// The increase of a byte counter since `last`, truncated to 32 bits. Intentional: a counter that decreased
+/// wraps to a huge difference, so the reset of an interface shows as a peak.
 quint32 counterDelta(quint64 now, quint64 last);
 
-/// `address` (IPv4, network byte order) as inet_ntoa(3) writes it, "0.0.0.0" for 0.
+/// Formats `address` (IPv4, network byte order) with inet_ntoa(3); "0.0.0.0" for 0.
 QString dottedAddress(quint32 address);
 
-/// The texts of the Network page's labels.
+/// Texts of the Network page's labels.
 struct NetTexts
 {
     QString address; ///< dotted
@@ -57,6 +56,7 @@ struct NetTexts
     QString errors;  ///< decimal
 };
 
+/// The label texts for `record`.
 NetTexts netTexts(const NetRec &record);
 
 #endif

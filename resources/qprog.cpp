@@ -17,14 +17,15 @@ void setUpPainter(QPainter &painter, int width)
 
 void fillRoundRect(QPainter &painter, const QRectF &rect, const QBrush &brush)
 {
-    if (rect.isEmpty()) // the painter would mirror a negative width
+    if (rect.isEmpty()) { // a negative width would be drawn mirrored
         return;
+    }
     painter.setPen(Qt::NoPen);
     painter.setBrush(brush);
     painter.drawRoundedRect(rect, 3, 25, Qt::RelativeSize);
 }
 
-// False for anything that is not a number, so that it is never drawn.
+/// False for NaN, which is therefore never drawn.
 bool inRange(double min, double max, double value)
 {
     return min <= value && value <= max;
@@ -55,8 +56,9 @@ QVector<QRectF> qprog::emptyRangeBlocks()
 QVector<QLineF> qprog::tickLines(int width)
 {
     QVector<QLineF> lines;
-    for (int k = 0; k <= width; k += 10)
+    for (int k = 0; k <= width; k += 10) {
         lines.append(QLineF(k + 20, 10, k + 20, 70));
+    }
     return lines;
 }
 
@@ -71,8 +73,9 @@ double qprog::barLength(int width, double min, double max, double value)
 QString qprog::shareText(double min, double max, double value)
 {
     const double percent = (value - min) * 100.0 / (max - min);
-    if (!inRange(min, max, value) || !std::isfinite(percent))
+    if (!inRange(min, max, value) || !std::isfinite(percent)) {
         return QString();
+    }
     return QProg::tr("%1 %").arg(static_cast<int>(percent));
 }
 
@@ -94,66 +97,68 @@ QSize QProg::sizeHint() const
 
 void QProg::setValue(double v)
 {
-    if (v > m_max)
-        m_value = m_max;
-    else if (v < m_min)
-        m_value = m_min;
-    else
-        m_value = v;
+    if (v > highest) {
+        currentValue = highest;
+    } else if (v < lowest) {
+        currentValue = lowest;
+    } else {
+        currentValue = v;
+    }
     rangeOrValueChanged();
 }
 
 void QProg::setMaxValue(double v)
 {
-    if (m_min > v) {
-        m_max = m_min;
-        m_min = v;
-        m_value = v;
+    if (lowest > v) {
+        highest = lowest;
+        lowest = v;
+        currentValue = v;
     } else {
-        m_max = v; // the value is not clamped again, on purpose
+        highest = v; // Intentional: the value is not clamped again.
     }
     rangeOrValueChanged();
 }
 
 void QProg::setMinValue(double v)
 {
-    if (v > m_max) {
-        m_min = m_max;
-        m_max = v;
-        m_value = m_min;
+    if (v > highest) {
+        lowest = highest;
+        highest = v;
+        currentValue = lowest;
     } else {
-        m_min = v; // the value is not clamped again, on purpose
+        lowest = v; // Intentional: the value is not clamped again.
     }
     rangeOrValueChanged();
 }
 
 void QProg::setFontDim(int dim)
 {
-    m_fontDim = dim;
+    fontSize = dim;
     update();
 }
 
 void QProg::setPrecision(int digits)
 {
-    m_numPrec = digits;
+    precision = digits;
     update();
 }
 
 void QProg::setBarColor(const QColor &color)
 {
-    m_barColor = color;
+    fillColor = color;
     update();
 }
 
 void QProg::rangeOrValueChanged()
 {
     update();
-    const QString share = qprog::shareText(m_min, m_max, m_value);
-    if (share != accessibleDescription()) // each setting sends an event, even of the same text
+    const QString share = qprog::shareText(lowest, highest, currentValue);
+    if (share != accessibleDescription()) { // setting even the same text sends an event
         setAccessibleDescription(share);
+    }
 }
 
-void QProg::paintEvent(QPaintEvent *)
+void QProg::paintEvent(QPaintEvent * /*event*/)
 {
     paintFrame();
     paintBar();
@@ -175,17 +180,19 @@ void QProg::paintBar()
     QPainter painter(this);
     setUpPainter(painter, width());
     fillRoundRect(painter, qprog::troughRect(width()), QColor(70, 70, 70));
-    if (!inRange(m_min, m_max, m_value))
-        return;
-    if (!(m_min < m_max)) {
-        for (const QRectF &block : qprog::emptyRangeBlocks())
-            fillRoundRect(painter, block, m_barColor);
+    if (!inRange(lowest, highest, currentValue)) {
         return;
     }
-    m_barLength = qprog::barLength(width(), m_min, m_max, m_value);
-    fillRoundRect(painter, qprog::barRect(m_barLength), m_barColor);
-    painter.end(); // whoever hears the signal may paint
-    Q_EMIT valueChanged(m_value);
+    if (!(lowest < highest)) {
+        for (const QRectF &block : qprog::emptyRangeBlocks()) {
+            fillRoundRect(painter, block, fillColor);
+        }
+        return;
+    }
+    barLength = qprog::barLength(width(), lowest, highest, currentValue);
+    fillRoundRect(painter, qprog::barRect(barLength), fillColor);
+    painter.end(); // a receiver of the signal may paint
+    Q_EMIT valueChanged(currentValue);
 }
 
 void QProg::paintTicks()

@@ -8,43 +8,46 @@
 #include <QRectF>
 #include <QVector>
 
-// A horizontal bar gauge: an edge frame, a dark trough, a bar as long as the value, tick lines over it.
-// It draws no text; towards assistive technology its description is the filled share ("42 %").
+/// Horizontal bar gauge: an edge frame, a dark trough, a bar whose length shows the value, tick lines over
+/// it. Draws no text; its accessible description is the filled share ("42 %"). The properties are required,
+/// although the program doesn't use them. Of the setters it calls setValue(), setMaxValue() and
+/// setBarColor(); only tests call the others.
 class QProg : public QLabel
 {
     Q_OBJECT
     Q_PROPERTY(double value READ value WRITE setValue)
     Q_PROPERTY(double min READ minimum WRITE setMinValue)
     Q_PROPERTY(double max READ maximum WRITE setMaxValue)
-    // A number under the name of the widget's own font: it hides that property, and is meant to.
+    // Intentional: a number that hides QWidget's property `font`; the widget's font is not affected.
     Q_PROPERTY(int font READ fontDim WRITE setFontDim)
     Q_PROPERTY(int numPrec READ numPrec WRITE setPrecision)
     Q_PROPERTY(QColor color READ barColor WRITE setBarColor)
 
 public:
-    // 0 in a range of 0 to 100, green.
+    /// Starts at 0 in a range of 0 to 100, with a green bar.
     explicit QProg(QWidget *parent);
 
-    double value() const { return m_value; }
-    double minimum() const { return m_min; }
-    double maximum() const { return m_max; }
-    int fontDim() const { return m_fontDim; } // kept for its property; nothing is drawn with it
-    int numPrec() const { return m_numPrec; } // kept for its property; nothing is drawn with it
-    QColor barColor() const { return m_barColor; }
+    double value() const { return currentValue; }
+    double minimum() const { return lowest; }
+    double maximum() const { return highest; }
+    int fontDim() const { return fontSize; }  ///< no effect on drawing
+    int numPrec() const { return precision; } ///< no effect on drawing
+    QColor barColor() const { return fillColor; }
 
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    // Sent by every repaint with a value inside a range that isn't empty, not by setValue(); meant so.
+    /// Intentional: emitted by every repaint with a value inside a non-empty range, not by setValue().
     void valueChanged(double value);
 
 public Q_SLOTS:
-    // Stores the value, clamped to the range. What is not a number is stored as it is and draws no bar.
+    /// Stores the value, clamped to the range. NaN is stored as it is and draws no bar.
     void setValue(double v);
-    // Sets one end of the range. If the ends are then the wrong way round, they change places and the
-    // value becomes the new minimum; otherwise the value stays, even if it now lies outside the range.
+    /// Sets the maximum. One below the minimum swaps with it, and the value becomes the new minimum;
+    /// otherwise the value is kept (intentional: also if it is now out of range).
     void setMaxValue(double v);
+    /// Sets the minimum; swaps with the maximum and keeps the value under the same rules.
     void setMinValue(double v);
     void setFontDim(int dim);
     void setPrecision(int digits);
@@ -59,30 +62,32 @@ private:
     void paintBar();
     void paintTicks();
 
-    int m_fontDim = 20;
-    int m_numPrec = 0;
-    double m_barLength = 0.0;
-    double m_min = 0.0;
-    double m_max = 100.0;
-    double m_value = 0.0;
-    QColor m_barColor = Qt::green;
+    int fontSize = 20;      ///< required, but nothing is drawn with it
+    int precision = 0;      ///< required, but nothing is drawn with it
+    double barLength = 0.0; ///< at the last paint; required, but only paintBar() reads it
+    double lowest = 0.0;
+    double highest = 100.0;
+    double currentValue = 0.0;
+    QColor fillColor = Qt::green;
 };
 
-// Where a gauge draws: in units of one pixel across and an 80th of the height down. `width` is the
-// widget's in pixels; a rectangle may come out with a negative width on a gauge narrower than its frame.
+/// Geometry of the gauge, in units of one pixel horizontally and 1/80 of the height vertically. `width` is
+/// the widget's in pixels; on a gauge narrower than its frame a rectangle may have a negative width.
 namespace qprog {
+
 constexpr int windowHeight = 80;
 
 QRectF frameRect(int width);
 QRectF troughRect(int width);
 QRectF barRect(double length);
-// The four blocks that stand for a range without extent, the same for every width.
+/// The four fixed blocks that represent an empty range, the same for every width.
 QVector<QRectF> emptyRangeBlocks();
 QVector<QLineF> tickLines(int width);
-// Length of the bar for a value inside a range that isn't empty; 0 if the range is too wide to be computed.
+/// Length of the bar for a value inside a non-empty range; 0 if the computation overflows.
 double barLength(int width, double min, double max, double value);
-// The filled share of the range in whole percent, rounded down; empty if there is none to name.
+/// The filled share of the range in whole percent, rounded down ("42 %"); empty if it is undefined.
 QString shareText(double min, double max, double value);
+
 } // namespace qprog
 
 #endif

@@ -15,15 +15,17 @@ namespace {
 
 QString unquoted(QString value)
 {
-    if (value.startsWith(QLatin1Char('"')))
+    if (value.startsWith(QLatin1Char('"'))) {
         value.remove(0, 1);
-    if (value.endsWith(QLatin1Char('"')))
+    }
+    if (value.endsWith(QLatin1Char('"'))) {
         value.chop(1);
+    }
     return value;
 }
 
-// Reads a file through a text-level probe. What can't be opened reads as an empty text, and so does anything
-// but a regular file: opening a pipe would wait for its writer.
+/// Parses a file with `probe`. A file that can't be opened reads as empty, and so does anything but a regular
+/// file, since opening a pipe would block until it has a writer.
 QString probeFile(const QString &path, QString (*probe)(QTextStream &))
 {
     QFile file(path);
@@ -41,7 +43,7 @@ QString probeFile(const QString &path, QString (*probe)(QTextStream &))
 QString hostName()
 {
     std::array<char, 4000> buffer{};
-    // The results are not checked on purpose: the buffer is read as it stands. Its last byte stays zero.
+    // Intentional: failures are ignored and the buffer is read as it is. Its last byte always stays zero.
     (void)!gethostname(buffer.data(), buffer.size() - 1);
     const QByteArray host(buffer.data());
     (void)!getdomainname(buffer.data(), buffer.size() - 1);
@@ -51,9 +53,10 @@ QString hostName()
 QString joinHostAndDomain(const QByteArray &host, const QByteArray &domain)
 {
     QString name = QString::fromUtf8(host.constData());
-    if (qstrcmp(domain.constData(), "(none)") == 0)
+    if (qstrcmp(domain.constData(), "(none)") == 0) {
         return name;
-    // An empty domain leaves a bare "." behind the name, and is meant to.
+    }
+    // Intentional: an empty domain leaves a trailing ".".
     return name + QLatin1Char('.') + QString::fromUtf8(domain.constData());
 }
 
@@ -67,8 +70,9 @@ QString osDescriptionFromText(QTextStream &text)
     QString description = QCoreApplication::translate("Updater", "Unknown OS");
     for (QString line = text.readLine(); !line.isNull(); line = text.readLine()) {
         line = line.trimmed();
-        if (line.startsWith(QLatin1String("DISTRIB_DESCRIPTION")))
+        if (line.startsWith(QLatin1String("DISTRIB_DESCRIPTION"))) {
             description = unquoted(line.section(QLatin1Char('='), 1, 1));
+        }
     }
     return description;
 }
@@ -80,10 +84,11 @@ QString cpuModel(const QString &path)
 
 QString cpuModelFromText(QTextStream &text)
 {
-    // The line is not trimmed before the test, unlike a line of lsb-release: an indented one doesn't count.
+    // Intentional: unlike the lines of lsb-release these are not trimmed, so an indented one doesn't match.
     for (QString line = text.readLine(); !line.isNull(); line = text.readLine()) {
-        if (line.startsWith(QLatin1String("model name")))
+        if (line.startsWith(QLatin1String("model name"))) {
             return line.section(QLatin1Char(':'), 1, 1).simplified();
+        }
     }
     return QStringLiteral("Unknown CPU");
 }

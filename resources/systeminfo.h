@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The static facts of the machine. No probe reports an error: what can't be read has a fallback text.
 #ifndef RESOURCES_SYSTEMINFO_H
 #define RESOURCES_SYSTEMINFO_H
 
@@ -8,33 +7,37 @@
 
 class QTextStream;
 
-// Name and domain of this host as gethostname(2) and getdomainname(2) give them, joined.
+// Static facts about the machine. No probe reports an error: each has a fallback for what can't be read.
+
+/// This host's name and domain, from gethostname(2) and getdomainname(2), as joined by joinHostAndDomain().
 QString hostName();
 
-// Host and domain, both UTF-8 up to their first zero byte, as "host.domain". Only a domain of exactly
-// "(none)" leaves the host alone.
+/// Joins host and domain, both UTF-8 up to their first NUL, to "host.domain". Only a domain of exactly
+/// "(none)" yields the bare host.
 QString joinHostAndDomain(const QByteArray &host, const QByteArray &domain);
 
-// The distribution's description in a file of the form of /etc/lsb-release; the translated "Unknown OS"
-// without such a regular file or without such a line.
+/// The distribution's description from a file in the format of /etc/lsb-release; the translated "Unknown OS"
+/// if `path` is no readable regular file or has no such line.
 QString osDescription(const QString &path = QStringLiteral("/etc/lsb-release"));
 
-// The same for text at hand. Reads to the end: the last matching line wins.
+/// Parses the text of such a file, to its end: the last matching line wins.
 QString osDescriptionFromText(QTextStream &text);
 
-// The model of the first CPU in a file of the form of /proc/cpuinfo; "Unknown CPU", never translated,
-// without such a regular file or without such a line.
+/// The first CPU's model from a file in the format of /proc/cpuinfo; "Unknown CPU", which is never
+/// translated, if `path` is no readable regular file or has no such line.
 QString cpuModel(const QString &path = QStringLiteral("/proc/cpuinfo"));
 
-// The same for text at hand. Reads no further than the first matching line.
+/// Parses the text of such a file, no further than the first matching line.
 QString cpuModelFromText(QTextStream &text);
 
-// What uname(2) says of the running kernel; both empty if it fails.
+/// The running kernel, from uname(2).
 struct KernelFacts
 {
-    QString release; // "6.1.0-13-amd64"
-    QString machine; // the architecture: "x86_64"
+    QString release; ///< for example "6.1.0-13-amd64"
+    QString machine; ///< architecture, for example "x86_64"
 };
+
+/// Both texts are empty if uname(2) fails.
 KernelFacts kernelFacts();
 
 #endif

@@ -8,28 +8,30 @@
 
 #include <algorithm>
 
-static QPen linePen(const QColor &color, Qt::PenStyle style)
+namespace {
+
+QPen linePen(const QColor &color, Qt::PenStyle style)
 {
     return {color, 1.0, style, Qt::RoundCap, Qt::RoundJoin};
 }
 
-static QFont labelFont()
+QFont labelFont()
 {
     return {QStringLiteral("Arial"), 8, QFont::Normal};
 }
 
-// Numbers don't reach below the base line of the text, so only the ascent counts.
-static bool fits(const QFontMetrics &metrics, const QStringList &texts, const QSizeF &room)
+/// Whether all texts fit into `room`. Digits have no descenders, so only the ascent counts.
+bool fits(const QFontMetrics &metrics, const QStringList &texts, const QSizeF &room)
 {
     const auto narrow = [&](const QString &text) {
-        return metrics.horizontalAdvance(text) <= room.width() - 2; // a pixel off the border and the grid
+        return metrics.horizontalAdvance(text) <= room.width() - 2; // one pixel clear of border and grid
     };
     return metrics.ascent() <= room.height() && std::all_of(texts.begin(), texts.end(), narrow);
 }
 
-// The labels of an axis have rectangles of a fixed size in pixels and a font in points. Where the display's
-// resolution makes a label larger than its rectangle, all of the axis are drawn smaller rather than one cut.
-static void setLabelFont(QPainter &painter, const QStringList &labels, const QSizeF &room)
+/// The rectangles of an axis's labels have a fixed size in pixels, but the font is in points. If the dpi
+/// makes one label too large for its rectangle, all labels of the axis get a smaller font.
+void setLabelFont(QPainter &painter, const QStringList &labels, const QSizeF &room)
 {
     const qreal smallest = 2.0;
     QFont font = labelFont();
@@ -40,7 +42,7 @@ static void setLabelFont(QPainter &painter, const QStringList &labels, const QSi
     }
 }
 
-static void drawGridLine(QPainter &painter, const QLine &line, const QRectF &labelRect, const QString &label)
+void drawGridLine(QPainter &painter, const QLine &line, const QRectF &labelRect, const QString &label)
 {
     painter.setPen(linePen(Qt::black, Qt::DotLine));
     painter.drawLine(line);
@@ -48,19 +50,19 @@ static void drawGridLine(QPainter &painter, const QLine &line, const QRectF &lab
     painter.drawText(labelRect, Qt::AlignCenter | Qt::TextDontClip, label);
 }
 
-static void drawBackground(QPainter &painter, const QSize &size)
+void drawBackground(QPainter &painter, const QSize &size)
 {
     const int right = size.width() - 1;
     const int bottom = size.height() - 1;
     painter.fillRect(QRect(QPoint(0, 0), size), Qt::white);
-    painter.setPen(QPen()); // black: the painter's own pen has the palette's colour, on a dark one white
+    painter.setPen(QPen()); // black, unlike the painter's initial pen, which has the palette's colour
     painter.drawLine(0, 0, right, 0);
     painter.drawLine(right, 0, right, bottom);
     painter.drawLine(right, bottom, 0, bottom);
     painter.drawLine(0, bottom, 0, 0);
 }
 
-static void drawLegend(QPainter &painter, int height)
+void drawLegend(QPainter &painter, int height)
 {
     const histogeometry::Legend legend = histogeometry::legend(height, histogeometry::legendSizes());
     painter.setPen(linePen(Qt::black, Qt::SolidLine));
@@ -71,10 +73,12 @@ static void drawLegend(QPainter &painter, int height)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(labelFont());
     painter.setPen(Qt::black);
-    const int left = Qt::AlignLeft | Qt::AlignAbsolute; // beside the swatch in right-to-left layouts too
+    const int left = Qt::AlignLeft | Qt::AlignAbsolute; // next to the swatch in right-to-left layouts too
     painter.drawText(legend.inText, left, TimeHisto::tr("In"));
     painter.drawText(legend.outText, left, TimeHisto::tr("Out"));
 }
+
+} // namespace
 
 TimeHisto::TimeHisto(QWidget *parent, int _interval) : QWidget(parent), interval(_interval)
 {
@@ -114,7 +118,7 @@ void TimeHisto::clearRings()
     describe();
 }
 
-// Tells assistive technology what a sighted user reads from the right end of the lines.
+/// Sets the accessible description to the newest samples, which sighted users read at the right edge.
 void TimeHisto::describe()
 {
     QString newest;
@@ -136,7 +140,7 @@ void TimeHisto::paintEvent(QPaintEvent * /*event*/)
     drawLegend(painter, height());
 }
 
-// Runs before drawSeries() finds the new maximum: the amounts are meant to lag one paint behind the lines.
+/// Intentional: runs before drawSeries() sets the new maximum, so the amounts lag one paint behind the lines.
 void TimeHisto::drawGrid(QPainter &painter) const
 {
     painter.setRenderHint(QPainter::Antialiasing);

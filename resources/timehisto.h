@@ -6,8 +6,8 @@
 
 #include <QWidget>
 
-/// The history of the Network page: incoming and outgoing bytes per update interval of the last hundred
-/// samples, as lines over a dotted grid. The plot is black on white in every palette.
+/// Traffic graph of the Network page: incoming and outgoing bytes per update interval, as lines over a dotted
+/// grid, for the last 100 samples. Black on white in every palette.
 class TimeHisto : public QWidget
 {
     Q_OBJECT
@@ -16,16 +16,16 @@ public:
     /// `_interval` is the Network page's update interval in seconds.
     TimeHisto(QWidget *parent, int _interval);
 
-    /// Empties the history, whose samples would lie on the wrong times, and takes the new interval.
-    /// It is meant to leave the repaint to the next sample.
+    /// Sets the interval and discards the samples, which the new time axis would misplace.
+    /// Intentional: schedules no repaint; the next sample does.
     void setInterval(int _interval);
 
 public Q_SLOTS:
-    /// Adds the newest sample of incoming bytes. Lines are drawn once both series have one.
+    /// Adds the newest sample of incoming bytes. Lines are drawn once both series have a sample.
     void addValueIn(uint _value);
     /// Adds the newest sample of outgoing bytes.
     void addValueOut(uint _value);
-    /// Empties the history, for instance when another interface is chosen.
+    /// Discards all samples, for instance when another interface is selected.
     void clear();
 
 protected:
@@ -41,7 +41,7 @@ private:
 
     HistoRing incoming;
     HistoRing outgoing;
-    qint32 maxValue = 0;          ///< the largest value of the last paint, in bytes
+    qint32 maxValue = 0;          ///< largest sample at the last paint, in bytes
     double horizontalScale = 1.0; ///< pixels per sample
     double verticalScale = 1.0;   ///< pixels per byte
     qint32 interval;              ///< seconds per sample

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <list>
+#include <random>
 
 /// A made-up mount of 1000 blocks of 4096 bytes, 400 of them free and 300 available.
 inline FSInfo mount(const QString &device, const QString &mountDir,
@@ -24,13 +25,40 @@ inline FSInfo mount(const QString &device, const QString &mountDir,
     return info;
 }
 
-/// One mount per letter: device "/dev/a" on "/a" for 'a'.
+/// Device, mount point and type: "/dev/a, /a, ext4".
+inline QString namesOf(const FSInfo &info)
+{
+    return QStringList{info.device, info.mountDir, info.type}.join(QStringLiteral(", "));
+}
+
+/// Blocks, free blocks, available blocks, files and block size.
+inline QVector<qint32> countsOf(const FSInfo &info)
+{
+    return {info.blocks, info.freeBlocks, info.availBlocks, info.files, info.blockSize};
+}
+
+/// Mounts by letters: "ab" is device /dev/a on /a and /dev/b on /b, "a>x" is /dev/a on /x.
 inline std::list<FSInfo> mounts(const char *letters)
 {
     std::list<FSInfo> list;
-    for (const char *letter = letters; *letter != '\0'; ++letter) {
-        const QLatin1String name(letter, 1);
-        list.push_back(mount(QLatin1String("/dev/") + name, QLatin1String("/") + name));
+    for (const char *device = letters; *device != '\0'; ++device) {
+        const bool elsewhere = device[1] == '>';
+        const char *dir = elsewhere ? device + 2 : device;
+        list.push_back(mount(QString("/dev/%1").arg(*device), QString("/%1").arg(*dir)));
+        device = dir;
+    }
+    return list;
+}
+
+/// At most `most` mounts, with the first `names` letters for devices and mount points.
+inline std::list<FSInfo> randomMounts(std::mt19937 &random, int names, int most)
+{
+    std::uniform_int_distribution<int> name('a', 'a' + names - 1);
+    std::uniform_int_distribution<int> length(0, most);
+    std::list<FSInfo> list;
+    for (int left = length(random); left > 0; --left) {
+        const char mounted[] = {static_cast<char>(name(random)), '>', static_cast<char>(name(random)), '\0'};
+        list.splice(list.end(), mounts(mounted));
     }
     return list;
 }
@@ -45,14 +73,14 @@ inline std::list<FSInfo> manyMounts(int count)
     return list;
 }
 
-/// The texts of one column from top to bottom.
-inline QStringList columnTexts(const QAbstractItemModel &model, int column = 0)
+/// The texts of the first column from top to bottom: "/a /b".
+inline QString shownDirs(const QAbstractItemModel &model)
 {
     QStringList texts;
     for (int row = 0; row < model.rowCount(); ++row) {
-        texts << model.index(row, column).data().toString();
+        texts << model.index(row, 0).data().toString();
     }
-    return texts;
+    return texts.join(QLatin1Char(' '));
 }
 
 #endif

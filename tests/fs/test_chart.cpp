@@ -20,30 +20,30 @@ const QColor paper(255, 255, 255);
 const QColor red(Qt::red);
 const QColor blue(Qt::blue);
 
-/// What a chart of that size paints on white paper. `value` is left alone if it is null.
-QImage picture(const QSize &size, const double *value)
+const QSize usual(240, 200);
+
+/// What a chart paints on white paper.
+QImage pictureOf(Chart &chart, const QSize &size = usual)
 {
-    Chart chart;
     QPalette palette;
     palette.setColor(QPalette::Window, paper);
     palette.setColor(QPalette::WindowText, Qt::black);
     chart.setPalette(palette);
     chart.resize(size);
-    if (value) {
-        chart.setValue(*value);
-    }
     QImage image(size, QImage::Format_RGB32);
     chart.render(&image);
     return image;
 }
 
-QImage picture(const QSize &size, double value)
+QImage picture(double value, const QSize &size = usual)
 {
-    return picture(size, &value);
+    Chart chart;
+    chart.setValue(value);
+    return pictureOf(chart, size);
 }
 
-/// The colour in the pie of a 240 x 200 chart, half a radius from its middle, at that many degrees
-/// counter-clockwise from three o'clock.
+/// The colour in the pie of a 240 x 200 chart, half a radius from its centre, `degrees` counter-clockwise
+/// from three o'clock.
 QColor colorAt(const QImage &image, double degrees)
 {
     const double angle = degrees * std::acos(-1.0) / 180.0;
@@ -51,7 +51,7 @@ QColor colorAt(const QImage &image, double degrees)
                             static_cast<int>(std::lround(90 - 40 * std::sin(angle))));
 }
 
-/// Whether the outline lies between the two pixels, which then share its smoothed line.
+/// Whether the antialiased outline covers the two adjacent pixels.
 bool outlineBetween(const QImage &image, const QPoint &one, const QPoint &other)
 {
     return qMax(image.pixelColor(one).green(), image.pixelColor(other).green()) < 190;
@@ -62,6 +62,13 @@ bool outlineFillsTheSquare(const QImage &image)
 {
     return outlineBetween(image, {110, 9}, {110, 10}) && outlineBetween(image, {110, 169}, {110, 170}) &&
            outlineBetween(image, {29, 90}, {30, 90}) && outlineBetween(image, {189, 90}, {190, 90});
+}
+
+/// Name and description as assistive technology reads them: "Disk usage: 25% available".
+QString accessibleTextOf(Chart &chart)
+{
+    const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&chart);
+    return interface->text(QAccessible::Name) + ": " + interface->text(QAccessible::Description);
 }
 
 class CountingChart : public Chart
@@ -84,28 +91,23 @@ class TestChart : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void thePieKeepsAMarginAndLiesLeftOfTheMiddle_data();
-    void thePieKeepsAMarginAndLiesLeftOfTheMiddle();
-    void anglesAreTruncatedEachByItself_data();
-    void anglesAreTruncatedEachByItself();
-    void theColorsAreRedForUsedAndBlueForAvailable();
-    void aNewChartShowsTheEmptyCircle();
-    void whatIsNoValueShowsTheEmptyCircle_data();
-    void whatIsNoValueShowsTheEmptyCircle();
+    void thePieKeepsAMarginAndIsLeftOfTheCentre_data();
+    void thePieKeepsAMarginAndIsLeftOfTheCentre();
+    void anglesAreTruncatedSeparately_data();
+    void anglesAreTruncatedSeparately();
+    void usedIsRedAndAvailableIsBlue();
+    void noValueShowsTheEmptyCircle_data();
+    void noValueShowsTheEmptyCircle();
     void sharesAreDrawnFromThreeOClock_data();
     void sharesAreDrawnFromThreeOClock();
     void nothingIsDrawnOutsideThePie();
-    void onlyMinusOneItselfIsNoValue();
     void smallWidgetsAreDrawnWithANegativeDiameter();
     void everySizeAndValueIsDrawn();
-    void aNewValueIsPainted();
-    void theLastValueStays();
-    void assistiveTechnologyIsToldTheShare_data();
-    void assistiveTechnologyIsToldTheShare();
+    void aNewValueIsPaintedAndStays();
     void noSignalsSlotsOrPropertiesOfItsOwn();
 };
 
-void TestChart::thePieKeepsAMarginAndLiesLeftOfTheMiddle_data()
+void TestChart::thePieKeepsAMarginAndIsLeftOfTheCentre_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("x");
@@ -120,14 +122,14 @@ void TestChart::thePieKeepsAMarginAndLiesLeftOfTheMiddle_data()
     QTest::newRow("nothing") << QSize(0, 0) << 10 << -40;
 }
 
-void TestChart::thePieKeepsAMarginAndLiesLeftOfTheMiddle()
+void TestChart::thePieKeepsAMarginAndIsLeftOfTheCentre()
 {
     QFETCH(QSize, size);
     QTEST(chartGeometry(size).x, "x");
     QTEST(chartGeometry(size).diameter, "diameter");
 }
 
-void TestChart::anglesAreTruncatedEachByItself_data()
+void TestChart::anglesAreTruncatedSeparately_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("usedSpan");
@@ -144,7 +146,7 @@ void TestChart::anglesAreTruncatedEachByItself_data()
     QTest::newRow("the largest number") << largest << lowestInt << highestInt;
 }
 
-void TestChart::anglesAreTruncatedEachByItself()
+void TestChart::anglesAreTruncatedSeparately()
 {
     QFETCH(double, value);
     const ChartAngles angles = chartAngles(value);
@@ -153,23 +155,13 @@ void TestChart::anglesAreTruncatedEachByItself()
     QCOMPARE(angles.availStart, angles.usedSpan);
 }
 
-void TestChart::theColorsAreRedForUsedAndBlueForAvailable()
+void TestChart::usedIsRedAndAvailableIsBlue()
 {
     QCOMPARE(Chart::usedColor(), red);
     QCOMPARE(Chart::availColor(), blue);
 }
 
-void TestChart::aNewChartShowsTheEmptyCircle()
-{
-    const QImage image = picture(QSize(240, 200), nullptr);
-    for (int degrees = 0; degrees < 360; degrees += 45) {
-        QCOMPARE(colorAt(image, degrees), paper);
-    }
-    QVERIFY(outlineFillsTheSquare(image));
-    QCOMPARE(image.pixelColor(110, 20), paper);
-}
-
-void TestChart::whatIsNoValueShowsTheEmptyCircle_data()
+void TestChart::noValueShowsTheEmptyCircle_data()
 {
     QTest::addColumn<double>("value");
     QTest::newRow("-1") << -1.0;
@@ -179,36 +171,53 @@ void TestChart::whatIsNoValueShowsTheEmptyCircle_data()
     QTest::newRow("negative infinite") << -infinite;
 }
 
-void TestChart::whatIsNoValueShowsTheEmptyCircle()
+void TestChart::noValueShowsTheEmptyCircle()
 {
     QFETCH(double, value);
-    QCOMPARE(picture(QSize(240, 200), value), picture(QSize(240, 200), nullptr));
+    Chart chart;
+    const QImage image = pictureOf(chart);
+    for (int degrees = 0; degrees < 360; degrees += 45) {
+        QCOMPARE(colorAt(image, degrees), paper);
+    }
+    QVERIFY(outlineFillsTheSquare(image));
+    QCOMPARE(image.pixelColor(110, 20), paper);
+    chart.setValue(value);
+    QCOMPARE(pictureOf(chart), image);
+    QCOMPARE(accessibleTextOf(chart), QString("Disk usage: No file system selected"));
 }
 
 void TestChart::sharesAreDrawnFromThreeOClock_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("usedUpTo"); // degrees
-    QTest::newRow("full disk") << 0.0 << 360;
-    QTest::newRow("a quarter available") << 25.0 << 270;
-    QTest::newRow("half available") << 50.0 << 180;
-    QTest::newRow("all available") << 100.0 << 0;
+    QTest::addColumn<QString>("accessibleText");
+    QTest::newRow("full disk") << 0.0 << 360 << "Disk usage: 0% available";
+    QTest::newRow("a quarter available") << 25.0 << 270 << "Disk usage: 25% available";
+    QTest::newRow("half available") << 50.0 << 180 << "Disk usage: 50% available";
+    QTest::newRow("rounded") << 66.6 << 120 << "Disk usage: 67% available";
+    QTest::newRow("all available") << 100.0 << 0 << "Disk usage: 100% available";
+    QTest::newRow("less than none") << -1.5 << 360 << "Disk usage: -2% available";
+    QTest::newRow("nearly no value") << std::nextafter(-1.0, 0.0) << 360 << "Disk usage: -1% available";
 }
 
 void TestChart::sharesAreDrawnFromThreeOClock()
 {
     QFETCH(double, value);
     QFETCH(int, usedUpTo);
-    const QImage image = picture(QSize(240, 200), value);
+    Chart chart;
+    QCOMPARE(accessibleTextOf(chart), QString("Disk usage: No file system selected"));
+    chart.setValue(value);
+    const QImage image = pictureOf(chart);
     for (int degrees = 15; degrees < 360; degrees += 20) {
         QCOMPARE(colorAt(image, degrees), degrees < usedUpTo ? red : blue);
     }
     QVERIFY(outlineFillsTheSquare(image));
+    QTEST(accessibleTextOf(chart), "accessibleText");
 }
 
 void TestChart::nothingIsDrawnOutsideThePie()
 {
-    const QImage image = picture(QSize(240, 200), 25.0);
+    const QImage image = picture(25.0);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             if (std::hypot(x + 0.5 - 110, y + 0.5 - 90) > 82) {
@@ -218,21 +227,14 @@ void TestChart::nothingIsDrawnOutsideThePie()
     }
 }
 
-void TestChart::onlyMinusOneItselfIsNoValue()
-{
-    QCOMPARE(colorAt(picture(QSize(240, 200), -1.0), 45), paper);
-    QCOMPARE(colorAt(picture(QSize(240, 200), -1.5), 45), red);
-    QCOMPARE(colorAt(picture(QSize(240, 200), std::nextafter(-1.0, 0.0)), 45), red);
-}
-
 void TestChart::smallWidgetsAreDrawnWithANegativeDiameter()
 {
-    // The square (10, 10, -20, -20) is that from (-10, -10) to (10, 10).
-    const QImage full = picture(QSize(20, 20), 0.0);
+    // The square (10, 10, -20, -20) extends from (-10, -10) to (10, 10).
+    const QImage full = picture(0.0, QSize(20, 20));
     QCOMPARE(full.pixelColor(3, 3), red);
     QCOMPARE(full.pixelColor(15, 15), paper);
-    QCOMPARE(picture(QSize(20, 20), 100.0).pixelColor(3, 3), blue);
-    QCOMPARE(picture(QSize(20, 20), notANumber).pixelColor(3, 3), paper);
+    QCOMPARE(picture(100.0, QSize(20, 20)).pixelColor(3, 3), blue);
+    QCOMPARE(picture(notANumber, QSize(20, 20)).pixelColor(3, 3), paper);
 }
 
 void TestChart::everySizeAndValueIsDrawn()
@@ -240,56 +242,26 @@ void TestChart::everySizeAndValueIsDrawn()
     for (const QSize size : {QSize(1, 1), QSize(39, 39), QSize(40, 40), QSize(41, 41), QSize(1, 500)}) {
         for (const double value :
              {-1.0, 0.0, 25.0, 100.0, 150.0, -50.0, 1e300, -1e300, largest, notANumber}) {
-            QCOMPARE(picture(size, value).size(), size);
+            QCOMPARE(picture(value, size).size(), size);
         }
     }
 }
 
-void TestChart::aNewValueIsPainted()
+void TestChart::aNewValueIsPaintedAndStays()
 {
     CountingChart chart;
-    chart.resize(240, 200);
+    chart.resize(usual);
     chart.show();
     QVERIFY(QTest::qWaitForWindowExposed(&chart));
     QTRY_VERIFY(chart.paints > 0);
     const int before = chart.paints;
-    chart.setValue(25.0);
-    QTRY_VERIFY(chart.paints > before);
-}
-
-void TestChart::theLastValueStays()
-{
-    Chart chart;
-    chart.resize(240, 200);
     chart.setValue(0.0);
+    QTRY_VERIFY(chart.paints > before);
     for (int repaint = 0; repaint < 3; ++repaint) {
         QCOMPARE(colorAt(chart.grab().toImage(), 45), red);
     }
     chart.setValue(100.0);
     QCOMPARE(colorAt(chart.grab().toImage(), 45), blue);
-}
-
-void TestChart::assistiveTechnologyIsToldTheShare_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("description");
-    QTest::newRow("a quarter") << 25.0 << "25% available";
-    QTest::newRow("rounded") << 66.6 << "67% available";
-    QTest::newRow("full disk") << 0.0 << "0% available";
-    QTest::newRow("no value") << -1.0 << "No file system selected";
-    QTest::newRow("not a number") << notANumber << "No file system selected";
-}
-
-void TestChart::assistiveTechnologyIsToldTheShare()
-{
-    QFETCH(double, value);
-    Chart chart;
-    QCOMPARE(chart.accessibleDescription(), QStringLiteral("No file system selected"));
-    chart.setValue(value);
-    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&chart);
-    QVERIFY(interface);
-    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Disk usage"));
-    QTEST(interface->text(QAccessible::Description), "description");
 }
 
 void TestChart::noSignalsSlotsOrPropertiesOfItsOwn()

@@ -5,95 +5,63 @@
 
 #include <QtTest>
 
-#include <cmath>
 #include <limits>
+
+namespace {
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr qint32 lowest = std::numeric_limits<qint32>::min();
+constexpr qint32 highest = std::numeric_limits<qint32>::max();
+
+FSInfo blocks(qint32 total, qint32 free, qint32 avail, qint32 blockSize)
+{
+    return {{}, {}, {}, total, free, avail, 0, blockSize};
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(FSInfo)
 
 class TestFsDetails : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void namesComeFromTheRecord();
-    void theShareIsThatOfTheAvailableBlocks();
-    void theReserveCountsAsUsed();
-    void anEmptyRecordShowsNoSizesAndNoShare();
-    void availableBlocksWithoutAnyBlocksAreNoShare();
-    void wrappedCountsStaySigned();
-    void theDifferenceOfCountsWrapsAt32Bits();
+    void detailsComeFromTheRecord_data();
+    void detailsComeFromTheRecord();
 };
 
-void TestFsDetails::namesComeFromTheRecord()
+void TestFsDetails::detailsComeFromTheRecord_data()
 {
-    const FsDetails details = fsDetails(mount(QStringLiteral("/dev/sda1"), QStringLiteral("/home")));
-    QCOMPARE(details.device, QStringLiteral("/dev/sda1"));
-    QCOMPARE(details.type, QStringLiteral("ext4"));
+    QTest::addColumn<FSInfo>("info");
+    QTest::addColumn<double>("percentAvailable");
+    QTest::addColumn<QString>("texts"); // device, type; total, used and available size
+    const auto row = [](const char *name, const FSInfo &info, double percentAvailable, const char *texts) {
+        QTest::newRow(name) << info << percentAvailable << texts;
+    };
+    row("names", mount("/dev/sda1", "/home"), 30.0, "/dev/sda1, ext4; 3.91 MB, 2.73 MB, 1.17 MB");
+    row("the reserve counts as used", blocks(1024, 1000, 256, 1024), 25.0,
+        ", ; 1.00 MB, 768.00 KB, 256.00 KB");
+    row("a fraction of a percent", blocks(3, 0, 1, 1), 100.0 / 3.0, ", ; 3.00 B, 2.00 B, 1.00 B");
+    row("all available", blocks(3, 0, 3, 1), 100.0, ", ; 3.00 B, 0.00 B, 3.00 B");
+    row("none available", blocks(3, 0, 0, 1), 0.0, ", ; 3.00 B, 3.00 B, 0.00 B");
+    row("an empty record", FSInfo(), notANumber, ", ; 0.00 B, 0.00 B, 0.00 B");
+    row("available blocks without any blocks", blocks(0, 0, 5, 0), notANumber, ", ; 0.00 B, 0.00 B, 0.00 B");
+    row("wrapped counts stay signed", blocks(-2, 0, 1, 4096), -50.0, ", ; -8192.00 B, -12288.00 B, 4.00 KB");
+    row("the difference wraps to positive", blocks(lowest, 0, 1, 1), 100.0 / lowest,
+        ", ; -2147483648.00 B, 2.00 GB, 1.00 B");
+    row("the difference wraps to negative", blocks(highest, 0, -1, 1), -100.0 / highest,
+        ", ; 2.00 GB, -2147483648.00 B, -1.00 B");
 }
 
-void TestFsDetails::theShareIsThatOfTheAvailableBlocks()
+void TestFsDetails::detailsComeFromTheRecord()
 {
-    FSInfo info;
-    info.blocks = 3;
-    info.availBlocks = 1;
-    QCOMPARE(fsDetails(info).percentAvailable, 100.0 / 3.0);
-    info.availBlocks = 3;
-    QCOMPARE(fsDetails(info).percentAvailable, 100.0);
-    info.availBlocks = 0;
-    QCOMPARE(fsDetails(info).percentAvailable, 0.0);
-}
-
-void TestFsDetails::theReserveCountsAsUsed()
-{
-    FSInfo info;
-    info.blocks = 1024;
-    info.freeBlocks = 1000;
-    info.availBlocks = 256;
-    info.blockSize = 1024;
+    QFETCH(FSInfo, info);
     const FsDetails details = fsDetails(info);
-    QCOMPARE(details.total, QStringLiteral("1.00 MB"));
-    QCOMPARE(details.used, QStringLiteral("768.00 KB"));
-    QCOMPARE(details.avail, QStringLiteral("256.00 KB"));
-}
-
-void TestFsDetails::anEmptyRecordShowsNoSizesAndNoShare()
-{
-    const FsDetails details = fsDetails(FSInfo());
-    QVERIFY(std::isnan(details.percentAvailable));
-    QVERIFY(details.device.isEmpty() && details.type.isEmpty());
-    QCOMPARE(details.total, QStringLiteral("0.00 B"));
-    QCOMPARE(details.used, QStringLiteral("0.00 B"));
-    QCOMPARE(details.avail, QStringLiteral("0.00 B"));
-}
-
-void TestFsDetails::availableBlocksWithoutAnyBlocksAreNoShare()
-{
-    FSInfo info;
-    info.availBlocks = 5;
-    QVERIFY(!std::isfinite(fsDetails(info).percentAvailable));
-}
-
-void TestFsDetails::wrappedCountsStaySigned()
-{
-    FSInfo info;
-    info.blocks = -2;
-    info.availBlocks = 1;
-    info.blockSize = 4096;
-    const FsDetails details = fsDetails(info);
-    QCOMPARE(details.percentAvailable, -50.0);
-    QCOMPARE(details.total, QStringLiteral("-8192.00 B"));
-    QCOMPARE(details.used, QStringLiteral("-12288.00 B"));
-    QCOMPARE(details.avail, QStringLiteral("4.00 KB"));
-}
-
-void TestFsDetails::theDifferenceOfCountsWrapsAt32Bits()
-{
-    FSInfo info;
-    info.blocks = std::numeric_limits<qint32>::min();
-    info.availBlocks = 1;
-    info.blockSize = 1;
-    QCOMPARE(fsDetails(info).used, QStringLiteral("2.00 GB"));
-    info.blocks = std::numeric_limits<qint32>::max();
-    info.availBlocks = -1;
-    QCOMPARE(fsDetails(info).used, QStringLiteral("-2147483648.00 B"));
+    const QString names = QStringList{details.device, details.type}.join(", ");
+    const QString sizes = QStringList{details.total, details.used, details.avail}.join(", ");
+    QTEST(details.percentAvailable, "percentAvailable");
+    QTEST(names + "; " + sizes, "texts");
 }
 
 QTEST_APPLESS_MAIN(TestFsDetails)

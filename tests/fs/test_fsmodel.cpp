@@ -1,30 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "mounts.h"
 
-#include <QCoreApplication>
-#include <QTranslator>
+#include "../support/brackettranslator.h"
+
 #include <QtTest>
 
 #include <limits>
 
 namespace {
 
-/// Lets a test make indexes that no view gets.
+/// Makes indexes that no view gets.
 class OpenModel : public FSModel
 {
 public:
     using FSModel::createIndex;
-};
-
-class FSModelTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        return qstrcmp(context, "FSModel") == 0 ? QLatin1Char('<') + QLatin1String(source) + QLatin1Char('>')
-                                                : QString();
-    }
 };
 
 const qint32 lowest = std::numeric_limits<qint32>::min();
@@ -37,54 +26,33 @@ class TestFSModel : public QObject
 
 private Q_SLOTS:
     void anItemHasSevenCells();
-    void anItemThatIsSetAnewKeepsNothing();
     void wrappedCountsMakeHugeSizeTexts_data();
     void wrappedCountsMakeHugeSizeTexts();
     void aNewModelIsEmpty();
-    void rowsHaveNoRowsBelowThem();
-    void twoColumnsAreShown();
-    void displayRoleGivesTheCellOfAnyColumn();
-    void userRoleGivesTheMountPointInEveryColumn();
-    void otherRolesGiveNothing();
-    void indexesThatPointNowhereGiveNothing();
+    void rowsHaveTwoColumnsAndNoChildren();
+    void dataGivesCellTextsAndTheMountPoint_data();
+    void dataGivesCellTextsAndTheMountPoint();
     void headersNameAllSevenColumns();
-    void headersBesideTheSevenGiveNothing();
-    void headersAreTranslatedInTheContextOfTheModel();
     void itemsAreFoundByMountPoint();
     void theFirstOfTwoRowsOnOneMountPointIsFound();
-    void spaceIsSummedOverDeviceFilesOnly();
-    void spaceOfWrappedCountsIsSignExtended();
-    void sumsThatLeave64BitsWrap();
+    void spaceIsSummedOverDevicesOnly();
+    void spaceOfWrappedCountsIsSignExtendedAndWraps();
     void firstIndexNamesTheFirstRow();
     void noSignalsSlotsOrPropertiesOfItsOwn();
 };
 
 void TestFSModel::anItemHasSevenCells()
 {
-    const FSItem item(mount(QStringLiteral("/dev/sda1"), QStringLiteral("/home")));
-    const QList<QVariant> expected = {
-        QStringLiteral("/home"),
-        QStringLiteral("ext4"),
-        QStringLiteral("/dev/sda1"),
-        QStringLiteral("3.91 MB"),
-        QStringLiteral("1.56 MB"),
-        QStringLiteral("1.17 MB"),
-        50,
-    };
-    QCOMPARE(item.cells, expected);
+    FSItem item(mount("/dev/sda1", "/home"));
+    QCOMPARE(item.cells,
+             (QList<QVariant>{"/home", "ext4", "/dev/sda1", "3.91 MB", "1.56 MB", "1.17 MB", 50}));
     QCOMPARE(item.cells.at(6).type(), QVariant::Int);
-    QCOMPARE(item.item.device, QStringLiteral("/dev/sda1"));
+    QCOMPARE(item.item.device, QString("/dev/sda1"));
     QCOMPARE(item.item.availBlocks, 300);
-}
 
-void TestFSModel::anItemThatIsSetAnewKeepsNothing()
-{
-    FSItem item(mount(QStringLiteral("/dev/sda1"), QStringLiteral("/home")));
-    item.setItem(mount(QStringLiteral("/dev/sdb1"), QStringLiteral("/srv")));
-    QCOMPARE(item.cells.size(), 7);
-    QCOMPARE(item.cells.at(0).toString(), QStringLiteral("/srv"));
-    QCOMPARE(item.cells.at(2).toString(), QStringLiteral("/dev/sdb1"));
-    QCOMPARE(item.item.mountDir, QStringLiteral("/srv"));
+    item.setItem(mount("/dev/sdb1", "/srv", "xfs"));
+    QCOMPARE(item.cells, (QList<QVariant>{"/srv", "xfs", "/dev/sdb1", "3.91 MB", "1.56 MB", "1.17 MB", 50}));
+    QCOMPARE(item.item.mountDir, QString("/srv"));
 }
 
 void TestFSModel::wrappedCountsMakeHugeSizeTexts_data()
@@ -123,80 +91,66 @@ void TestFSModel::aNewModelIsEmpty()
     QVERIFY(!model.firstIndex().isValid());
 }
 
-void TestFSModel::rowsHaveNoRowsBelowThem()
+void TestFSModel::rowsHaveTwoColumnsAndNoChildren()
 {
     FSModel model;
     model.update(mounts("ab"));
     QCOMPARE(model.rowCount(), 2);
     QCOMPARE(model.rowCount(model.index(0, 0)), 0);
-}
-
-void TestFSModel::twoColumnsAreShown()
-{
-    FSModel model;
-    model.update(mounts("a"));
     QCOMPARE(model.columnCount(), 2);
     QCOMPARE(model.columnCount(model.index(0, 0)), 2);
     QVERIFY(!model.index(0, 2).isValid());
 }
 
-void TestFSModel::displayRoleGivesTheCellOfAnyColumn()
+void TestFSModel::dataGivesCellTextsAndTheMountPoint_data()
 {
-    OpenModel model;
-    model.update(mounts("a"));
-    const FSItem item(mounts("a").front());
-    for (int column = 0; column < 7; ++column) {
-        QCOMPARE(model.data(model.createIndex(0, column), Qt::DisplayRole), item.cells.at(column));
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QVariant>("data");
+    const QVariantList cells = {"/b", "ext4", "/dev/b", "3.91 MB", "1.56 MB", "1.17 MB", 50, QVariant()};
+    for (int column = 0; column < 8; ++column) {
+        QTest::addRow("text of column %d", column) << 1 << column << int{Qt::DisplayRole} << cells.at(column);
+        QTest::addRow("mount point of column %d", column)
+            << 1 << column << int{Qt::UserRole} << QVariant("/b");
     }
-    QCOMPARE(model.data(model.createIndex(0, 5), Qt::DisplayRole).toString(), QStringLiteral("1.17 MB"));
-    QVERIFY(!model.data(model.createIndex(0, 7), Qt::DisplayRole).isValid());
+    for (int role : {int{Qt::EditRole}, int{Qt::ToolTipRole}, int{Qt::FontRole}, Qt::UserRole + 1, -1}) {
+        QTest::addRow("role %d", role) << 1 << 0 << role << QVariant();
+    }
+    QTest::newRow("icon of column 1") << 1 << 1 << int{Qt::DecorationRole} << QVariant();
+    for (int role : {int{Qt::DisplayRole}, int{Qt::DecorationRole}, int{Qt::UserRole}}) {
+        QTest::addRow("invalid index, role %d", role) << -1 << -1 << role << QVariant();
+        QTest::addRow("negative row, role %d", role) << -1 << 0 << role << QVariant();
+        QTest::addRow("negative column, role %d", role) << 0 << -1 << role << QVariant();
+        QTest::addRow("row out of range, role %d", role) << 2 << 0 << role << QVariant();
+    }
 }
 
-void TestFSModel::userRoleGivesTheMountPointInEveryColumn()
+void TestFSModel::dataGivesCellTextsAndTheMountPoint()
 {
+    QFETCH(int, row);
+    QFETCH(int, column);
+    QFETCH(int, role);
     OpenModel model;
     model.update(mounts("ab"));
-    for (int column = 0; column < 8; ++column) {
-        QCOMPARE(model.data(model.createIndex(1, column), Qt::UserRole), QVariant(QStringLiteral("/b")));
-    }
-}
-
-void TestFSModel::otherRolesGiveNothing()
-{
-    FSModel model;
-    model.update(mounts("a"));
-    for (const int role :
-         {int{Qt::EditRole}, int{Qt::ToolTipRole}, int{Qt::FontRole}, Qt::UserRole + 1, -1}) {
-        QVERIFY(!model.data(model.index(0, 0), role).isValid());
-    }
-    QVERIFY(!model.data(model.index(0, 1), Qt::DecorationRole).isValid());
-}
-
-void TestFSModel::indexesThatPointNowhereGiveNothing()
-{
-    OpenModel model;
-    model.update(mounts("a"));
-    for (const int role : {int{Qt::DisplayRole}, int{Qt::DecorationRole}, int{Qt::UserRole}}) {
-        QVERIFY(!model.data(QModelIndex(), role).isValid());
-        QVERIFY(!model.data(model.createIndex(-1, 0), role).isValid());
-        QVERIFY(!model.data(model.createIndex(0, -1), role).isValid());
-        QVERIFY(!model.data(model.createIndex(1, 0), role).isValid());
-    }
+    QTEST(model.data(model.createIndex(row, column), role), "data");
 }
 
 void TestFSModel::headersNameAllSevenColumns()
 {
     const FSModel model;
-    const char *const titles[] = {"Mountpoint",      "Type", "Device", "Total space", "Free space",
-                                  "Available space", "Files"};
-    for (int section = 0; section < 7; ++section) {
-        QCOMPARE(model.headerData(section, Qt::Horizontal).toString(), QLatin1String(titles[section]));
-    }
-}
+    const auto titles = [&model] {
+        QStringList list;
+        for (int section = 0; section < 7; ++section) {
+            list << model.headerData(section, Qt::Horizontal).toString();
+        }
+        return list.join(", ");
+    };
+    QCOMPARE(titles(), QString("Mountpoint, Type, Device, Total space, Free space, Available space, Files"));
+    const BracketTranslator translator("FSModel");
+    QCOMPARE(titles(), QString("<Mountpoint>, <Type>, <Device>, <Total space>, <Free space>, "
+                               "<Available space>, <Files>"));
 
-void TestFSModel::headersBesideTheSevenGiveNothing()
-{
-    const FSModel model;
     for (const int section : {-1, 7, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
         QVERIFY(!model.headerData(section, Qt::Horizontal).isValid());
     }
@@ -207,14 +161,6 @@ void TestFSModel::headersBesideTheSevenGiveNothing()
     }
 }
 
-void TestFSModel::headersAreTranslatedInTheContextOfTheModel()
-{
-    FSModelTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    QCOMPARE(FSModel().headerData(5, Qt::Horizontal).toString(), QStringLiteral("<Available space>"));
-    QVERIFY(QCoreApplication::removeTranslator(&translator));
-}
-
 void TestFSModel::itemsAreFoundByMountPoint()
 {
     FSModel model;
@@ -222,52 +168,41 @@ void TestFSModel::itemsAreFoundByMountPoint()
     QCOMPARE(model.itemByMountDir(QStringLiteral("/b")).device, QStringLiteral("/dev/b"));
     for (const char *unknown : {"/B", "/", "", "/dev/b"}) {
         const FSInfo none = model.itemByMountDir(QLatin1String(unknown));
-        QVERIFY(none.device.isEmpty() && none.mountDir.isEmpty() && none.type.isEmpty());
-        QCOMPARE(none.blocks, 0);
-        QCOMPARE(none.blockSize, 0);
+        QCOMPARE(namesOf(none), QString(", , "));
+        QCOMPARE(countsOf(none), QVector<qint32>(5, 0));
     }
 }
 
 void TestFSModel::theFirstOfTwoRowsOnOneMountPointIsFound()
 {
     FSModel model;
-    model.update({mount(QStringLiteral("/dev/under"), QStringLiteral("/mnt")),
-                  mount(QStringLiteral("/dev/over"), QStringLiteral("/mnt"))});
+    model.update(mounts("u>mo>m"));
     QCOMPARE(model.rowCount(), 2);
-    QCOMPARE(model.itemByMountDir(QStringLiteral("/mnt")).device, QStringLiteral("/dev/under"));
+    QCOMPARE(model.itemByMountDir("/m").device, QString("/dev/u"));
 }
 
-void TestFSModel::spaceIsSummedOverDeviceFilesOnly()
+void TestFSModel::spaceIsSummedOverDevicesOnly()
 {
     FSModel model;
-    model.update({mount(QStringLiteral("/dev/sda1"), QStringLiteral("/")),
-                  mount(QStringLiteral("/devices/x"), QStringLiteral("/x")),
-                  mount(QStringLiteral("/DEV/sda2"), QStringLiteral("/y")),
-                  mount(QStringLiteral("dev"), QStringLiteral("/z")),
-                  mount(QStringLiteral("/de"), QStringLiteral("/v")),
-                  mount(QStringLiteral("server:/dev"), QStringLiteral("/w"))});
+    model.update({mount("/dev/sda1", "/"), mount("/devices/x", "/x"), mount("/DEV/sda2", "/y"),
+                  mount("dev", "/z"), mount("/de", "/v"), mount("server:/dev", "/w")});
     QCOMPARE(model.availableDevSpace(), qint64{2 * 300 * 4096});
     QCOMPARE(model.totalDevSpace(), qint64{2 * 1000 * 4096});
 }
 
-void TestFSModel::spaceOfWrappedCountsIsSignExtended()
+void TestFSModel::spaceOfWrappedCountsIsSignExtendedAndWraps()
 {
-    FSInfo info = mount(QStringLiteral("/dev/sda1"), QStringLiteral("/"));
-    info.blocks = lowest;
-    info.availBlocks = -1;
     FSModel model;
-    model.update({info});
+    std::list<FSInfo> list = mounts("abc");
+    list.front().blocks = lowest;
+    list.front().availBlocks = -1;
+    model.update({list.front()});
     QCOMPARE(model.totalDevSpace(), qint64{lowest} * 4096);
     QCOMPARE(model.availableDevSpace(), qint64{-4096});
-}
 
-void TestFSModel::sumsThatLeave64BitsWrap()
-{
-    std::list<FSInfo> list = mounts("abc");
     for (FSInfo &info : list) {
-        info.blocks = info.blockSize = lowest; // 2^62 bytes each
+        info.blocks = info.blockSize = lowest; // 2^62 bytes each, which overflows 64 bits
     }
-    FSModel model;
     model.update(list);
     QCOMPARE(model.totalDevSpace(), std::numeric_limits<qint64>::min() + (qint64{1} << 62));
 }
@@ -279,7 +214,7 @@ void TestFSModel::firstIndexNamesTheFirstRow()
     const QModelIndex first = model.firstIndex();
     QCOMPARE(first.row(), 0);
     QCOMPARE(first.column(), 0);
-    QVERIFY(first.internalPointer() != nullptr);
+    QVERIFY(first.internalPointer());
     QVERIFY(first.model() == &model);
     QCOMPARE(first.data().toString(), QStringLiteral("/a"));
 }

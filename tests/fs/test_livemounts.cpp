@@ -13,7 +13,7 @@ unsigned long kernelWhileUsageIsRead = 1;
 
 } // namespace
 
-/// In place of libgtop's, which is called in turn.
+/// Replaces libgtop's function and forwards to it.
 extern "C" void glibtop_get_fsusage(glibtop_fsusage *usage, const char *mountDir)
 {
     kernelWhileUsageIsRead = glibtop_global_server->os_version_code;
@@ -27,11 +27,11 @@ class TestLiveMounts : public QObject
 private Q_SLOTS:
     void initTestCase() { glibtop_init(); }
     void cleanupTestCase() { glibtop_close(); }
-    void everyMountOfThisMachineHasAPlaceAndBlocks();
-    void libgtopIsKeptFromReadingAllMountsForEach();
+    void everyMountOfThisMachineHasAMountPointAndBlocks();
+    void libgtopDoesNotRescanTheMountTablePerMount();
 };
 
-void TestLiveMounts::everyMountOfThisMachineHasAPlaceAndBlocks()
+void TestLiveMounts::everyMountOfThisMachineHasAMountPointAndBlocks()
 {
     const std::list<FSInfo> mounts = collectMountList();
     if (mounts.empty()) {
@@ -45,7 +45,7 @@ void TestLiveMounts::everyMountOfThisMachineHasAPlaceAndBlocks()
     }
 }
 
-void TestLiveMounts::libgtopIsKeptFromReadingAllMountsForEach()
+void TestLiveMounts::libgtopDoesNotRescanTheMountTablePerMount()
 {
     const unsigned long kernel = glibtop_global_server->os_version_code;
     QVERIFY(kernel != 0);

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fs/mountlist.h"
 
+#include "mounts.h"
+
 #include <QtTest>
 
 #include <limits>
 
 namespace {
 
+constexpr qint32 lowest = std::numeric_limits<qint32>::min();
 constexpr quint64 twoTo31 = Q_UINT64_C(1) << 31;
 constexpr quint64 twoTo32 = Q_UINT64_C(1) << 32;
 
@@ -23,53 +26,50 @@ MountEntry entry(const std::string &type, quint64 blocks)
 
 } // namespace
 
+Q_DECLARE_METATYPE(MountEntry)
+
 class TestMountList : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void anEmptyRecordHasEmptyNamesAndNoCounts();
-    void aRecordTakesAllFieldsOfTheEntry();
-    void countsKeepTheirLow32BitsReadAsSigned();
+    void entriesAreConverted_data();
+    void entriesAreConverted();
+    void anEmptyRecordHasNoNamesAndZeroCounts();
     void theStoredBlockCountAndTheExactTypeDecide_data();
     void theStoredBlockCountAndTheExactTypeDecide();
-    void pseudoAndMemoryFileSystemsAloneLeaveNothing();
-    void noEntriesGiveNoRecords();
+    void nothingIsLeftOfPseudoAndMemoryFileSystemsAlone();
     void theSameDeviceTwiceGivesTwoRecordsInOrder();
-    void bytesThatAreNotUtf8BecomeReplacementCharacters();
     void tenThousandEntriesKeepTheirOrder();
 };
 
-void TestMountList::anEmptyRecordHasEmptyNamesAndNoCounts()
+void TestMountList::entriesAreConverted_data()
 {
-    const FSInfo info;
-    QVERIFY(info.device.isEmpty() && info.mountDir.isEmpty() && info.type.isEmpty());
-    QVERIFY(info.blocks == 0 && info.freeBlocks == 0 && info.availBlocks == 0);
-    QVERIFY(info.files == 0 && info.blockSize == 0);
+    QTest::addColumn<MountEntry>("entry");
+    QTest::addColumn<QString>("names");
+    QTest::addColumn<QVector<qint32>>("counts");
+    const auto row = [](const char *title, const MountEntry &entry, const QString &names,
+                        const QVector<qint32> &counts) { QTest::newRow(title) << entry << names << counts; };
+    row("all fields", {"/dev/sdb2", "/srv/d\xc3\xa4ta", "xfs", 11, 12, 13, 14, 15},
+        QStringLiteral("/dev/sdb2, /srv/d\u00e4ta, xfs"), {11, 12, 13, 14, 15});
+    row("the low 32 bits of the counts are read as signed",
+        {"", "", "", twoTo31, twoTo32 + 7, std::numeric_limits<quint64>::max(), 3 * twoTo32, 0x80000000U},
+        ", , ", {lowest, 7, -1, 0, lowest});
+    row("invalid UTF-8 is replaced", {"/dev/\xff", "/a\xc3", "\xfe", 1, 0, 0, 0, 1},
+        QStringLiteral("/dev/\ufffd, /a\ufffd, \ufffd"), {1, 0, 0, 0, 1});
 }
 
-void TestMountList::aRecordTakesAllFieldsOfTheEntry()
+void TestMountList::entriesAreConverted()
 {
-    const FSInfo info = toFSInfo({"/dev/sdb2", "/srv/d\xc3\xa4ta", "xfs", 11, 12, 13, 14, 15});
-    QCOMPARE(info.device, QStringLiteral("/dev/sdb2"));
-    QCOMPARE(info.mountDir, QStringLiteral("/srv/d\u00e4ta"));
-    QCOMPARE(info.type, QStringLiteral("xfs"));
-    QCOMPARE(info.blocks, 11);
-    QCOMPARE(info.freeBlocks, 12);
-    QCOMPARE(info.availBlocks, 13);
-    QCOMPARE(info.files, 14);
-    QCOMPARE(info.blockSize, 15);
+    QFETCH(MountEntry, entry);
+    QTEST(namesOf(toFSInfo(entry)), "names");
+    QTEST(countsOf(toFSInfo(entry)), "counts");
 }
 
-void TestMountList::countsKeepTheirLow32BitsReadAsSigned()
+void TestMountList::anEmptyRecordHasNoNamesAndZeroCounts()
 {
-    const quint64 highest = std::numeric_limits<quint64>::max();
-    const FSInfo info = toFSInfo({"", "", "", twoTo31, twoTo32 + 7, highest, 3 * twoTo32, 0x80000000U});
-    QCOMPARE(info.blocks, std::numeric_limits<qint32>::min());
-    QCOMPARE(info.freeBlocks, 7);
-    QCOMPARE(info.availBlocks, -1);
-    QCOMPARE(info.files, 0);
-    QCOMPARE(info.blockSize, std::numeric_limits<qint32>::min());
+    QCOMPARE(namesOf(FSInfo()), QString(", , "));
+    QCOMPARE(countsOf(FSInfo()), QVector<qint32>(5, 0));
 }
 
 void TestMountList::theStoredBlockCountAndTheExactTypeDecide_data()
@@ -83,10 +83,10 @@ void TestMountList::theStoredBlockCountAndTheExactTypeDecide_data()
     row("an ordinary disk", "ext4", 1000, true);
     row("one block", "ext4", 1, true);
     row("no blocks", "proc", 0, false);
-    row("memory by name", "tmpfs", 1000, false);
-    row("memory in capitals", "TMPFS", 1000, true);
+    row("memory file system by name", "tmpfs", 1000, false);
+    row("in capitals", "TMPFS", 1000, true);
     row("a longer name", "tmpfs2", 1000, true);
-    row("a name that ends so", "devtmpfs", 1000, true);
+    row("a name with that ending", "devtmpfs", 1000, true);
     row("no name", "", 1000, true);
     row("2^31 blocks", "xfs", twoTo31, true);
     row("2^32 - 1 blocks", "xfs", twoTo32 - 1, true);
@@ -103,13 +103,9 @@ void TestMountList::theStoredBlockCountAndTheExactTypeDecide()
     QCOMPARE(reduceMounts({entry(type.toStdString(), blocks)}).size(), std::size_t{kept ? 1U : 0U});
 }
 
-void TestMountList::pseudoAndMemoryFileSystemsAloneLeaveNothing()
+void TestMountList::nothingIsLeftOfPseudoAndMemoryFileSystemsAlone()
 {
     QVERIFY(reduceMounts({entry("tmpfs", 500), entry("proc", 0), entry("sysfs", 0)}).empty());
-}
-
-void TestMountList::noEntriesGiveNoRecords()
-{
     QVERIFY(reduceMounts({}).empty());
 }
 
@@ -120,17 +116,8 @@ void TestMountList::theSameDeviceTwiceGivesTwoRecordsInOrder()
     entries[1].mountdir = "/a";
     const std::list<FSInfo> mounts = reduceMounts(entries);
     QCOMPARE(mounts.size(), std::size_t{2});
-    QCOMPARE(mounts.front().mountDir, QStringLiteral("/z"));
-    QCOMPARE(mounts.back().mountDir, QStringLiteral("/a"));
-    QCOMPARE(mounts.front().device, mounts.back().device);
-}
-
-void TestMountList::bytesThatAreNotUtf8BecomeReplacementCharacters()
-{
-    const FSInfo info = toFSInfo({"/dev/\xff", "/a\xc3", "\xfe", 1, 0, 0, 0, 1});
-    QCOMPARE(info.device, QStringLiteral("/dev/\ufffd"));
-    QCOMPARE(info.mountDir, QStringLiteral("/a\ufffd"));
-    QCOMPARE(info.type, QStringLiteral("\ufffd"));
+    QCOMPARE(namesOf(mounts.front()), QString("/dev/sda1, /z, ext4"));
+    QCOMPARE(namesOf(mounts.back()), QString("/dev/sda1, /a, ext4"));
 }
 
 void TestMountList::tenThousandEntriesKeepTheirOrder()

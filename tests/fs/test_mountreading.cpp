@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fs/mountlist.h"
 
+#include "mounts.h"
+
 #include <QtTest>
 
 #include <glib.h>
@@ -9,7 +11,7 @@
 
 #include <cstring>
 
-// The two functions below stand in for libgtop's: a program's own definition goes before a library's.
+// The two functions below replace libgtop's: a program's own definition takes precedence over a library's.
 
 namespace {
 
@@ -49,7 +51,7 @@ glibtop_mountentry *glibtop_get_mountlist(glibtop_mountlist *buf, int all_fs)
     if (!machine.hasList) {
         return nullptr;
     }
-    // Exactly as long as the list, so that the sanitizer sees a step beyond and a missing g_free.
+    // Exactly as long as the list, so that the sanitizer detects an overrun and a missing g_free.
     auto *entries = g_new(glibtop_mountentry, machine.mounts.size() + (machine.mounts.empty() ? 1 : 0));
     std::copy(machine.mounts.begin(), machine.mounts.end(), entries);
     return entries;
@@ -67,14 +69,13 @@ class TestMountReading : public QObject
 
 private Q_SLOTS:
     void init();
-    void allFileSystemsAreAskedFor();
-    void noMountListGivesAnEmptyList();
-    void anEmptyMountListGivesAnEmptyList();
+    void allFileSystemsAreQueried();
+    void aMissingMountListGivesAnEmptyList();
     void countsComeFromTheUsageOfTheMountPoint();
-    void usageIsAskedForInOrderByTheBytesOfTheMountPoint();
-    void aMountThatVanishedIsLeftOut();
-    void namesThatFillTheirArrayWithoutNulAreReadToItsEnd();
-    void nothingIsKeptFromOneReadingToTheNext();
+    void usageIsQueriedInOrderByTheBytesOfTheMountPoint();
+    void aVanishedMountIsDropped();
+    void namesThatFillTheirArrayWithoutNulAreReadInFull();
+    void nothingIsKeptBetweenReadings();
 };
 
 void TestMountReading::init()
@@ -88,13 +89,13 @@ void TestMountReading::init()
     machine.usage.block_size = 512;
 }
 
-void TestMountReading::allFileSystemsAreAskedFor()
+void TestMountReading::allFileSystemsAreQueried()
 {
-    collectMountList();
+    QVERIFY(collectMountList().empty());
     QCOMPARE(machine.askedForAll, std::vector<int>{1});
 }
 
-void TestMountReading::noMountListGivesAnEmptyList()
+void TestMountReading::aMissingMountListGivesAnEmptyList()
 {
     machine.mounts = {mountEntry("/dev/sda1", "/", "ext4")};
     machine.hasList = false;
@@ -102,28 +103,16 @@ void TestMountReading::noMountListGivesAnEmptyList()
     QVERIFY(machine.askedForUsage.empty());
 }
 
-void TestMountReading::anEmptyMountListGivesAnEmptyList()
-{
-    QVERIFY(collectMountList().empty());
-}
-
 void TestMountReading::countsComeFromTheUsageOfTheMountPoint()
 {
     machine.mounts = {mountEntry("/dev/sda1", "/", "ext4")};
     const std::list<FSInfo> mounts = collectMountList();
     QCOMPARE(mounts.size(), std::size_t{1});
-    const FSInfo &info = mounts.front();
-    QCOMPARE(info.device, QStringLiteral("/dev/sda1"));
-    QCOMPARE(info.mountDir, QStringLiteral("/"));
-    QCOMPARE(info.type, QStringLiteral("ext4"));
-    QCOMPARE(info.blocks, 10);
-    QCOMPARE(info.freeBlocks, 9);
-    QCOMPARE(info.availBlocks, 8);
-    QCOMPARE(info.files, 7);
-    QCOMPARE(info.blockSize, 512);
+    QCOMPARE(namesOf(mounts.front()), QString("/dev/sda1, /, ext4"));
+    QCOMPARE(countsOf(mounts.front()), (QVector<qint32>{10, 9, 8, 7, 512}));
 }
 
-void TestMountReading::usageIsAskedForInOrderByTheBytesOfTheMountPoint()
+void TestMountReading::usageIsQueriedInOrderByTheBytesOfTheMountPoint()
 {
     machine.mounts = {mountEntry("a", "/b\xff", "ext4"), mountEntry("b", "/a", "tmpfs"),
                       mountEntry("c", "/c\xc3\xa9", "xfs")};
@@ -131,14 +120,14 @@ void TestMountReading::usageIsAskedForInOrderByTheBytesOfTheMountPoint()
     QCOMPARE(machine.askedForUsage, (std::vector<std::string>{"/b\xff", "/a", "/c\xc3\xa9"}));
 }
 
-void TestMountReading::aMountThatVanishedIsLeftOut()
+void TestMountReading::aVanishedMountIsDropped()
 {
     machine.mounts = {mountEntry("/dev/sdb1", "/gone", "vfat")};
     machine.usage = glibtop_fsusage{};
     QVERIFY(collectMountList().empty());
 }
 
-void TestMountReading::namesThatFillTheirArrayWithoutNulAreReadToItsEnd()
+void TestMountReading::namesThatFillTheirArrayWithoutNulAreReadInFull()
 {
     constexpr std::size_t full = GLIBTOP_MOUNTENTRY_LEN + 1;
     machine.mounts = {
@@ -152,7 +141,7 @@ void TestMountReading::namesThatFillTheirArrayWithoutNulAreReadToItsEnd()
     QCOMPARE(machine.askedForUsage, std::vector<std::string>{std::string(full, 'm')});
 }
 
-void TestMountReading::nothingIsKeptFromOneReadingToTheNext()
+void TestMountReading::nothingIsKeptBetweenReadings()
 {
     machine.mounts.assign(500, mountEntry("/dev/sda1", "/", "ext4"));
     QCOMPARE(collectMountList().size(), std::size_t{500});

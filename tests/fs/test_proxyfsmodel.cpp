@@ -9,36 +9,27 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-#include <random>
+#include <memory>
 
 namespace {
 
 using Tester = QAbstractItemModelTester;
 
-/// The page's view, set up as the window sets it up, on a proxy.
+/// The page's view, set up like the window's, on a proxy.
 struct Page
 {
-    explicit Page(QObject *parent = nullptr) : proxy(parent)
+    Page()
     {
         view.setRootIsDecorated(false);
         view.setSortingEnabled(true);
         proxy.setView(&view);
     }
 
-    QTreeView view; // outlives the proxy, as a child of the window may
+    QTreeView view; ///< outlives the proxy, as a child of the window may
     ProxyFsModel proxy;
 };
 
-QStringList dirs(const char *letters)
-{
-    QStringList list;
-    for (const FSInfo &info : mounts(letters)) {
-        list << info.mountDir;
-    }
-    return list;
-}
-
-/// Whether every row of the proxy stands for a source row of its own, and all of them are there.
+/// Whether the rows of proxy and source map to each other one to one.
 bool mapsEachRowOnce(const ProxyFsModel &proxy)
 {
     QSet<int> sourceRows;
@@ -60,15 +51,14 @@ class TestProxyFsModel : public QObject
 
 private Q_SLOTS:
     void setViewConnectsModelProxyAndView();
-    void theFirstUpdateFitsTheColumnsAndSortsByMountPoint();
+    void theFirstUpdateFitsColumnsAndSortsByMountPoint();
     void laterUpdatesLeaveWidthsAndOrderToTheUser();
     void sortingComparesTheTexts();
-    void anUpdateBeforeTheViewLeavesTheFirstFitToTheView();
-    void anUpdateAfterTheViewIsGoneStillUpdates();
-    void itGivesTheModelsAnswers();
-    void theMountPointIsFoundThroughTheProxy();
-    void ordinaryRefreshesKeepTheProtocolTowardsTheView();
-    void selectionStaysOnTheMountThatStays();
+    void updatesNeedNoView();
+    void aFirstUpdateAfterTheViewIsDestroyedIsHandled();
+    void itForwardsToTheModel();
+    void ordinaryRefreshesKeepTheModelProtocol();
+    void theSelectionFollowsItsMount();
     void oddRemovalsLeaveTheProxyConsistent();
     void manyMountsAreShown_data();
     void manyMountsAreShown();
@@ -87,7 +77,7 @@ void TestProxyFsModel::setViewConnectsModelProxyAndView()
     QCOMPARE(proxy.sortRole(), int{Qt::DisplayRole});
 }
 
-void TestProxyFsModel::theFirstUpdateFitsTheColumnsAndSortsByMountPoint()
+void TestProxyFsModel::theFirstUpdateFitsColumnsAndSortsByMountPoint()
 {
     Page page;
     std::list<FSInfo> list = mounts("cab");
@@ -95,7 +85,7 @@ void TestProxyFsModel::theFirstUpdateFitsTheColumnsAndSortsByMountPoint()
     page.view.header()->resizeSection(1, 700);
     page.view.header()->setStretchLastSection(false);
     page.proxy.update(list);
-    QCOMPARE(columnTexts(page.proxy).mid(0, 2), dirs("ab"));
+    QCOMPARE(shownDirs(page.proxy), QString("/a /b ") + list.front().mountDir);
     QVERIFY(page.view.columnWidth(0) > page.view.fontMetrics().horizontalAdvance(list.front().mountDir));
     QVERIFY(page.view.columnWidth(1) < 700);
     QCOMPARE(page.view.header()->sortIndicatorSection(), 0);
@@ -111,7 +101,7 @@ void TestProxyFsModel::laterUpdatesLeaveWidthsAndOrderToTheUser()
     page.view.setColumnWidth(1, 43);
     page.view.sortByColumn(0, Qt::DescendingOrder);
     page.proxy.update(mounts("cabd"));
-    QCOMPARE(columnTexts(page.proxy), dirs("dcba"));
+    QCOMPARE(shownDirs(page.proxy), QString("/d /c /b /a"));
     QCOMPARE(page.view.columnWidth(0), 41);
     QCOMPARE(page.view.columnWidth(1), 43);
     QCOMPARE(page.view.header()->sortIndicatorOrder(), Qt::DescendingOrder);
@@ -120,41 +110,43 @@ void TestProxyFsModel::laterUpdatesLeaveWidthsAndOrderToTheUser()
 void TestProxyFsModel::sortingComparesTheTexts()
 {
     Page page;
-    page.proxy.update({mount(QStringLiteral("/dev/1"), QStringLiteral("/m10")),
-                       mount(QStringLiteral("/dev/2"), QStringLiteral("/m9")),
-                       mount(QStringLiteral("/dev/3"), QStringLiteral("/M9"))});
-    const QStringList expected = {QStringLiteral("/M9"), QStringLiteral("/m10"), QStringLiteral("/m9")};
-    QCOMPARE(columnTexts(page.proxy), expected);
+    page.proxy.update({mount("/dev/1", "/m10"), mount("/dev/2", "/m9"), mount("/dev/3", "/M9")});
+    QCOMPARE(shownDirs(page.proxy), QString("/M9 /m10 /m9"));
 }
 
-void TestProxyFsModel::anUpdateBeforeTheViewLeavesTheFirstFitToTheView()
-{
-    QTreeView view;
-    view.setSortingEnabled(true);
-    ProxyFsModel proxy;
-    proxy.update(mounts("ba"));
-    proxy.setView(&view);
-    proxy.update(mounts("ba"));
-    QCOMPARE(columnTexts(proxy), dirs("ab"));
-    QCOMPARE(view.header()->sortIndicatorOrder(), Qt::AscendingOrder);
-}
-
-void TestProxyFsModel::anUpdateAfterTheViewIsGoneStillUpdates()
+void TestProxyFsModel::updatesNeedNoView()
 {
     ProxyFsModel proxy;
+    proxy.update(mounts("ba"));
     {
         QTreeView view;
+        view.setSortingEnabled(true);
         proxy.setView(&view);
+        proxy.update(mounts("ba")); // sorts, as the first update with a view
+        QCOMPARE(shownDirs(proxy), QString("/a /b"));
+        QCOMPARE(view.header()->sortIndicatorOrder(), Qt::AscendingOrder);
     }
+    proxy.update(mounts("bac"));
+    QCOMPARE(proxy.rowCount(), 3);
+}
+
+void TestProxyFsModel::aFirstUpdateAfterTheViewIsDestroyedIsHandled()
+{
+    ProxyFsModel proxy;
+    proxy.setView(std::make_unique<QTreeView>().get());
     proxy.update(mounts("ab"));
     QCOMPARE(proxy.rowCount(), 2);
 }
 
-void TestProxyFsModel::itGivesTheModelsAnswers()
+void TestProxyFsModel::itForwardsToTheModel()
 {
     Page page;
     QVERIFY(!page.proxy.firstIndex().isValid());
     page.proxy.update(mounts("ba"));
+    for (int column = 0; column < 2; ++column) {
+        QCOMPARE(page.proxy.data(page.proxy.index(0, column), Qt::UserRole).toString(), QStringLiteral("/a"));
+    }
+    QVERIFY(!page.proxy.data(QModelIndex(), Qt::UserRole).isValid());
     QCOMPARE(page.proxy.itemByMountDir(QStringLiteral("/a")).device, QStringLiteral("/dev/a"));
     QVERIFY(page.proxy.itemByMountDir(QStringLiteral("/c")).device.isEmpty());
     QCOMPARE(page.proxy.availableDevSpace(), qint64{2 * 300 * 4096});
@@ -163,17 +155,7 @@ void TestProxyFsModel::itGivesTheModelsAnswers()
     QCOMPARE(page.proxy.firstIndex().data().toString(), QStringLiteral("/b"));
 }
 
-void TestProxyFsModel::theMountPointIsFoundThroughTheProxy()
-{
-    Page page;
-    page.proxy.update(mounts("ba"));
-    for (int column = 0; column < 2; ++column) {
-        QCOMPARE(page.proxy.data(page.proxy.index(0, column), Qt::UserRole).toString(), QStringLiteral("/a"));
-    }
-    QVERIFY(!page.proxy.data(QModelIndex(), Qt::UserRole).isValid());
-}
-
-void TestProxyFsModel::ordinaryRefreshesKeepTheProtocolTowardsTheView()
+void TestProxyFsModel::ordinaryRefreshesKeepTheModelProtocol()
 {
     Page page;
     const Tester tester(&page.proxy, Tester::FailureReportingMode::QtTest);
@@ -181,10 +163,10 @@ void TestProxyFsModel::ordinaryRefreshesKeepTheProtocolTowardsTheView()
         page.proxy.update(mounts(refresh));
         QVERIFY(mapsEachRowOnce(page.proxy));
     }
-    QCOMPARE(columnTexts(page.proxy), dirs("abc"));
+    QCOMPARE(shownDirs(page.proxy), QString("/a /b /c"));
 }
 
-void TestProxyFsModel::selectionStaysOnTheMountThatStays()
+void TestProxyFsModel::theSelectionFollowsItsMount()
 {
     Page page;
     page.proxy.update(mounts("abc"));
@@ -198,21 +180,15 @@ void TestProxyFsModel::oddRemovalsLeaveTheProxyConsistent()
 {
     Page page;
     page.view.show();
-    std::mt19937 random(20260102); // a fixed seed: every run sees the same refreshes
-    std::uniform_int_distribution<int> name(0, 19);
-    std::uniform_int_distribution<int> length(0, 25);
+    std::mt19937 random(20260102); // a fixed seed: the same refreshes in every run
+    std::uniform_int_distribution<int> row(0, 19);
     for (int refresh = 0; refresh < 300; ++refresh) {
-        std::list<FSInfo> list;
-        for (int left = length(random); left > 0; --left) {
-            list.push_back(
-                mount(QStringLiteral("/dev/%1").arg(name(random)), QStringLiteral("/%1").arg(name(random))));
-        }
         if (refresh % 7 == 0) {
             page.view.sortByColumn(refresh % 2, refresh % 3 == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
         }
-        page.proxy.update(list);
+        page.proxy.update(randomMounts(random, 20, 25));
         QVERIFY(mapsEachRowOnce(page.proxy));
-        page.view.setCurrentIndex(page.proxy.index(name(random), 0));
+        page.view.setCurrentIndex(page.proxy.index(row(random), 0));
         QCoreApplication::processEvents();
     }
 }

@@ -5,18 +5,20 @@
 #include "resources/histogeometry.h"
 #include "resources/timehisto.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QPainter>
+#include <QtTest>
 
 #include <functional>
 
-/// Pictures of the traffic graph, and what is looked for in them.
+/// Pictures of the traffic graph at 640 x 400, and what tests look for in them.
 namespace histopicture {
 
 const QSize usual(640, 400);
-const QRect usualAmounts(1, 1, 66, 300);   // the labels above the legend
-const QRect usualTimes(110, 386, 520, 13); // the labels right of the legend
-const QRect usualPlot(110, 1, 529, 384);   // what lies above those
+const QRect usualAmounts(1, 1, 66, 300);   ///< the amount labels above the legend
+const QRect usualTimes(110, 386, 520, 13); ///< the time labels to the right of the legend
+const QRect usualPlot(110, 1, 529, 384);   ///< everything above those
 
 inline QImage paint(TimeHisto &histo, const QSize &size = usual)
 {
@@ -27,10 +29,12 @@ inline QImage paint(TimeHisto &histo, const QSize &size = usual)
     return image;
 }
 
-inline void add(TimeHisto &histo, uint in, uint out)
+inline void add(TimeHisto &histo, uint in, uint out, int times = 1)
 {
-    histo.addValueIn(in);
-    histo.addValueOut(out);
+    for (int i = 0; i < times; ++i) {
+        histo.addValueIn(in);
+        histo.addValueOut(out);
+    }
 }
 
 inline bool isBlue(QRgb pixel)
@@ -59,7 +63,7 @@ inline bool isAnyColour(QRgb pixel)
     return isBlue(pixel) || isRed(pixel);
 }
 
-/// The rows of `part` where at least a quarter of the pixels fulfil `wanted`; of adjacent ones the last.
+/// The rows of `part` in which at least a quarter of the pixels are `wanted`; only the last of adjacent ones.
 inline QVector<int> rowsOf(const QImage &image, const QRect &part, bool (*wanted)(QRgb))
 {
     QVector<int> rows;
@@ -79,7 +83,7 @@ inline bool isInk(QRgb pixel)
     return qGray(pixel) < 250;
 }
 
-/// What the widget is to show in `part` where there are only black labels, centred in their rectangles.
+/// The expected picture of `part` if it holds only black labels, each centred in its rectangle.
 inline QImage labelsAlone(const QRect &part, int count, const std::function<QRectF(int)> &rect,
                           const std::function<QString(int)> &label)
 {
@@ -107,6 +111,16 @@ inline QImage timesFor(int interval)
     return labelsAlone(
         usualTimes, 11, [](int i) { return QRectF(i * 55.5, 385, 140, 15); },
         [interval](int i) { return QString::number((10 - i) * 10 * interval); });
+}
+
+/// Runs a test at 96 dpi, on which positions and labels depend, whatever the display's is.
+template <class Test>
+int runAt96Dpi(int argc, char *argv[])
+{
+    qputenv("QT_FONT_DPI", "96");
+    QApplication application(argc, argv);
+    Test test;
+    return QTest::qExec(&test, argc, argv);
 }
 
 } // namespace histopicture

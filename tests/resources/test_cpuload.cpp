@@ -6,15 +6,29 @@
 #include <glibtop.h>
 #include <glibtop/cpu.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstddef>
+#include <iterator>
 #include <limits>
 
 namespace {
 
 constexpr quint64 largest = std::numeric_limits<quint64>::max();
 
+using Counters = QVector<quint64>;
+
+/// idleDelta, totalDelta, idleLast and totalLast.
+Counters countersOf(const CpuRec &rec)
+{
+    return {rec.idleDelta, rec.totalDelta, rec.idleLast, rec.totalLast};
+}
+
+using Samples = QVector<std::vector<CpuCounters>>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Samples)
 
 class TestCpuLoad : public QObject
 {
@@ -24,27 +38,20 @@ private Q_SLOTS:
     void cpuCountStaysWithinLibgtopsArrays_data();
     void cpuCountStaysWithinLibgtopsArrays();
     void liveCountIsTheLastIndexPlusOne();
-
-    void recordFieldsAreInOrder();
-    void newRecordsAreZero();
+    void recordFieldsAreInOrderAndStartAtZero();
+    void deltasAreSinceThePreviousSample_data();
     void deltasAreSinceThePreviousSample();
-    void theSumIsOfTheLatestDeltasOnly();
     void aThousandCpusAreSampled();
-    void fallingCountersWrap();
-    void aZeroedReadingIsSurvived();
-    void recordsBeyondTheReadingStayAsTheyAre();
-    void readingsBeyondTheRecordsAreDropped();
-    void noCpuAtAllIsSurvived();
+    void aZeroedReadingIsHandled();
+    void noCpuIsHandled();
 
     void loadIsComputed_data();
     void loadIsComputed();
     void loadNeverLeavesPlusMinusAHundred();
     void loadTextHasABlankBeforeTheSign();
 
-    void liveReadingIsBoundedByTheCountAskedFor();
-    void liveCountersOfTheFirstCpuAreSane();
-    void liveSampleFillsTheRecords();
-    void liveTotalTimeNeverFalls();
+    void liveReadingHasTheRequestedLength();
+    void liveCountersAreSane();
 };
 
 void TestCpuLoad::cpuCountStaysWithinLibgtopsArrays_data()
@@ -70,53 +77,59 @@ void TestCpuLoad::cpuCountStaysWithinLibgtopsArrays()
 
 void TestCpuLoad::liveCountIsTheLastIndexPlusOne()
 {
-    const int count = cpuCount(); // libgtop knows its CPUs only once it has been asked
+    const int count = cpuCount(); // libgtop sets ncpu on the first read
     QCOMPARE(count, cpuCountFromLastIndex(glibtop_global_server->ncpu));
 }
 
-void TestCpuLoad::recordFieldsAreInOrder()
+void TestCpuLoad::recordFieldsAreInOrderAndStartAtZero()
 {
-    const CpuRec rec{1, 2, 3, 4, nullptr, nullptr, nullptr};
-    QCOMPARE(rec.idleDelta, quint64(1));
-    QCOMPARE(rec.totalDelta, quint64(2));
-    QCOMPARE(rec.idleLast, quint64(3));
-    QCOMPARE(rec.totalLast, quint64(4));
+    QCOMPARE(countersOf({1, 2, 3, 4, nullptr, nullptr, nullptr}), (Counters{1, 2, 3, 4}));
     QVERIFY(offsetof(CpuRec, gauge) < offsetof(CpuRec, percentLabel));
     QVERIFY(offsetof(CpuRec, percentLabel) < offsetof(CpuRec, captionLabel));
-}
 
-void TestCpuLoad::newRecordsAreZero()
-{
     std::vector<CpuRec> records;
     records.resize(1);
-    QCOMPARE(records[0].idleDelta, quint64(0));
-    QCOMPARE(records[0].totalDelta, quint64(0));
-    QCOMPARE(records[0].idleLast, quint64(0));
-    QCOMPARE(records[0].totalLast, quint64(0));
+    QCOMPARE(countersOf(records[0]), (Counters{0, 0, 0, 0}));
     QVERIFY(!records[0].gauge && !records[0].percentLabel && !records[0].captionLabel);
+}
+
+void TestCpuLoad::deltasAreSinceThePreviousSample_data()
+{
+    QTest::addColumn<Samples>("samples");
+    QTest::addColumn<Counters>("sums"); // one per sample
+    QTest::addColumn<QVector<Counters>>("records");
+
+    const auto row = [](const char *name, const Samples &samples, const Counters &sums,
+                        const QVector<Counters> &records) {
+        QTest::newRow(name) << samples << sums << records;
+    };
+    row("first sample: since zero", {{{1000, 3000}, {50, 60}}}, {3060},
+        {{1000, 3000, 1000, 3000}, {50, 60, 50, 60}});
+    row("second sample", {{{1000, 3000}, {50, 60}}, {{1010, 3040}, {50, 61}}}, {3060, 41},
+        {{10, 40, 1010, 3040}, {0, 1, 50, 61}});
+    row("the sum is of the latest deltas only",
+        {{{0, 300}, {0, 60}}, {{0, 310}, {0, 65}}, {{0, 310}, {0, 65}}}, {360, 15, 0},
+        {{0, 0, 0, 310}, {0, 0, 0, 65}});
+    row("falling counters wrap", {{{500, 900}}, {{499, 898}}}, {900, largest - 1},
+        {{largest, largest - 1, 499, 898}});
+    row("a record without a reading stays unchanged", {{{1, 2}, {3, 4}}, {{2, 4}}}, {6, 2},
+        {{1, 2, 2, 4}, {3, 4, 3, 4}});
+    row("a reading without a record is dropped", {{{1, 2}, {3, 4}}}, {2}, {{1, 2, 1, 2}});
 }
 
 void TestCpuLoad::deltasAreSinceThePreviousSample()
 {
-    std::vector<CpuRec> records(2);
-    updateCpuDeltas({{1000, 3000}, {50, 60}}, records);
-    QCOMPARE(records[0].idleDelta, quint64(1000)); // the first sample's previous one is zero
-    QCOMPARE(records[0].totalDelta, quint64(3000));
-    updateCpuDeltas({{1010, 3040}, {50, 61}}, records);
-    QCOMPARE(records[0].idleDelta, quint64(10));
-    QCOMPARE(records[0].totalDelta, quint64(40));
-    QCOMPARE(records[0].idleLast, quint64(1010));
-    QCOMPARE(records[0].totalLast, quint64(3040));
-    QCOMPARE(records[1].idleDelta, quint64(0));
-    QCOMPARE(records[1].totalDelta, quint64(1));
-}
-
-void TestCpuLoad::theSumIsOfTheLatestDeltasOnly()
-{
-    std::vector<CpuRec> records(2);
-    QCOMPARE(updateCpuDeltas({{0, 300}, {0, 60}}, records), quint64(360));
-    QCOMPARE(updateCpuDeltas({{0, 310}, {0, 65}}, records), quint64(15));
-    QCOMPARE(updateCpuDeltas({{0, 310}, {0, 65}}, records), quint64(0));
+    QFETCH(Samples, samples);
+    QFETCH(QVector<Counters>, records);
+    std::vector<CpuRec> sampled(static_cast<std::size_t>(records.size()));
+    Counters sums;
+    for (const std::vector<CpuCounters> &sample : qAsConst(samples)) {
+        sums << updateCpuDeltas(sample, sampled);
+    }
+    QTEST(sums, "sums");
+    QVector<Counters> counters;
+    std::transform(sampled.begin(), sampled.end(), std::back_inserter(counters), countersOf);
+    QCOMPARE(counters, records);
 }
 
 void TestCpuLoad::aThousandCpusAreSampled()
@@ -124,53 +137,28 @@ void TestCpuLoad::aThousandCpusAreSampled()
     std::vector<CpuRec> records(1024);
     std::vector<CpuCounters> read(1024);
     updateCpuDeltas(read, records);
-    for (std::size_t i = 0; i < read.size(); ++i)
+    for (std::size_t i = 0; i < read.size(); ++i) {
         read[i] = {i, 2 * i};
+    }
     QCOMPARE(updateCpuDeltas(read, records), quint64(1023 * 1024));
     QCOMPARE(records[1023].idleDelta, quint64(1023));
     QCOMPARE(records[1023].totalLast, quint64(2046));
 }
 
-void TestCpuLoad::fallingCountersWrap()
-{
-    std::vector<CpuRec> records(1);
-    updateCpuDeltas({{500, 900}}, records);
-    QCOMPARE(updateCpuDeltas({{499, 898}}, records), largest - 1);
-    QCOMPARE(records[0].idleDelta, largest);
-    QCOMPARE(records[0].totalDelta, largest - 1);
-    QCOMPARE(records[0].idleLast, quint64(499));
-}
-
-void TestCpuLoad::aZeroedReadingIsSurvived()
+void TestCpuLoad::aZeroedReadingIsHandled()
 {
     std::vector<CpuRec> records(2);
     updateCpuDeltas({{0, 0}, {0, 0}}, records);
     QCOMPARE(cpuLoadPercent(records[0].idleDelta, records[0].totalDelta), 100);
     updateCpuDeltas({{400, 900}, {0, 0}}, records);
     updateCpuDeltas({{0, 0}, {0, 0}}, records);
-    // Both differences have wrapped to nearly 2^64, which makes it nearly all idle.
+    // Both differences wrap to nearly 2^64, which gives an idle share of nearly 100 %.
     QCOMPARE(cpuLoadPercent(records[0].idleDelta, records[0].totalDelta), 0);
     updateCpuDeltas({{5, 10}, {0, 0}}, records);
     QCOMPARE(cpuLoadPercent(records[0].idleDelta, records[0].totalDelta), 50);
 }
 
-void TestCpuLoad::recordsBeyondTheReadingStayAsTheyAre()
-{
-    std::vector<CpuRec> records(2);
-    updateCpuDeltas({{1, 2}, {3, 4}}, records);
-    QCOMPARE(updateCpuDeltas({{2, 4}}, records), quint64(2));
-    QCOMPARE(records[1].totalDelta, quint64(4));
-    QCOMPARE(records[1].totalLast, quint64(4));
-}
-
-void TestCpuLoad::readingsBeyondTheRecordsAreDropped()
-{
-    std::vector<CpuRec> records(1);
-    QCOMPARE(updateCpuDeltas({{1, 2}, {3, 4}}, records), quint64(2));
-    QCOMPARE(records.size(), std::size_t(1));
-}
-
-void TestCpuLoad::noCpuAtAllIsSurvived()
+void TestCpuLoad::noCpuIsHandled()
 {
     std::vector<CpuRec> none;
     QCOMPARE(updateCpuDeltas({}, none), quint64(0));
@@ -194,11 +182,11 @@ void TestCpuLoad::loadIsComputed_data()
     row("an idle share of 0.9 makes 100", 9, 1000, 100);
     row("no time, idle or not", 0, 0, 100);
     row("no time, but idle", 7, 0, 100);
-    row("no time, but idle without bounds", largest, 0, 100);
-    row("more idle than there was time: below zero", 150, 100, -50);
-    row("just not 101 below zero", 2009, 1000, -100);
-    row("101 below zero", 201, 100, 100);
-    row("far below zero", 100000, 100, 100);
+    row("no time, but largest idle delta", largest, 0, 100);
+    row("more idle than total time: negative", 150, 100, -50);
+    row("the lowest load", 2009, 1000, -100);
+    row("a load of -101", 201, 100, 100);
+    row("a load far below -101", 100000, 100, 100);
     row("a share beyond 32 bits", 1ULL << 40, 1, 100);
     row("a share beyond 64 bits", largest, 1, 100);
     row("idle counter fell", largest - 2, 300, 100);
@@ -231,7 +219,7 @@ void TestCpuLoad::loadTextHasABlankBeforeTheSign()
     QCOMPARE(cpuLoadText(-50), QString("-50 %"));
 }
 
-void TestCpuLoad::liveReadingIsBoundedByTheCountAskedFor()
+void TestCpuLoad::liveReadingHasTheRequestedLength()
 {
     QCOMPARE(readCpuCounters(0).size(), std::size_t(0));
     QCOMPARE(readCpuCounters(1).size(), std::size_t(1));
@@ -239,24 +227,18 @@ void TestCpuLoad::liveReadingIsBoundedByTheCountAskedFor()
     QCOMPARE(readCpuCounters(1000000).size(), std::size_t(1024));
 }
 
-void TestCpuLoad::liveCountersOfTheFirstCpuAreSane()
+void TestCpuLoad::liveCountersAreSane()
 {
     const CpuCounters first = readCpuCounters(1).front();
     QVERIFY(first.total > 0);
     QVERIFY(first.idle <= first.total);
-}
 
-void TestCpuLoad::liveSampleFillsTheRecords()
-{
     std::vector<CpuRec> records(static_cast<std::size_t>(cpuCount()));
     const quint64 sum = sampleCpus(records);
     QVERIFY(records[0].totalDelta > 0);
     QCOMPARE(records[0].totalDelta, records[0].totalLast);
     QVERIFY(sum >= records[0].totalDelta);
-}
 
-void TestCpuLoad::liveTotalTimeNeverFalls()
-{
     const quint64 before = totalCpuTime();
     QVERIFY(before > 0);
     QVERIFY(totalCpuTime() >= before);

@@ -1,36 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "resources/cpurows.h"
 
+#include "../support/brackettranslator.h"
 #include "resources/qprog.h"
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QTranslator>
 #include <QtTest>
 
 #include <memory>
 
 namespace {
 
-// Puts every text that is looked up in the controller's context into angle brackets.
-class BracketTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        return qstrcmp(context, "Updater") == 0 ? "<" + QString::fromLatin1(source) + ">" : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
-// A page with a grid inside another layout, as the form has it.
+/// A page with a grid inside another layout, like the form's, and with rows for `cpus` CPUs.
 struct Page
 {
-    QWidget widget;
-    QVBoxLayout *outer = new QVBoxLayout(&widget);
-    QGridLayout *grid = new QGridLayout;
-
-    Page() { outer->addLayout(grid); }
+    explicit Page(std::size_t cpus) : records(cpus)
+    {
+        outer->addLayout(grid);
+        createCpuRows(grid, records);
+    }
     QWidget *at(int row, int column) const
     {
         QLayoutItem *item = grid->itemAtPosition(row, column);
@@ -38,17 +27,20 @@ struct Page
     }
     QString textAt(int row, int column) const
     {
-        const QLabel *label = qobject_cast<QLabel *>(at(row, column));
+        const auto *label = qobject_cast<QLabel *>(at(row, column));
         return label ? label->text() : QString();
     }
-};
+    void setDeltas(std::size_t cpu, quint64 idle, quint64 total)
+    {
+        records[cpu].idleDelta = idle;
+        records[cpu].totalDelta = total;
+    }
 
-CpuRec &withDeltas(CpuRec &rec, quint64 idle, quint64 total)
-{
-    rec.idleDelta = idle;
-    rec.totalDelta = total;
-    return rec;
-}
+    QWidget widget;
+    QVBoxLayout *outer = new QVBoxLayout(&widget);
+    QGridLayout *grid = new QGridLayout;
+    std::vector<CpuRec> records;
+};
 
 } // namespace
 
@@ -57,23 +49,18 @@ class TestCpuRows : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void modelRowsOfFourCpusAreRowsSevenToTen();
-    void modelRowCaptionIsTranslated();
+    void modelRowsStartAtRowSeven();
     void loadRowsStartAtRowThree_data();
     void loadRowsStartAtRowThree();
-    void aSingleCpuIsCaptionedWithoutANumber();
     void captionsAreTranslated();
-    void gaugesKeepTheirHeight();
     void widgetsBelongToThePage();
-    void gaugesTellTheirCaption();
     void loadIsShownInLabelAndGauge();
-    void aLoadBelowZeroIsShownAsItIsAndEmptiesTheGauge();
-    void noCpuAtAllIsSurvived();
+    void noCpuIsHandled();
 };
 
-void TestCpuRows::modelRowsOfFourCpusAreRowsSevenToTen()
+void TestCpuRows::modelRowsStartAtRowSeven()
 {
-    Page page;
+    const Page page(0);
     addCpuModelRows(page.grid, 4, "Some CPU");
     for (int i = 1; i <= 4; ++i) {
         QCOMPARE(page.textAt(i + 6, 1), QString("CPU %1").arg(i));
@@ -83,16 +70,6 @@ void TestCpuRows::modelRowsOfFourCpusAreRowsSevenToTen()
     QVERIFY(!page.at(6, 1));
     QVERIFY(!page.at(11, 1));
     QCOMPARE(page.widget.findChildren<QLabel *>().size(), 8);
-}
-
-void TestCpuRows::modelRowCaptionIsTranslated()
-{
-    BracketTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    Page page;
-    addCpuModelRows(page.grid, 1, "Unknown CPU");
-    QCOMPARE(page.textAt(7, 1), QString("<CPU >1"));
-    QCOMPARE(page.textAt(7, 3), QString("Unknown CPU"));
 }
 
 void TestCpuRows::loadRowsStartAtRowThree_data()
@@ -106,115 +83,71 @@ void TestCpuRows::loadRowsStartAtRowThree_data()
 void TestCpuRows::loadRowsStartAtRowThree()
 {
     QFETCH(int, count);
-    Page page;
-    std::vector<CpuRec> records(static_cast<std::size_t>(count));
-    createCpuRows(page.grid, records);
+    const Page page(static_cast<std::size_t>(count));
     int row = 3;
-    for (const CpuRec &rec : records) {
+    for (const CpuRec &rec : page.records) {
         QCOMPARE(page.at(row, 1), static_cast<QWidget *>(rec.captionLabel));
         QCOMPARE(page.at(row, 2), static_cast<QWidget *>(rec.percentLabel));
         QCOMPARE(page.at(row, 3), static_cast<QWidget *>(rec.gauge));
-        if (count > 1)
-            QCOMPARE(rec.captionLabel->text(), QString("CPU core %1 load").arg(row - 2));
+        const QString caption = count == 1 ? QString("CPU load") : QString("CPU core %1 load").arg(row - 2);
+        QCOMPARE(rec.captionLabel->text(), caption);
+        QCOMPARE(rec.gauge->accessibleName(), caption);
+        QCOMPARE(rec.captionLabel->buddy(), static_cast<QWidget *>(rec.gauge));
+        const QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed, QSizePolicy::DefaultType);
+        QCOMPARE(rec.gauge->sizePolicy(), policy);
         ++row;
     }
     QVERIFY(!page.at(2, 1));
     QVERIFY(!page.at(row, 1));
 }
 
-void TestCpuRows::aSingleCpuIsCaptionedWithoutANumber()
-{
-    Page page;
-    std::vector<CpuRec> records(1);
-    createCpuRows(page.grid, records);
-    QCOMPARE(page.textAt(3, 1), QString("CPU load"));
-}
-
 void TestCpuRows::captionsAreTranslated()
 {
-    BracketTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    Page one;
-    std::vector<CpuRec> single(1);
-    createCpuRows(one.grid, single);
-    QCOMPARE(one.textAt(3, 1), QString("<CPU load>"));
-    Page two;
-    std::vector<CpuRec> pair(2);
-    createCpuRows(two.grid, pair);
-    QCOMPARE(two.textAt(4, 1), QString("<CPU core 2 load>"));
-}
-
-void TestCpuRows::gaugesKeepTheirHeight()
-{
-    Page page;
-    std::vector<CpuRec> records(1);
-    createCpuRows(page.grid, records);
-    const QSizePolicy policy = records[0].gauge->sizePolicy();
-    QCOMPARE(policy.horizontalPolicy(), QSizePolicy::Preferred);
-    QCOMPARE(policy.verticalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(policy.controlType(), QSizePolicy::DefaultType);
+    const BracketTranslator translator("Updater");
+    QCOMPARE(Page(1).textAt(3, 1), QString("<CPU load>"));
+    const Page page(2);
+    QCOMPARE(page.textAt(4, 1), QString("<CPU core 2 load>"));
+    addCpuModelRows(page.grid, 1, "Unknown CPU");
+    QCOMPARE(page.textAt(7, 1), QString("<CPU >1"));
+    QCOMPARE(page.textAt(7, 3), QString("Unknown CPU"));
 }
 
 void TestCpuRows::widgetsBelongToThePage()
 {
-    std::vector<CpuRec> records(2);
-    auto page = std::make_unique<Page>();
-    createCpuRows(page->grid, records);
-    QCOMPARE(records[1].gauge->parentWidget(), &page->widget);
-    QPointer<QProg> gauge = records[1].gauge;
-    QPointer<QLabel> caption = records[1].captionLabel;
+    auto page = std::make_unique<Page>(2);
+    QCOMPARE(page->records[1].gauge->parentWidget(), &page->widget);
+    QPointer<QProg> gauge = page->records[1].gauge;
+    QPointer<QLabel> caption = page->records[1].captionLabel;
     page.reset();
     QVERIFY(!gauge && !caption);
 }
 
-void TestCpuRows::gaugesTellTheirCaption()
-{
-    Page page;
-    std::vector<CpuRec> records(2);
-    createCpuRows(page.grid, records);
-    QCOMPARE(records[1].gauge->accessibleName(), QString("CPU core 2 load"));
-    QCOMPARE(records[1].captionLabel->buddy(), static_cast<QWidget *>(records[1].gauge));
-}
-
 void TestCpuRows::loadIsShownInLabelAndGauge()
 {
-    Page page;
-    std::vector<CpuRec> records(4);
-    createCpuRows(page.grid, records);
-    withDeltas(records[0], 300, 300);
-    withDeltas(records[1], 0, 300);
-    withDeltas(records[2], 997, 1000);
-    withDeltas(records[3], 0, 0);
-    showCpuLoad(records);
-    const QStringList texts = {"0 %", "100 %", "1 %", "100 %"};
-    const QVector<double> values = {0.0, 100.0, 1.0, 100.0};
-    for (int i = 0; i < 4; ++i) {
+    Page page(5);
+    page.setDeltas(0, 300, 300);
+    page.setDeltas(1, 0, 300);
+    page.setDeltas(2, 997, 1000);
+    page.setDeltas(3, 0, 0);
+    page.setDeltas(4, 150, 100); // a negative load is shown as it is and empties the gauge
+    showCpuLoad(page.records);
+    const QStringList texts = {"0 %", "100 %", "1 %", "100 %", "-50 %"};
+    const QVector<double> values = {0.0, 100.0, 1.0, 100.0, 0.0};
+    for (int i = 0; i < 5; ++i) {
         QCOMPARE(page.textAt(i + 3, 2), texts.at(i));
-        QCOMPARE(records[static_cast<std::size_t>(i)].gauge->value(), values.at(i));
+        QCOMPARE(page.records[static_cast<std::size_t>(i)].gauge->value(), values.at(i));
     }
-    showCpuLoad({withDeltas(records[0], 150, 300)});
+    page.setDeltas(0, 150, 300);
+    showCpuLoad({page.records[0]});
     QCOMPARE(page.textAt(3, 2), QString("50 %"));
-    QCOMPARE(records[0].gauge->value(), 50.0);
-    QCOMPARE(records[0].gauge->accessibleDescription(), QString("50 %"));
+    QCOMPARE(page.records[0].gauge->value(), 50.0);
+    QCOMPARE(page.records[0].gauge->accessibleDescription(), QString("50 %"));
 }
 
-void TestCpuRows::aLoadBelowZeroIsShownAsItIsAndEmptiesTheGauge()
+void TestCpuRows::noCpuIsHandled()
 {
-    Page page;
-    std::vector<CpuRec> records(1);
-    createCpuRows(page.grid, records);
-    withDeltas(records[0], 150, 100);
-    showCpuLoad(records);
-    QCOMPARE(page.textAt(3, 2), QString("-50 %"));
-    QCOMPARE(records[0].gauge->value(), 0.0);
-}
-
-void TestCpuRows::noCpuAtAllIsSurvived()
-{
-    Page page;
-    std::vector<CpuRec> none;
-    createCpuRows(page.grid, none);
-    showCpuLoad(none);
+    const Page page(0);
+    showCpuLoad(page.records);
     QCOMPARE(page.grid->count(), 0);
 }
 

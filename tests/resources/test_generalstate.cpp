@@ -9,11 +9,6 @@ namespace {
 
 constexpr quint64 largest = std::numeric_limits<quint64>::max();
 
-MemoryState memory(quint64 total, quint64 free, quint64 buffer, quint64 cached)
-{
-    return {total, free, buffer, cached};
-}
-
 } // namespace
 
 class TestGeneralState : public QObject
@@ -21,33 +16,31 @@ class TestGeneralState : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void buffersAndCacheCountAsFree();
-    void sizesAreTexts();
+    void figuresAreSizeTextsAndWholePercents();
     void sharesAreTruncated_data();
     void sharesAreTruncated();
-    void aMachineOfZeroesShowsZeroes();
-    void sumsAndProductsWrap();
     void liveMemoryIsSane();
 };
 
-void TestGeneralState::buffersAndCacheCountAsFree()
+void TestGeneralState::figuresAreSizeTextsAndWholePercents()
 {
-    const GeneralFigures figures = generalFigures(memory(8192, 1024, 512, 512), 0, 0);
-    QCOMPARE(figures.memFree, QString("2.00 KB"));
-    QCOMPARE(figures.memPercent, 25.0);
-    QCOMPARE(generalFigures(memory(8192, 1024, 0, 0), 0, 0).memFree, QString("1.00 KB"));
-    QCOMPARE(generalFigures(memory(8192, 0, 1024, 0), 0, 0).memFree, QString("1.00 KB"));
-    QCOMPARE(generalFigures(memory(8192, 0, 0, 1024), 0, 0).memFree, QString("1.00 KB"));
-}
-
-void TestGeneralState::sizesAreTexts()
-{
-    const GeneralFigures figures =
-        generalFigures(memory(16ULL << 30, 3ULL << 20, 0, 0), 5ULL << 40, 10ULL << 40);
-    QCOMPARE(figures.memTotal, QString("16.00 GB"));
-    QCOMPARE(figures.memFree, QString("3.00 MB"));
-    QCOMPARE(figures.diskFree, QString("5120.00 GB"));
-    QCOMPARE(figures.diskPercent, 50.0);
+    const auto texts = [](const MemoryState &memory, quint64 freeDisk) {
+        const GeneralFigures figures = generalFigures(memory, freeDisk, freeDisk);
+        const QString memPercent = QString::number(figures.memPercent) + '%';
+        return QStringList{figures.memTotal, figures.memFree, memPercent, figures.diskFree}.join(", ");
+    };
+    // The memory is total, free, buffers and cache.
+    QCOMPARE(texts({16ULL << 30, 3ULL << 20, 0, 0}, 5ULL << 40),
+             QString("16.00 GB, 3.00 MB, 0%, 5120.00 GB"));
+    QCOMPARE(texts({}, 0), QString("0.00 B, 0.00 B, 0%, 0.00 B"));
+    // Buffers and cache count as free.
+    QCOMPARE(texts({8192, 1024, 512, 512}, 0), QString("8.00 KB, 2.00 KB, 25%, 0.00 B"));
+    QCOMPARE(texts({8192, 1024, 0, 0}, 0), QString("8.00 KB, 1.00 KB, 12%, 0.00 B"));
+    QCOMPARE(texts({8192, 0, 1024, 0}, 0), QString("8.00 KB, 1.00 KB, 12%, 0.00 B"));
+    QCOMPARE(texts({8192, 0, 0, 1024}, 0), QString("8.00 KB, 1.00 KB, 12%, 0.00 B"));
+    // The sum wraps at 64 bits.
+    QCOMPARE(texts({100, largest, 1, 50}, 0), QString("100.00 B, 50.00 B, 50%, 0.00 B"));
+    QCOMPARE(texts({}, largest), QString("0.00 B, 0.00 B, 0%, 17179869184.00 GB"));
 }
 
 void TestGeneralState::sharesAreTruncated_data()
@@ -67,32 +60,17 @@ void TestGeneralState::sharesAreTruncated_data()
     row("nearly all free", 299, 300, 99.0);
     row("more free than there is", 600, 300, 200.0);
     row("a petabyte", 1ULL << 49, 1ULL << 50, 50.0);
+    row("100 * (2^63 + 1) wraps to 100", (1ULL << 63) + 1, 10, 10.0);
 }
 
 void TestGeneralState::sharesAreTruncated()
 {
     QFETCH(quint64, free);
     QFETCH(quint64, total);
-    QTEST(generalFigures(memory(total, free, 0, 0), 0, 0).memPercent, "percent");
+    QTEST(generalFigures({total, free, 0, 0}, 0, 0).memPercent, "percent");
+    QTEST(generalFigures({total, 0, free, 0}, 0, 0).memPercent, "percent");
+    QTEST(generalFigures({total, 0, 0, free}, 0, 0).memPercent, "percent");
     QTEST(generalFigures(MemoryState(), free, total).diskPercent, "percent");
-}
-
-void TestGeneralState::aMachineOfZeroesShowsZeroes()
-{
-    const GeneralFigures figures = generalFigures(MemoryState(), 0, 0);
-    QCOMPARE(figures.memTotal, QString("0.00 B"));
-    QCOMPARE(figures.memFree, QString("0.00 B"));
-    QCOMPARE(figures.diskFree, QString("0.00 B"));
-    QCOMPARE(figures.memPercent, 0.0);
-    QCOMPARE(figures.diskPercent, 0.0);
-}
-
-void TestGeneralState::sumsAndProductsWrap()
-{
-    QCOMPARE(generalFigures(memory(100, largest, 1, 50), 0, 0).memFree, QString("50.00 B"));
-    // 100 * (2^63 + 1) is 100 in 64 bits.
-    QCOMPARE(generalFigures(MemoryState(), (1ULL << 63) + 1, 10).diskPercent, 10.0);
-    QCOMPARE(generalFigures(MemoryState(), largest, largest).diskFree, QString("17179869184.00 GB"));
 }
 
 void TestGeneralState::liveMemoryIsSane()

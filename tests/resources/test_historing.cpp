@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A spread of 32-bit values, the same in every run.
+/// Deterministic values spread over 32 bits.
 quint32 sample(int i)
 {
     return static_cast<quint32>(i) * 2654435761U;
@@ -39,35 +39,27 @@ class TestHistoRing : public QObject
 
 private Q_SLOTS:
     void aNewRingIsEmptyWithAHundredZeros();
-    void theFirstSampleLiesAtTheFirstEntry();
     void headAndTailFollowTheSamples_data();
     void headAndTailFollowTheSamples();
-    void holdsWhatAPlainQueueOfAHundredHolds();
-    void aClearedRingStartsAgain_data();
-    void aClearedRingStartsAgain();
+    void holdsTheSameAsAQueueOfAHundred();
+    void aClearedRingStartsOver_data();
+    void aClearedRingStartsOver();
     void theLargestSampleIsComparedAsSigned();
 };
 
 void TestHistoRing::aNewRingIsEmptyWithAHundredZeros()
 {
-    const HistoRing ring;
+    HistoRing ring;
     QVERIFY(!ring.hasData);
     QCOMPARE(ring.capacity, quint64(100));
     QCOMPARE(ring.values, std::vector<quint32>(100, 0));
     QCOMPARE(ring.head, quint64(0));
     QCOMPARE(ring.tail, quint64(0));
-    QCOMPARE(ring.count(), quint64(1)); // meant: emptiness is told by hasData alone
-}
+    QCOMPARE(ring.count(), quint64(1)); // intentional: only hasData distinguishes an empty ring
 
-void TestHistoRing::theFirstSampleLiesAtTheFirstEntry()
-{
-    HistoRing ring;
     ring.append(std::numeric_limits<quint32>::max());
     QVERIFY(ring.hasData);
     QCOMPARE(ring.values[0], std::numeric_limits<quint32>::max());
-    QCOMPARE(ring.head, quint64(0));
-    QCOMPARE(ring.tail, quint64(0));
-    QCOMPARE(ring.count(), quint64(1));
 }
 
 void TestHistoRing::headAndTailFollowTheSamples_data()
@@ -77,7 +69,7 @@ void TestHistoRing::headAndTailFollowTheSamples_data()
     QTest::addColumn<quint64>("tail");
     QTest::addColumn<quint64>("count");
     const auto row = [](int appends, quint64 head, quint64 tail, quint64 count) {
-        QTest::newRow(qPrintable(QString::number(appends))) << appends << head << tail << count;
+        QTest::addRow("%d", appends) << appends << head << tail << count;
     };
     row(1, 0, 0, 1);
     row(2, 0, 1, 2);
@@ -101,7 +93,7 @@ void TestHistoRing::headAndTailFollowTheSamples()
     QTEST(ring.count(), "count");
 }
 
-void TestHistoRing::holdsWhatAPlainQueueOfAHundredHolds()
+void TestHistoRing::holdsTheSameAsAQueueOfAHundred()
 {
     HistoRing ring;
     std::deque<quint32> queue;
@@ -117,15 +109,15 @@ void TestHistoRing::holdsWhatAPlainQueueOfAHundredHolds()
     }
 }
 
-void TestHistoRing::aClearedRingStartsAgain_data()
+void TestHistoRing::aClearedRingStartsOver_data()
 {
     QTest::addColumn<int>("before");
     for (int before : {0, 1, 50, 100, 101, 150, 250}) {
-        QTest::newRow(qPrintable(QString::number(before))) << before;
+        QTest::addRow("%d", before) << before;
     }
 }
 
-void TestHistoRing::aClearedRingStartsAgain()
+void TestHistoRing::aClearedRingStartsOver()
 {
     QFETCH(int, before);
     HistoRing ring;
@@ -146,20 +138,17 @@ void TestHistoRing::aClearedRingStartsAgain()
 void TestHistoRing::theLargestSampleIsComparedAsSigned()
 {
     HistoRing ring;
-    ring.append(0xffffffffU);
-    QCOMPARE(ring.largest(), -1);
-    ring.append(0x80000000U);
-    QCOMPARE(ring.largest(), -1);
-    ring.append(0);
-    QCOMPARE(ring.largest(), 0);
-    ring.append(0x7fffffffU);
-    QCOMPARE(ring.largest(), std::numeric_limits<qint32>::max());
+    const std::vector<std::pair<quint32, qint32>> samples = {
+        {0xffffffffU, -1}, {0x80000000U, -1}, {0, 0}, {0x7fffffffU, 0x7fffffff}};
+    for (const auto &[value, largest] : samples) {
+        ring.append(value);
+        QCOMPARE(ring.largest(), largest);
+    }
     for (quint32 i = 0; i < 100; ++i) {
         ring.append(i % 40);
     }
-    QCOMPARE(ring.largest(), 39); // what has left the ring counts no longer
+    QCOMPARE(ring.largest(), 39); // dropped samples no longer count
 }
 
 QTEST_APPLESS_MAIN(TestHistoRing)
-
 #include "test_historing.moc"

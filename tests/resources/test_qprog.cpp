@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The gauge's interface, its range and its geometry; see test_qprogpainting for what it draws.
+// The gauge's interface, range and geometry; test_qprogpainting covers what it draws.
 #include "resources/qprog.h"
 
 #include <QAccessible>
@@ -22,58 +22,45 @@ class TestQProg : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void propertiesAreInOrder();
-    void methodsAreInOrder();
+    void propertiesAndMethodsAreInOrder();
     void defaultsAreSet();
-    void sizeHintsAreFixed();
-    void propertiesReadAndWrite();
-    void fontPropertyIsANumberAndTheWidgetsFontStays();
-    void valueIsClamped_data();
-    void valueIsClamped();
-    void minimumMoves_data();
-    void minimumMoves();
-    void maximumMoves_data();
-    void maximumMoves();
-    void rectanglesFollowTheWidth();
+    void unusedPropertiesAreStored();
+    void valueAndRangeAreSet_data();
+    void valueAndRangeAreSet();
+    void shapesFollowTheWidth();
     void barLengthFollowsTheValue_data();
     void barLengthFollowsTheValue();
+    void shareIsInWholePercent_data();
+    void shareIsInWholePercent();
     void bothFormsOfTheBarLengthAgree();
-    void tickLinesReachTheRightEdge();
-    void shareIsTold_data();
-    void shareIsTold();
-    void assistiveTechnologyReadsCaptionAndShare();
+    void accessibleTextsAreCaptionAndShare();
 };
 
-void TestQProg::propertiesAreInOrder()
+void TestQProg::propertiesAndMethodsAreInOrder()
 {
     const QMetaObject &meta = QProg::staticMetaObject;
     QStringList properties;
-    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
-        properties += QString(meta.property(i).typeName()) + ' ' + meta.property(i).name();
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
+        const QMetaProperty property = meta.property(i);
+        properties += QString(property.typeName()) + ' ' + property.name();
+        QVERIFY(property.isWritable());
+    }
     QCOMPARE(properties, QStringList({"double value", "double min", "double max", "int font", "int numPrec",
                                       "QColor color"}));
-    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
-        QVERIFY(meta.property(i).isWritable());
-}
-
-void TestQProg::methodsAreInOrder()
-{
-    const QMetaObject &meta = QProg::staticMetaObject;
     QList<QByteArray> methods;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
         methods += meta.method(i).methodSignature();
+        QCOMPARE(meta.method(i).methodType(), methods.size() == 1 ? QMetaMethod::Signal : QMetaMethod::Slot);
+    }
     QCOMPARE(methods, QList<QByteArray>({"valueChanged(double)", "setValue(double)", "setMaxValue(double)",
                                          "setMinValue(double)", "setFontDim(int)", "setPrecision(int)",
                                          "setBarColor(QColor)"}));
-    QCOMPARE(meta.method(meta.methodOffset()).methodType(), QMetaMethod::Signal);
-    for (int i = meta.methodOffset() + 1; i < meta.methodCount(); ++i)
-        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
 }
 
 void TestQProg::defaultsAreSet()
 {
     QWidget parent;
-    const QProg *gauge = new QProg(&parent);
+    auto *gauge = new QProg(&parent);
     QCOMPARE(gauge->parentWidget(), &parent);
     QCOMPARE(gauge->value(), 0.0);
     QCOMPARE(gauge->minimum(), 0.0);
@@ -82,110 +69,73 @@ void TestQProg::defaultsAreSet()
     QCOMPARE(gauge->numPrec(), 0);
     QCOMPARE(gauge->barColor(), QColor(Qt::green));
     QCOMPARE(gauge->text(), QString());
+    gauge->setFontDim(200); // has no effect on the size
+    QCOMPARE(gauge->minimumSizeHint(), QSize(250, 20));
+    QCOMPARE(gauge->sizeHint(), QSize(250, 25));
 }
 
-void TestQProg::sizeHintsAreFixed()
-{
-    QProg gauge(nullptr);
-    gauge.setFontDim(200);
-    QCOMPARE(gauge.minimumSizeHint(), QSize(250, 20));
-    QCOMPARE(gauge.sizeHint(), QSize(250, 25));
-}
-
-void TestQProg::propertiesReadAndWrite()
-{
-    QProg gauge(nullptr);
-    QVERIFY(gauge.setProperty("max", 50.0));
-    QVERIFY(gauge.setProperty("min", -10.0));
-    QVERIFY(gauge.setProperty("value", 60.0));
-    QVERIFY(gauge.setProperty("numPrec", 3));
-    QVERIFY(gauge.setProperty("color", QColor(Qt::red)));
-    QCOMPARE(gauge.property("value").toDouble(), 50.0);
-    QCOMPARE(gauge.property("min").toDouble(), -10.0);
-    QCOMPARE(gauge.property("max").toDouble(), 50.0);
-    QCOMPARE(gauge.property("numPrec").toInt(), 3);
-    QCOMPARE(gauge.property("color").value<QColor>(), QColor(Qt::red));
-}
-
-void TestQProg::fontPropertyIsANumberAndTheWidgetsFontStays()
+void TestQProg::unusedPropertiesAreStored()
 {
     QProg gauge(nullptr);
     const QFont before = gauge.font();
     QVERIFY(gauge.setProperty("font", 12));
+    QVERIFY(gauge.setProperty("numPrec", 3));
+    QVERIFY(gauge.setProperty("color", QColor(Qt::red)));
     QCOMPARE(gauge.property("font"), QVariant(12));
+    QCOMPARE(gauge.property("numPrec"), QVariant(3));
+    QCOMPARE(gauge.property("color"), QVariant(QColor(Qt::red)));
     QCOMPARE(gauge.fontDim(), 12);
-    QCOMPARE(gauge.font(), before);
+    QCOMPARE(gauge.numPrec(), 3);
+    QCOMPARE(gauge.barColor(), QColor(Qt::red));
+    QCOMPARE(gauge.font(), before); // the widget's own font, which the property hides
 }
 
-void TestQProg::valueIsClamped_data()
+void TestQProg::valueAndRangeAreSet_data()
 {
-    QTest::addColumn<double>("set");
-    QTest::addColumn<double>("value");
-
-    QTest::newRow("inside") << 42.5 << 42.5;
-    QTest::newRow("above") << 150.0 << 100.0;
-    QTest::newRow("below") << -5.0 << 0.0;
-    QTest::newRow("at the top") << 100.0 << 100.0;
-    QTest::newRow("infinite") << infinity << 100.0;
-    QTest::newRow("minus infinite") << -infinity << 0.0;
-    QTest::newRow("not a number") << notANumber << notANumber;
-}
-
-void TestQProg::valueIsClamped()
-{
-    QFETCH(double, set);
-    QProg gauge(nullptr);
-    gauge.setValue(set);
-    QTEST(gauge.value(), "value");
-    QCOMPARE(gauge.minimum(), 0.0);
-    QCOMPARE(gauge.maximum(), 100.0);
-}
-
-void TestQProg::minimumMoves_data()
-{
+    QTest::addColumn<QByteArray>("property");
     QTest::addColumn<double>("value");
     QTest::addColumn<double>("set");
     QTest::addColumn<QVector<double>>("minMaxValue");
 
-    QTest::newRow("above the maximum: swapped") << 0.0 << 200.0 << QVector<double>{100, 200, 100};
-    QTest::newRow("raised: the value stays below") << 10.0 << 50.0 << QVector<double>{50, 100, 10};
-    QTest::newRow("lowered") << 10.0 << -50.0 << QVector<double>{-50, 100, 10};
-    QTest::newRow("at the maximum") << 10.0 << 100.0 << QVector<double>{100, 100, 10};
+    const auto row = [](const char *name, const char *property, double value, double set,
+                        const QVector<double> &minMaxValue) {
+        QTest::newRow(name) << QByteArray(property) << value << set << minMaxValue;
+    };
+    row("value inside the range", "value", 0, 42.5, {0, 100, 42.5});
+    row("value above the range", "value", 0, 150, {0, 100, 100});
+    row("value below the range", "value", 0, -5, {0, 100, 0});
+    row("value at the maximum", "value", 0, 100, {0, 100, 100});
+    row("infinite value", "value", 0, infinity, {0, 100, 100});
+    row("negative infinite value", "value", 0, -infinity, {0, 100, 0});
+    row("value that is not a number", "value", 0, notANumber, {0, 100, notANumber});
+    row("minimum above the maximum: swapped", "min", 0, 200, {100, 200, 100});
+    row("minimum raised: the value stays below", "min", 10, 50, {50, 100, 10});
+    row("minimum lowered", "min", 10, -50, {-50, 100, 10});
+    row("minimum at the maximum", "min", 10, 100, {100, 100, 10});
+    row("maximum below the minimum: swapped", "max", 10, -50, {-50, 0, -50});
+    row("maximum lowered: the value stays above", "max", 80, 50, {0, 50, 80});
+    row("maximum raised", "max", 80, 500, {0, 500, 80});
+    row("maximum at the minimum", "max", 80, 0, {0, 0, 80});
 }
 
-void TestQProg::minimumMoves()
+void TestQProg::valueAndRangeAreSet()
 {
+    QFETCH(QByteArray, property);
     QFETCH(double, value);
     QFETCH(double, set);
+    QFETCH(QVector<double>, minMaxValue);
     QProg gauge(nullptr);
     gauge.setValue(value);
-    gauge.setMinValue(set);
-    QTEST((QVector<double>{gauge.minimum(), gauge.maximum(), gauge.value()}), "minMaxValue");
+    QVERIFY(gauge.setProperty(property, set));
+    QCOMPARE(gauge.minimum(), minMaxValue.at(0));
+    QCOMPARE(gauge.maximum(), minMaxValue.at(1));
+    QCOMPARE(gauge.value(), minMaxValue.at(2));
+    QCOMPARE(gauge.property("min").toDouble(), gauge.minimum());
+    QCOMPARE(gauge.property("max").toDouble(), gauge.maximum());
+    QCOMPARE(gauge.property("value").toDouble(), gauge.value());
 }
 
-void TestQProg::maximumMoves_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<double>("set");
-    QTest::addColumn<QVector<double>>("minMaxValue");
-
-    QTest::newRow("below the minimum: swapped") << 10.0 << -50.0 << QVector<double>{-50, 0, -50};
-    QTest::newRow("lowered: the value stays above") << 80.0 << 50.0 << QVector<double>{0, 50, 80};
-    QTest::newRow("raised") << 80.0 << 500.0 << QVector<double>{0, 500, 80};
-    QTest::newRow("at the minimum") << 80.0 << 0.0 << QVector<double>{0, 0, 80};
-}
-
-void TestQProg::maximumMoves()
-{
-    QFETCH(double, value);
-    QFETCH(double, set);
-    QProg gauge(nullptr);
-    gauge.setValue(value);
-    gauge.setMaxValue(set);
-    QTEST((QVector<double>{gauge.minimum(), gauge.maximum(), gauge.value()}), "minMaxValue");
-}
-
-void TestQProg::rectanglesFollowTheWidth()
+void TestQProg::shapesFollowTheWidth()
 {
     QCOMPARE(qprog::frameRect(251), QRectF(5, 5, 246, 70));
     QCOMPARE(qprog::troughRect(251), QRectF(10, 10, 234, 60));
@@ -194,6 +144,13 @@ void TestQProg::rectanglesFollowTheWidth()
     QCOMPARE(qprog::troughRect(1000), QRectF(10, 10, 983, 60));
     QCOMPARE(qprog::emptyRangeBlocks(),
              QVector<QRectF>({{40, 10, 40, 60}, {130, 10, 40, 60}, {220, 10, 40, 60}, {310, 10, 40, 60}}));
+    const QVector<QLineF> ticks = qprog::tickLines(250);
+    QCOMPARE(ticks.size(), 26);
+    QCOMPARE(ticks.first(), QLineF(20, 10, 20, 70));
+    QCOMPARE(ticks.at(1), QLineF(30, 10, 30, 70));
+    QCOMPARE(ticks.last(), QLineF(270, 10, 270, 70));
+    QCOMPARE(qprog::tickLines(249).size(), 25);
+    QCOMPARE(qprog::tickLines(0).size(), 1);
 }
 
 void TestQProg::barLengthFollowsTheValue_data()
@@ -214,9 +171,9 @@ void TestQProg::barLengthFollowsTheValue_data()
     row("below zero", -200, -100, -150, 120);
     row("below zero, empty", -200, -100, -200, 0);
     row("below zero, full", -200, -100, -100, 240);
-    row("too wide to be computed", -huge, huge, 0, 0);
-    row("without bounds above", 0, infinity, 5, 0);
-    row("without bounds below", -infinity, -1, -5, 0);
+    row("range that overflows", -huge, huge, 0, 0);
+    row("infinite maximum", 0, infinity, 5, 0);
+    row("infinite minimum", -infinity, -1, -5, 0);
 }
 
 void TestQProg::barLengthFollowsTheValue()
@@ -237,18 +194,7 @@ void TestQProg::bothFormsOfTheBarLengthAgree()
     }
 }
 
-void TestQProg::tickLinesReachTheRightEdge()
-{
-    const QVector<QLineF> lines = qprog::tickLines(250);
-    QCOMPARE(lines.size(), 26);
-    QCOMPARE(lines.first(), QLineF(20, 10, 20, 70));
-    QCOMPARE(lines.at(1), QLineF(30, 10, 30, 70));
-    QCOMPARE(lines.last(), QLineF(270, 10, 270, 70));
-    QCOMPARE(qprog::tickLines(249).size(), 25);
-    QCOMPARE(qprog::tickLines(0).size(), 1);
-}
-
-void TestQProg::shareIsTold_data()
+void TestQProg::shareIsInWholePercent_data()
 {
     QTest::addColumn<double>("min");
     QTest::addColumn<double>("max");
@@ -259,41 +205,41 @@ void TestQProg::shareIsTold_data()
         QTest::newRow(name) << min << max << value << share;
     };
     row("empty", 0, 100, 0, "0 %");
-    row("zero with a sign", 0, 100, -0.0, "0 %");
-    row("a share that binary fractions miss", 0, 100, 29, "29 %");
+    row("negative zero", 0, 100, -0.0, "0 %");
+    row("a share that binary fractions can't represent", 0, 100, 29, "29 %");
     row("rounded down", 0, 100, 99.9, "99 %");
     row("full", 0, 100, 100, "100 %");
-    row("of another range", -200, -100, -150, "50 %");
+    row("negative range", -200, -100, -150, "50 %");
     row("outside the range", 50, 100, 10, "");
-    row("without a range", 5, 5, 5, "");
+    row("empty range", 5, 5, 5, "");
     row("not a number", 0, 100, notANumber, "");
-    row("without bounds", 0, infinity, infinity, "");
-    row("too wide to be computed", -huge, huge, huge, "");
+    row("infinite maximum", 0, infinity, infinity, "");
+    row("range that overflows", -huge, huge, huge, "");
 }
 
-void TestQProg::shareIsTold()
+void TestQProg::shareIsInWholePercent()
 {
     QFETCH(double, min);
     QFETCH(double, max);
     QFETCH(double, value);
-    QFETCH(QString, share);
     QTEST(qprog::shareText(min, max, value), "share");
 }
 
-void TestQProg::assistiveTechnologyReadsCaptionAndShare()
+void TestQProg::accessibleTextsAreCaptionAndShare()
 {
     QProg gauge(nullptr);
     gauge.setAccessibleName("Free memory");
     const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&gauge);
     QVERIFY(interface);
     QCOMPARE(interface->text(QAccessible::Name), QString("Free memory"));
-    QCOMPARE(interface->text(QAccessible::Description), QString("0 %"));
+    const auto description = [interface] { return interface->text(QAccessible::Description); };
+    QCOMPARE(description(), QString("0 %"));
     gauge.setValue(42);
-    QCOMPARE(interface->text(QAccessible::Description), QString("42 %"));
+    QCOMPARE(description(), QString("42 %"));
     gauge.setMaxValue(84);
-    QCOMPARE(interface->text(QAccessible::Description), QString("50 %"));
+    QCOMPARE(description(), QString("50 %"));
     gauge.setMinValue(43);
-    QCOMPARE(interface->text(QAccessible::Description), QString());
+    QCOMPARE(description(), QString());
 }
 
 QTEST_MAIN(TestQProg)

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "histopicture.h"
 
-#include <QApplication>
 #include <QMetaMethod>
-#include <QtTest>
 
 #include <utility>
 
@@ -54,19 +52,19 @@ class TestTimeHisto : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theSlotsStandInTheirOrder();
+    void slotsAreInOrder();
     void theAmountsLagOnePaintBehind();
     void withOneSeriesOnlyGridAndLegendAreDrawn_data();
     void withOneSeriesOnlyGridAndLegendAreDrawn();
     void theLargestOfTheLastHundredSamplesSetsTheScale();
     void paintingChangesNoSample();
-    void everyNewSampleAsksForAPaint();
-    void aNewIntervalEmptiesWithoutAPaint();
-    void clearingEmptiesWithAPaint();
-    void assistiveTechnologyIsToldTheNewestSamples();
+    void everyNewSampleSchedulesAPaint();
+    void aNewIntervalDiscardsTheSamplesWithoutAPaint();
+    void clearingDiscardsTheSamplesWithAPaint();
+    void theAccessibleDescriptionGivesTheNewestSamples();
 };
 
-void TestTimeHisto::theSlotsStandInTheirOrder()
+void TestTimeHisto::slotsAreInOrder()
 {
     const QMetaObject &meta = TimeHisto::staticMetaObject;
     QList<QByteArray> slots;
@@ -80,13 +78,14 @@ void TestTimeHisto::theSlotsStandInTheirOrder()
 void TestTimeHisto::theAmountsLagOnePaintBehind()
 {
     TimeHisto histo(nullptr, 3);
-    QCOMPARE(paint(histo).copy(usualAmounts), amountsFor(0));
+    const auto amounts = [&histo] { return paint(histo).copy(usualAmounts); };
+    QCOMPARE(amounts(), amountsFor(0));
     add(histo, 1536, 100);
-    QCOMPARE(paint(histo).copy(usualAmounts), amountsFor(0));
-    QCOMPARE(paint(histo).copy(usualAmounts), amountsFor(1536));
+    QCOMPARE(amounts(), amountsFor(0));
+    QCOMPARE(amounts(), amountsFor(1536));
     add(histo, 5, 5000);
-    QCOMPARE(paint(histo).copy(usualAmounts), amountsFor(1536));
-    QCOMPARE(paint(histo).copy(usualAmounts), amountsFor(5000));
+    QCOMPARE(amounts(), amountsFor(1536));
+    QCOMPARE(amounts(), amountsFor(5000));
 }
 
 void TestTimeHisto::withOneSeriesOnlyGridAndLegendAreDrawn_data()
@@ -117,9 +116,7 @@ void TestTimeHisto::theLargestOfTheLastHundredSamplesSetsTheScale()
 {
     TimeHisto histo(nullptr, 3);
     add(histo, 5000, 0);
-    for (int i = 0; i < 99; ++i) {
-        add(histo, 40, 10);
-    }
+    add(histo, 40, 10, 99);
     paint(histo);
     QCOMPARE(paint(histo).copy(usualAmounts), amountsFor(5000));
     add(histo, 40, 10);
@@ -141,7 +138,7 @@ void TestTimeHisto::paintingChangesNoSample()
     QCOMPARE(paint(histo), second);
 }
 
-void TestTimeHisto::everyNewSampleAsksForAPaint()
+void TestTimeHisto::everyNewSampleSchedulesAPaint()
 {
     TimeHisto histo(nullptr, 3);
     PaintCounter paints(histo);
@@ -150,16 +147,15 @@ void TestTimeHisto::everyNewSampleAsksForAPaint()
     histo.addValueIn(1);
     QCOMPARE(paints.take(), 1);
     histo.addValueOut(1);
-    QCOMPARE(paints.take(), 1); // and the labels of the new maximum wait for the next
+    QCOMPARE(paints.take(), 1); // the labels of the new maximum wait for the next one
 }
 
-void TestTimeHisto::aNewIntervalEmptiesWithoutAPaint()
+void TestTimeHisto::aNewIntervalDiscardsTheSamplesWithoutAPaint()
 {
     TimeHisto histo(nullptr, 3);
     PaintCounter paints(histo);
     QVERIFY(paints.ready);
-    add(histo, 10, 20);
-    add(histo, 10, 20);
+    add(histo, 10, 20, 2);
     QCOMPARE(paints.take(), 1);
     QVERIFY(countPixels(paint(histo), usualPlot, isAnyColour) > 0);
     paints.take();
@@ -172,38 +168,34 @@ void TestTimeHisto::aNewIntervalEmptiesWithoutAPaint()
     QCOMPARE(image.copy(usualAmounts), amountsFor(20)); // the maximum is kept
 }
 
-void TestTimeHisto::clearingEmptiesWithAPaint()
+void TestTimeHisto::clearingDiscardsTheSamplesWithAPaint()
 {
     TimeHisto histo(nullptr, 3);
     PaintCounter paints(histo);
     QVERIFY(paints.ready);
-    for (int i = 0; i < 101; ++i) {
-        add(histo, 10, 20);
-    }
+    add(histo, 10, 20, 101);
     paints.take();
     histo.clear();
     QCOMPARE(paints.take(), 1);
     QCOMPARE(countPixels(paint(histo), usualPlot, isAnyColour), 0);
 
-    for (int i = 0; i < 2; ++i) {
-        add(histo, 30, 30);
-    }
+    add(histo, 30, 30, 2);
     const QImage image = paint(histo);
     QVERIFY(isRed(image.pixel(622, 15)));
-    QVERIFY(!isRed(image.pixel(612, 15))); // the samples before are gone
+    QVERIFY(!isRed(image.pixel(612, 15))); // the earlier samples are discarded
 }
 
-void TestTimeHisto::assistiveTechnologyIsToldTheNewestSamples()
+void TestTimeHisto::theAccessibleDescriptionGivesTheNewestSamples()
 {
     TimeHisto histo(nullptr, 3);
-    QCOMPARE(histo.accessibleName(), QStringLiteral("Network traffic"));
+    QCOMPARE(histo.accessibleName(), QString("Network traffic"));
     QCOMPARE(histo.accessibleDescription(), QString());
     histo.addValueIn(1536);
     QCOMPARE(histo.accessibleDescription(), QString());
     histo.addValueOut(100);
-    QCOMPARE(histo.accessibleDescription(), QStringLiteral("In: 1.50 KB, Out: 100.00 B"));
+    QCOMPARE(histo.accessibleDescription(), QString("In: 1.50 KB, Out: 100.00 B"));
     add(histo, 0, 0xffffffffU);
-    QCOMPARE(histo.accessibleDescription(), QStringLiteral("In: 0.00 B, Out: 4.00 GB"));
+    QCOMPARE(histo.accessibleDescription(), QString("In: 0.00 B, Out: 4.00 GB"));
     histo.setInterval(1);
     QCOMPARE(histo.accessibleDescription(), QString());
     add(histo, 1, 1);
@@ -211,13 +203,9 @@ void TestTimeHisto::assistiveTechnologyIsToldTheNewestSamples()
     QCOMPARE(histo.accessibleDescription(), QString());
 }
 
-// Positions and labels are those of 96 dpi, whatever the display has.
 int main(int argc, char *argv[])
 {
-    qputenv("QT_FONT_DPI", "96");
-    QApplication application(argc, argv);
-    TestTimeHisto test;
-    return QTest::qExec(&test, argc, argv);
+    return runAt96Dpi<TestTimeHisto>(argc, argv);
 }
 
 #include "test_timehisto.moc"

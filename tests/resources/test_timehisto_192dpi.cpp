@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The smallest rectangle around what is not white in `part`.
+/// Bounding rectangle of the dark pixels in `part`.
 QRect inkIn(const QImage &image, const QRect &part)
 {
     QRect ink;
@@ -70,7 +70,7 @@ void TestTimeHisto192Dpi::noLabelIsCut()
 {
     const QImage image = busyGraph();
     const QRect amount = inkIn(image, QRect(1, 1, 68, 60)); // up to where the grid begins
-    QVERIFY(amount.width() > 40);                           // the label is there
+    QVERIFY(amount.width() > 40);                           // there is a label
     QVERIFY(amount.left() >= 2);
     QVERIFY(amount.right() <= 67);
     const QRect time = inkIn(image, QRect(210, 387, 428, 12)); // between the base line and the border

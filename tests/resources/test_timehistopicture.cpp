@@ -1,29 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "histopicture.h"
 
-#include <QApplication>
-#include <QTranslator>
-#include <QtTest>
+#include "../support/brackettranslator.h"
 
 #include <limits>
 
 using namespace histopicture;
-
-namespace {
-
-/// Shouts what is asked for in the graph's context.
-class Shouting : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *source, const char * /*disambiguation*/,
-                      int /*n*/) const override
-    {
-        return qstrcmp(context, "TimeHisto") == 0 ? QString::fromLatin1(source).toUpper() : QString();
-    }
-};
-
-} // namespace
 
 class TestTimeHistoPicture : public QObject
 {
@@ -32,16 +14,15 @@ class TestTimeHistoPicture : public QObject
 private Q_SLOTS:
     void theWidgetIsWhiteWithABlackBorder();
     void elevenAndFiveGridLinesAreDrawn();
-    void theTimesCountBackFromTheRight_data();
-    void theTimesCountBackFromTheRight();
+    void timesCountBackFromTheRight_data();
+    void timesCountBackFromTheRight();
     void theSeriesAreDrawnBlueAndRedOverOneScale();
-    void outgoingLiesOverIncoming();
     void aSingleSampleIsADot();
     void zerosAreDrawnOnTheBaseLine();
-    void aWrappedSampleRisesOutOfTheTop();
+    void aWrappedSampleLeavesTheTop();
     void theLegendNamesBothSeries();
     void thePlotIsTheSameInEveryPalette();
-    void theLegendStandsBesideItsSwatchesInRightToLeftLayoutsToo();
+    void theLegendIsTheSameInRightToLeftLayouts();
     void everySizeIsDrawn_data();
     void everySizeIsDrawn();
 };
@@ -50,14 +31,11 @@ void TestTimeHistoPicture::theWidgetIsWhiteWithABlackBorder()
 {
     TimeHisto histo(nullptr, 3);
     const QImage image = paint(histo);
-    for (int x = 0; x < usual.width(); ++x) {
-        QCOMPARE(image.pixelColor(x, 0), QColor(Qt::black));
-        QCOMPARE(image.pixelColor(x, usual.height() - 1), QColor(Qt::black));
-    }
-    for (int y = 0; y < usual.height(); ++y) {
-        QCOMPARE(image.pixelColor(0, y), QColor(Qt::black));
-        QCOMPARE(image.pixelColor(usual.width() - 1, y), QColor(Qt::black));
-    }
+    const auto isBlack = [](QRgb pixel) { return pixel == qRgb(0, 0, 0); };
+    QCOMPARE(countPixels(image, QRect(0, 0, 640, 1), isBlack), 640);
+    QCOMPARE(countPixels(image, QRect(0, 399, 640, 1), isBlack), 640);
+    QCOMPARE(countPixels(image, QRect(0, 0, 1, 400), isBlack), 400);
+    QCOMPARE(countPixels(image, QRect(639, 0, 1, 400), isBlack), 400);
     QCOMPARE(image.pixelColor(2, 2), QColor(Qt::white));
     QCOMPARE(image.pixelColor(637, 397), QColor(Qt::white));
 }
@@ -72,15 +50,15 @@ void TestTimeHistoPicture::elevenAndFiveGridLinesAreDrawn()
              QVector<int>({70, 125, 181, 236, 292, 347, 403, 458, 514, 569, 625}));
 }
 
-void TestTimeHistoPicture::theTimesCountBackFromTheRight_data()
+void TestTimeHistoPicture::timesCountBackFromTheRight_data()
 {
     QTest::addColumn<int>("interval");
     for (int interval : {1, 2, 3, 5}) {
-        QTest::newRow(qPrintable(QString::number(interval))) << interval;
+        QTest::addRow("%d", interval) << interval;
     }
 }
 
-void TestTimeHistoPicture::theTimesCountBackFromTheRight()
+void TestTimeHistoPicture::timesCountBackFromTheRight()
 {
     QFETCH(int, interval);
     TimeHisto histo(nullptr, interval);
@@ -90,27 +68,19 @@ void TestTimeHistoPicture::theTimesCountBackFromTheRight()
 void TestTimeHistoPicture::theSeriesAreDrawnBlueAndRedOverOneScale()
 {
     TimeHisto histo(nullptr, 3);
-    for (int i = 0; i < 100; ++i) {
-        add(histo, 100, 200);
-    }
+    add(histo, 100, 200, 100);
     const QImage image = paint(histo);
     QCOMPARE(rowsOf(image, usualPlot, isRed), QVector<int>({15}));
     QCOMPARE(rowsOf(image, usualPlot, isBlue), QVector<int>({200}));
     QVERIFY(isRed(image.pixel(623, 15)));
     QVERIFY(!isRed(image.pixel(628, 15)));
-    QVERIFY(isRed(image.pixel(77, 15))); // the oldest sample lies at 75
+    QVERIFY(isRed(image.pixel(77, 15))); // the oldest sample is at 75
     QVERIFY(!isRed(image.pixel(72, 15)));
-}
 
-void TestTimeHistoPicture::outgoingLiesOverIncoming()
-{
-    TimeHisto histo(nullptr, 3);
-    for (int i = 0; i < 100; ++i) {
-        add(histo, 200, 200);
-    }
-    const QImage image = paint(histo);
-    QCOMPARE(rowsOf(image, usualPlot, isRed), QVector<int>({15}));
-    QVERIFY(rowsOf(image, usualPlot, isBlue).isEmpty());
+    add(histo, 200, 200, 100); // outgoing is drawn over incoming
+    const QImage same = paint(histo);
+    QCOMPARE(rowsOf(same, usualPlot, isRed), QVector<int>({15}));
+    QVERIFY(rowsOf(same, usualPlot, isBlue).isEmpty());
 }
 
 void TestTimeHistoPicture::aSingleSampleIsADot()
@@ -126,24 +96,22 @@ void TestTimeHistoPicture::aSingleSampleIsADot()
 void TestTimeHistoPicture::zerosAreDrawnOnTheBaseLine()
 {
     TimeHisto histo(nullptr, 3);
-    for (int i = 0; i < 10; ++i) {
-        add(histo, 0, 0);
-    }
+    add(histo, 0, 0, 10);
     const QImage image = paint(histo);
     QVERIFY(isRed(image.pixel(600, 385)) && isRed(image.pixel(577, 385)));
     QCOMPARE(countPixels(image, QRect(110, 1, 529, 382), isAnyColour), 0);
     QCOMPARE(paint(histo).copy(usualAmounts), amountsFor(0));
 }
 
-void TestTimeHistoPicture::aWrappedSampleRisesOutOfTheTop()
+void TestTimeHistoPicture::aWrappedSampleLeavesTheTop()
 {
     TimeHisto histo(nullptr, 3);
     add(histo, 100, 100);
-    add(histo, 0xfffffc18U, 100); // a counter that fell back by 1000
+    add(histo, 0xfffffc18U, 100); // a counter that decreased by 1000
     add(histo, 100, 100);
     paint(histo);
     const QImage image = paint(histo);
-    QCOMPARE(image.copy(usualAmounts), amountsFor(100)); // as a signed number it is no maximum
+    QCOMPARE(image.copy(usualAmounts), amountsFor(100)); // as a signed number it is not the maximum
     QVERIFY(countPixels(image, QRect(612, 1, 15, 12), isBlue) >= 12);
     QCOMPARE(countPixels(image, QRect(110, 1, 500, 12), isBlue), 0);
 }
@@ -159,19 +127,17 @@ void TestTimeHistoPicture::theLegendNamesBothSeries()
     };
     QVERIFY(only(QRect(10, 340, 20, 20), Qt::blue));
     QVERIFY(only(QRect(10, 370, 20, 20), Qt::red));
-    QVERIFY(only(QRect(60, 337, 38, 55), Qt::white)); // no grid shines through the box
+    QVERIFY(only(QRect(60, 337, 38, 55), Qt::white)); // the box hides the grid
     QVERIFY(isInk(image.pixel(5, 360)) && isInk(image.pixel(99, 360)) && isInk(image.pixel(50, 335)) &&
             isInk(image.pixel(50, 394)));
     const QRect in(35, 345, 20, 20), out(35, 375, 20, 20);
     QVERIFY(countPixels(image, in, isInk) > 5 && countPixels(image, out, isInk) > 5);
 
-    Shouting translator;
-    QCoreApplication::installTranslator(&translator);
-    const QImage shouted = paint(histo);
-    QCoreApplication::removeTranslator(&translator);
-    QVERIFY(shouted.copy(in) != image.copy(in));
-    QVERIFY(shouted.copy(out) != image.copy(out));
-    QCOMPARE(shouted.copy(110, 0, 530, 400), image.copy(110, 0, 530, 400));
+    const BracketTranslator translator("TimeHisto");
+    const QImage translated = paint(histo);
+    QVERIFY(translated.copy(in) != image.copy(in));
+    QVERIFY(translated.copy(out) != image.copy(out));
+    QCOMPARE(translated.copy(110, 0, 530, 400), image.copy(110, 0, 530, 400));
 }
 
 void TestTimeHistoPicture::thePlotIsTheSameInEveryPalette()
@@ -186,12 +152,12 @@ void TestTimeHistoPicture::thePlotIsTheSameInEveryPalette()
     QCOMPARE(paint(histo), usualImage);
 }
 
-void TestTimeHistoPicture::theLegendStandsBesideItsSwatchesInRightToLeftLayoutsToo()
+void TestTimeHistoPicture::theLegendIsTheSameInRightToLeftLayouts()
 {
     const QRect legend(0, 330, 140, 70);
     TimeHisto histo(nullptr, 3);
     histo.resize(usual);
-    const QImage leftToRight = histo.grab().toImage(); // render() to an image leaves the direction out
+    const QImage leftToRight = histo.grab().toImage(); // render() to an image ignores the direction
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     const QImage rightToLeft = histo.grab().toImage();
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
@@ -216,18 +182,14 @@ void TestTimeHistoPicture::everySizeIsDrawn()
         QCOMPARE(paint(histo, size).pixelColor(0, 0), QColor(Qt::black));
     }
     histo.clear();
-    add(histo, 0xffffffffU, 0x80000000U); // nothing but negative values
+    add(histo, 0xffffffffU, 0x80000000U); // only negative values
     paint(histo, size);
     QCOMPARE(paint(histo, size).pixelColor(0, size.height() - 1), QColor(Qt::black));
 }
 
-// Positions and labels are those of 96 dpi, whatever the display has.
 int main(int argc, char *argv[])
 {
-    qputenv("QT_FONT_DPI", "96");
-    QApplication application(argc, argv);
-    TestTimeHistoPicture test;
-    return QTest::qExec(&test, argc, argv);
+    return runAt96Dpi<TestTimeHistoPicture>(argc, argv);
 }
 
 #include "test_timehistopicture.moc"
