@@ -11,23 +11,6 @@ namespace {
 
 const QString prefix = QStringLiteral("zarn-system-monitor_");
 
-Message readMessage(QXmlStreamReader &xml, const QString &context)
-{
-    Message message;
-    message.context = context;
-    while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("source")) {
-            message.source = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
-            message.finished = !xml.attributes().hasAttribute(QLatin1String("type"));
-            message.translation = xml.readElementText();
-        } else {
-            xml.skipCurrentElement();
-        }
-    }
-    return message;
-}
-
 std::vector<Message> readFile(const QString &path)
 {
     std::vector<Message> messages;
@@ -44,8 +27,11 @@ std::vector<Message> readFile(const QString &path)
         }
         if (xml.name() == QLatin1String("name")) {
             context = xml.readElementText();
-        } else if (xml.name() == QLatin1String("message")) {
-            messages.push_back(readMessage(xml, context));
+        } else if (xml.name() == QLatin1String("source")) {
+            messages.push_back({context, xml.readElementText(), QString(), false});
+        } else if (xml.name() == QLatin1String("translation")) {
+            messages.back().finished = !xml.attributes().hasAttribute(QLatin1String("type"));
+            messages.back().translation = xml.readElementText();
         }
     }
     return xml.hasError() ? std::vector<Message>() : messages;
@@ -56,9 +42,8 @@ std::vector<Message> readFile(const QString &path)
 QStringList catalogueLanguages()
 {
     QStringList languages;
-    const QStringList files =
-        QDir(QStringLiteral(ZSM_TRANSLATIONS)).entryList({prefix + QLatin1String("*.ts")}, QDir::Files);
-    for (const QString &file : files) {
+    const QDir folder(QStringLiteral(ZSM_TRANSLATIONS));
+    for (const QString &file : folder.entryList({prefix + QLatin1String("*.ts")}, QDir::Files)) {
         languages << file.mid(prefix.size()).section(QLatin1Char('.'), 0, 0);
     }
     return languages;

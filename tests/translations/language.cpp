@@ -3,28 +3,21 @@
 
 #include "app/translations.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 #include <QTranslator>
 #include <QtTest>
 
-InLanguage::InLanguage(const QString &language)
-{
-    QLocale::setDefault(QLocale(language));
-    installTranslations(qApp);
-}
-
-InLanguage::~InLanguage()
+void useLanguage(const QString &locale)
 {
     qDeleteAll(qApp->findChildren<QTranslator *>());
-    QLocale::setDefault(QLocale::c());
+    QLocale::setDefault(QLocale(locale));
+    installTranslations(qApp);
 }
 
 void everyLanguage()
 {
     QTest::addColumn<QString>("language");
-    const QStringList languages = QStringList{QStringLiteral("C")} + availableTranslations();
-    for (const QString &language : languages) {
+    for (const QString &language : QStringList{"C"} + availableTranslations()) {
         QTest::newRow(qPrintable(language)) << language;
     }
 }

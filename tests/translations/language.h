@@ -4,17 +4,10 @@
 
 #include <QString>
 
-/// Makes the application's texts come in a language for as long as it lives; "C" stands for the source texts.
-class InLanguage
-{
-public:
-    explicit InLanguage(const QString &language);
-    ~InLanguage();
-    InLanguage(const InLanguage &) = delete;
-    InLanguage &operator=(const InLanguage &) = delete;
-};
+/// Translates the application's texts to the language of a locale; "C" stands for the source texts.
+void useLanguage(const QString &locale);
 
-/// One row per language, "C" among them, in a column "language".
+/// One row per language, "C" included, in the column "language".
 void everyLanguage();
 
 #endif
