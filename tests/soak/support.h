@@ -2,10 +2,11 @@
 #ifndef TESTS_SOAK_SUPPORT_H
 #define TESTS_SOAK_SUPPORT_H
 
+#include "process/proxyprocmodel.h"
 #include "tests/app/fixture.h"
 
+#include <QAction>
 #include <QDir>
-#include <QFile>
 
 #include <malloc.h>
 #include <sys/resource.h>
@@ -21,6 +22,22 @@ inline int runSize(const char *variable, int usual)
 inline void refresh(Fixture &fixture)
 {
     QMetaObject::invokeMethod(&fixture.updater(), "update", Q_ARG(bool, true));
+}
+
+inline ProxyProcModel *processList()
+{
+    return qobject_cast<ProxyProcModel *>(Fixture::find<QTreeView>("treeView")->model());
+}
+
+/// An action of the controller by its source text; nullptr if there is none.
+inline QAction *findAction(Fixture &fixture, const char *text)
+{
+    for (QAction *action : fixture.updater().findChildren<QAction *>()) {
+        if (action->text() == QLatin1String(text)) {
+            return action;
+        }
+    }
+    return nullptr;
 }
 
 inline int openDescriptors()
@@ -63,15 +80,8 @@ struct Resources
 {
     int descriptors;
     long allocated; ///< bytes of the heap; 0 if the sanitizer replaces the allocator
-    long residentKiB;
 
-    static Resources now()
-    {
-        QFile statm(QStringLiteral("/proc/self/statm"));
-        const QByteArray pages = statm.open(QIODevice::ReadOnly) ? statm.readAll() : QByteArray();
-        return {openDescriptors(), static_cast<long>(mallinfo2().uordblks),
-                pages.split(' ').value(1).toLong() * sysconf(_SC_PAGESIZE) / 1024};
-    }
+    static Resources now() { return {openDescriptors(), static_cast<long>(mallinfo2().uordblks)}; }
     static long peakKiB()
     {
         rusage usage = {};
@@ -80,10 +90,7 @@ struct Resources
     }
     QString text() const
     {
-        return QStringLiteral("%1 descriptors, %2 bytes allocated, %3 KiB resident")
-            .arg(descriptors)
-            .arg(allocated)
-            .arg(residentKiB);
+        return QStringLiteral("%1 descriptors, %2 bytes allocated").arg(descriptors).arg(allocated);
     }
 };
 

@@ -6,6 +6,8 @@
 
 #include <fcntl.h>
 
+#include <functional>
+
 namespace {
 
 bool noneIsLeft()
@@ -13,32 +15,23 @@ bool noneIsLeft()
     return open("/dev/null", O_RDONLY) == -1;
 }
 
-/// Lowers the limit on descriptors and uses up every one that is left; reverts both at the end of its life.
-class NoDescriptors
+/// Runs `act` with a lower limit on descriptors and every one that is left used up, then reverts both.
+void withNoneLeft(rlim_t limit, const std::function<void()> &act)
 {
-public:
-    explicit NoDescriptors(rlim_t limit)
-    {
-        getrlimit(RLIMIT_NOFILE, &before);
-        const rlimit lowered{limit, before.rlim_max};
-        setrlimit(RLIMIT_NOFILE, &lowered);
-        for (int taken = open("/dev/null", O_RDONLY); taken >= 0; taken = open("/dev/null", O_RDONLY)) {
-            hoard.push_back(taken);
-        }
-    }
-    ~NoDescriptors()
-    {
-        for (int taken : hoard) {
-            close(taken);
-        }
-        setrlimit(RLIMIT_NOFILE, &before);
-    }
-
-private:
-    Q_DISABLE_COPY(NoDescriptors)
     rlimit before;
+    getrlimit(RLIMIT_NOFILE, &before);
+    const rlimit lowered{limit, before.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &lowered);
     std::vector<int> hoard;
-};
+    for (int taken = open("/dev/null", O_RDONLY); taken >= 0; taken = open("/dev/null", O_RDONLY)) {
+        hoard.push_back(taken);
+    }
+    act();
+    for (int taken : hoard) {
+        close(taken);
+    }
+    setrlimit(RLIMIT_NOFILE, &before);
+}
 
 class SeenForTheFirstTime
 {
@@ -68,31 +61,28 @@ private Q_SLOTS:
     void withNoneLeftARefreshShowsTheMachine()
     {
         makeFiguresStale();
-        {
-            const NoDescriptors none(256);
+        withNoneLeft(256, [this] {
             QVERIFY(noneIsLeft());
             for (int i = 0; i < 3; ++i) {
                 refresh(*fixture);
             }
             QVERIFY(noneIsLeft()); // the reserve is held again
-        }
+        });
         QVERIFY(Fixture::text("lblMemTotal") != QStringLiteral("stale"));
         QVERIFY(Fixture::text("lblMemFree") != QStringLiteral("stale"));
         QVERIFY(listsThisProcess());
-        QVERIFY(processes()->rowCount() > 1);
+        QVERIFY(processList()->rowCount() > 1);
         QVERIFY(Fixture::find<QComboBox>("comboNet")->count() > 0);
     }
 
     void belowTheReserveTheLastFiguresStay()
     {
         const QString memory = Fixture::text("lblMemTotal");
-        const int rows = processes()->rowCount();
-        {
-            const NoDescriptors none(3); // below the descriptors in use, so closing one frees none
-            refresh(*fixture);
-        }
+        const int rows = processList()->rowCount();
+        // Below the descriptors in use, so closing one frees none.
+        withNoneLeft(3, [this] { refresh(*fixture); });
         QCOMPARE(Fixture::text("lblMemTotal"), memory);
-        QCOMPARE(processes()->rowCount(), rows);
+        QCOMPARE(processList()->rowCount(), rows);
         makeFiguresStale();
         refresh(*fixture);
         QCOMPARE(Fixture::text("lblMemTotal"), memory);
@@ -101,11 +91,10 @@ private Q_SLOTS:
     void ticksWithoutARefreshStillCount()
     {
         Fixture::choosePage(0); // refreshed by tick 0
-        {
-            const NoDescriptors none(3);
+        withNoneLeft(3, [this] {
             QMetaObject::invokeMethod(&fixture->updater(), "update"); // 1
             QMetaObject::invokeMethod(&fixture->updater(), "update"); // 2
-        }
+        });
         standin::resetCalls();
         QMetaObject::invokeMethod(&fixture->updater(), "update"); // 3 is due
         QCOMPARE(standin::calls().memory, 1U);
@@ -114,10 +103,7 @@ private Q_SLOTS:
     void withNoneLeftTheSettingsAreSaved()
     {
         QVERIFY(!QFile::exists(Fixture::settingsFile()));
-        {
-            const NoDescriptors none(256);
-            fixture->stop();
-        }
+        withNoneLeft(256, [this] { fixture->stop(); });
         QVERIFY(QFile::exists(Fixture::settingsFile()));
         QCOMPARE(QSettings().value(QStringLiteral("interval/general")).toInt(), 3);
     }
@@ -136,18 +122,17 @@ private Q_SLOTS:
     void withNoneLeftTheSanitizersReportNoFalsePositive()
     {
         const std::unique_ptr<SeenForTheFirstTime> object(new SeenForTheFirstTime);
-        const NoDescriptors none(256);
-        QCOMPARE(object->answer(), 42);
-        QVERIFY(noneIsLeft()); // the sanitizer has restored the limit
+        withNoneLeft(256, [&] {
+            QCOMPARE(object->answer(), 42);
+            QVERIFY(noneIsLeft()); // the sanitizer has restored the limit
+        });
     }
 
 private:
-    static QAbstractItemModel *processes() { return Fixture::find<QTreeView>("treeView")->model(); }
-
     static bool listsThisProcess()
     {
-        for (int row = 0; row < processes()->rowCount(); ++row) {
-            const QModelIndex index = processes()->index(row, 0);
+        for (int row = 0; row < processList()->rowCount(); ++row) {
+            const QModelIndex index = processList()->index(row, 0);
             if (static_cast<pid_t>(index.internalId()) == getpid() ||
                 index.data().toString().contains(QStringLiteral("test_descr"))) {
                 return true;

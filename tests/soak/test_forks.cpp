@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/filler.h"
-#include "process/proxyprocmodel.h"
 #include "support.h"
 
 #include <QtTest>
@@ -73,11 +72,6 @@ private Q_SLOTS:
     }
 
 private:
-    static ProxyProcModel *list()
-    {
-        return qobject_cast<ProxyProcModel *>(Fixture::find<QTreeView>("treeView")->model());
-    }
-
     /// Refreshes the list and the tree, each once a second and then as fast as it can.
     Load refreshUnderLoad(int milliseconds)
     {
@@ -86,8 +80,8 @@ private:
         Load load;
         for (bool flat : {true, false}) {
             Fixture::choosePage(1);
-            list()->setProcessTypes(gtop_wrappers::AllProcesses);
-            list()->setFlat(flat);
+            processList()->setProcessTypes(gtop_wrappers::AllProcesses);
+            processList()->setFlat(flat);
             refresh(fixture);
             for (int pause : {1000, 10}) {
                 for (const QDeadlineTimer end(milliseconds / 4); !end.hasExpired(); ++load.refreshes) {
@@ -108,12 +102,12 @@ private:
     /// so there only the rows that it shows are checked.
     QStringList wronglyListed(bool flat)
     {
-        list()->setFlat(flat);
+        processList()->setFlat(flat);
         const std::set<int> before = runningPids();
         refresh(fixture);
         const std::set<int> after = runningPids();
         std::multiset<int> listed;
-        collectPids(*list(), QModelIndex(), listed);
+        collectPids(*processList(), QModelIndex(), listed);
         QStringList wrong;
         for (int pid : before) {
             const auto times = listed.count(pid);

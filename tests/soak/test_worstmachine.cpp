@@ -150,7 +150,7 @@ private Q_SLOTS:
         for (const auto &[name, machine] : machinesByName()) {
             standin::machine() = machine;
             showAllPages();
-            QVERIFY2((processes()->rowCount() > 0) != machine.processes->empty(), name);
+            QVERIFY2((processList()->rowCount() > 0) != machine.processes->empty(), name);
         }
         QCOMPARE(messages.text(), QString());
     }
@@ -160,9 +160,9 @@ private Q_SLOTS:
         standin::machine() = badlyNamedMachine();
         fixture->start(1);
         int seen = 0;
-        for (int row = 0; row < processes()->rowCount(); ++row) {
-            for (int column = 0; column < processes()->columnCount(); ++column, ++seen) {
-                for (const QChar character : processes()->index(row, column).data().toString()) {
+        for (int row = 0; row < processList()->rowCount(); ++row) {
+            for (int column = 0; column < processList()->columnCount(); ++column, ++seen) {
+                for (const QChar character : processList()->index(row, column).data().toString()) {
                     QVERIFY(character.category() != QChar::Other_Control);
                     QVERIFY(character.category() != QChar::Other_Format);
                 }
@@ -225,19 +225,17 @@ private Q_SLOTS:
             }
             refresh(*fixture);
             if (round % 3 == 0) {
-                toggleTree();
+                findAction(*fixture, "Tree view")->trigger();
             }
             QCoreApplication::processEvents();
         }
         alive.clear();
         refresh(*fixture);
-        QCOMPARE(processes()->rowCount(), 0);
+        QCOMPARE(processList()->rowCount(), 0);
         QCOMPARE(messages.text(), QString());
     }
 
 private:
-    static QAbstractItemModel *processes() { return Fixture::find<QTreeView>("treeView")->model(); }
-
     /// Shows each page, refreshes it twice and paints it.
     void showAllPages()
     {
@@ -254,15 +252,6 @@ private:
         Fixture::choosePage(0);
         Fixture::choosePage(3);
         return Fixture::find<QComboBox>("comboNet")->count();
-    }
-
-    void toggleTree()
-    {
-        for (QAction *action : fixture->updater().findChildren<QAction *>()) {
-            if (action->text() == QStringLiteral("Tree view")) {
-                action->trigger();
-            }
-        }
     }
 
     std::unique_ptr<Fixture> fixture;

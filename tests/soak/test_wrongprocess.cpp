@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/proxyprocmodel.h"
 #include "support.h"
 #include "tests/process/support/child.h"
 #include "tests/process/support/modaldriver.h"
@@ -30,7 +29,7 @@ private Q_SLOTS:
         addProcess(*asked, "asked");
         addProcess(*other, "other");
         fixture->start(1);
-        QCOMPARE(list()->rowCount(), 2);
+        QCOMPARE(processList()->rowCount(), 2);
         select("asked");
     }
 
@@ -90,7 +89,7 @@ private Q_SLOTS:
 
 private:
     static QTreeView *view() { return Fixture::find<QTreeView>("treeView"); }
-    static ProxyProcModel *list() { return qobject_cast<ProxyProcModel *>(view()->model()); }
+    QAction *killAction() { return findAction(*fixture, "Kill process"); }
     static std::map<int, standin::Process> &processes() { return *standin::machine().processes; }
 
     static void addProcess(const Child &child, const char *name)
@@ -104,20 +103,11 @@ private:
 
     static void select(const char *name)
     {
-        const QModelIndexList found = list()->match(list()->index(0, 0), Qt::DisplayRole, QLatin1String(name),
-                                                    1, Qt::MatchStartsWith | Qt::MatchRecursive);
+        const QModelIndexList found =
+            processList()->match(processList()->index(0, 0), Qt::DisplayRole, QLatin1String(name), 1,
+                                 Qt::MatchStartsWith | Qt::MatchRecursive);
         QCOMPARE(found.size(), 1);
         view()->setCurrentIndex(found.first());
-    }
-
-    QAction *killAction()
-    {
-        for (QAction *action : fixture->updater().findChildren<QAction *>()) {
-            if (action->text() == QStringLiteral("Kill process")) {
-                return action;
-            }
-        }
-        return nullptr;
     }
 
     void changesOfTheList()
@@ -140,8 +130,10 @@ private:
             processes()[asked->pid()] = kept;
             refresh(*fixture);
         });
-        addChange("column toggled", [] { list()->setColumnVisible(2, !list()->isColumnVisible(2)); });
-        addChange("own and all switched", [] { list()->setProcessTypes(1 - list()->processTypes()); });
+        addChange("column toggled",
+                  [] { processList()->setColumnVisible(2, !processList()->isColumnVisible(2)); });
+        addChange("own and all switched",
+                  [] { processList()->setProcessTypes(1 - processList()->processTypes()); });
         addChange("tree toggled", [] { toggleTree(); });
         addChange("tree toggled twice", [] {
             toggleTree();
@@ -156,7 +148,7 @@ private:
     }
 
     static void addChange(const char *name, const Change &change) { QTest::newRow(name) << change; }
-    static void toggleTree() { list()->setFlat(!list()->isFlat()); }
+    static void toggleTree() { processList()->setFlat(!processList()->isFlat()); }
 
     void runProgram(const std::string &name)
     {

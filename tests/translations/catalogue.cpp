@@ -58,10 +58,8 @@ std::vector<Message> sourceTexts()
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("texts.ts"));
+    qputenv("LUPDATE", ZSM_LUPDATE);
     QProcess update;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LUPDATE"), QStringLiteral(ZSM_LUPDATE));
-    update.setProcessEnvironment(environment);
     update.setStandardErrorFile(QProcess::nullDevice());
     update.start(QStringLiteral(ZSM_TRANSLATIONS "/update.sh"), {file});
     update.waitForFinished();

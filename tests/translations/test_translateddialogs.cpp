@@ -130,15 +130,12 @@ private:
         QVERIFY(dialog->width() <= 640);
         const auto *buttons = dialog->findChild<QDialogButtonBox *>();
         QVERIFY(buttons);
-        checkButton(buttons->button(QDialogButtonBox::Ok), "OK");
-        checkButton(buttons->button(QDialogButtonBox::Cancel), "Cancel");
-    }
-
-    static void checkButton(const QAbstractButton *button, const char *text)
-    {
-        if (button) {
-            QCOMPARE(button->text().remove(QLatin1Char('&')),
-                     QCoreApplication::translate("QPlatformTheme", text));
+        for (const auto &[kind, text] :
+             {std::pair(QDialogButtonBox::Ok, "OK"), std::pair(QDialogButtonBox::Cancel, "Cancel")}) {
+            if (const auto *button = buttons->button(kind)) {
+                QCOMPARE(button->text().remove(QLatin1Char('&')),
+                         QCoreApplication::translate("QPlatformTheme", text));
+            }
         }
     }
 
