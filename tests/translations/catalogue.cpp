@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue.h"
 
+#include "app/translations.h"
+
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTranslator>
 #include <QXmlStreamReader>
+#include <QtTest>
 
 namespace {
 
@@ -64,4 +69,19 @@ std::vector<Message> sourceTexts()
     update.start(QStringLiteral(ZSM_TRANSLATIONS "/update.sh"), {file});
     update.waitForFinished();
     return readFile(file);
+}
+
+void useLanguage(const QString &locale)
+{
+    qDeleteAll(qApp->findChildren<QTranslator *>());
+    QLocale::setDefault(QLocale(locale));
+    installTranslations(qApp);
+}
+
+void everyLanguage()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : QStringList{"C"} + availableTranslations()) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
 }

@@ -25,4 +25,9 @@ std::vector<Message> catalogue(const QString &language);
 /// The texts in the sources as they are now, untranslated; empty if they cannot be collected.
 std::vector<Message> sourceTexts();
 
+/// Translates the application's texts to the language of a locale; "C" stands for the source texts.
+void useLanguage(const QString &locale);
+/// One row per language of the program, "C" included, in the column "language".
+void everyLanguage();
+
 #endif

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/translations.h"
 #include "catalogue.h"
-#include "language.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "catalogue.h"
 #include "clipping.h"
 #include "integration/zarninit.h"
-#include "language.h"
 #include "process/proxyprocmodel.h"
 #include "tests/app/fixture.h"
 #include "tests/support/modal.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "catalogue.h"
 #include "clipping.h"
-#include "language.h"
 #include "resources/histogeometry.h"
 #include "tests/app/fixture.h"
 #include "tests/support/modal.h"
