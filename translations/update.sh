@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Brings the catalogues up to date with the texts in the sources: new texts come in unfinished, texts that are
-# gone leave. It renews every catalogue, or makes or renews those that are named:
+# Updates the catalogues from the texts in the sources: new texts are added as unfinished, obsolete ones removed.
+# Updates every catalogue by default; named ones are created or updated:
 #   translations/update.sh translations/zarn-system-monitor_fi.ts
-# A new language is also named in CMakeLists.txt.
+# A new language must be added to translations/CMakeLists.txt too.
 set -euo pipefail
 
 catalogues=()

@@ -7,6 +7,8 @@
 
 namespace {
 
+const QString unknown = QStringLiteral("Unknown CPU");
+
 QString modelOf(QString text)
 {
     QTextStream stream(&text);
@@ -17,15 +19,12 @@ QString modelOf(QString text)
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const QByteArray bytes = bytesOf(data, size);
-    QTextStream file(bytes);
+    QTextStream file(bytesOf(data, size));
     file.setCodec("UTF-8");
     const QString model = cpuModelFromText(file);
-    QTextStream whole(bytes);
-    whole.setCodec("UTF-8");
-    const QString text = whole.readAll();
+    file.seek(0);
+    const QString text = file.readAll();
 
-    const QString unknown = QStringLiteral("Unknown CPU");
     HOLDS(model == modelOf(text));
     HOLDS(model == unknown || text.contains(QLatin1String("model name")));
     HOLDS(model == model.simplified() && !model.contains(QLatin1Char(':')));

@@ -8,14 +8,12 @@
 
 namespace {
 
-constexpr int farthest = 1000000;
-
 bool isNear(int coordinate)
 {
-    return coordinate >= -farthest && coordinate <= farthest;
+    return coordinate >= -1000000 && coordinate <= 1000000;
 }
 
-// Enough of the title bar, or of the strip that stands for one, lies on one of the screens.
+/// Whether enough of the title bar, or of the strip used without one, lies on a screen.
 bool canBeCaught(const QRect &client, int titleBarHeight, const QVector<QRect> &screens)
 {
     const int height = std::max(titleBarHeight, 16);
@@ -47,7 +45,7 @@ void tryOn(const Placement &placement, const QVector<QRect> &screens)
 
 } // namespace
 
-// The fields of the settings file, with commas between.
+/// Input: the fields of the settings file, separated by commas.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QStringList fields = QString::fromUtf8(bytesOf(data, size)).split(QLatin1Char(','));

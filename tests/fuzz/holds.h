@@ -9,8 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// What every fuzz target defines: tries one text on its parser, and ends the program if something doesn't
-/// hold.
+/// The entry point of a fuzz target: runs the parser on one input and aborts if a condition does not hold.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 [[noreturn]] inline void doesNotHold(const char *condition, const char *file, int line)
@@ -21,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
 #define HOLDS(condition) ((condition) ? void() : doesNotHold(#condition, __FILE__, __LINE__))
 
-/// A copy, so that the sanitizer sees a parser that reads past the end.
+/// A copy, so that the sanitizer detects a read past the end.
 inline QByteArray bytesOf(const std::uint8_t *data, std::size_t size)
 {
     return {reinterpret_cast<const char *>(data), static_cast<int>(size)};

@@ -5,7 +5,7 @@
 
 #include <cstring>
 
-// The host up to the first line break, and then the domain.
+/// Input: the host in the first line, then the domain.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes = bytesOf(data, size);

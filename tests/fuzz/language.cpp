@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-// A line for each language that the user wants.
+/// Input: one line per language wanted.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QStringList wanted = QString::fromUtf8(bytesOf(data, size)).split(QLatin1Char('\n'));

@@ -35,7 +35,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     HOLDS(line.size() <= gtop_wrappers::longestText);
     const QVector<uint> characters = line.toUcs4();
     HOLDS(std::all_of(characters.begin(), characters.end(), isHarmless));
-    HOLDS(QString::fromUtf8(line.toUtf8()) == line); // no half of a character
+    HOLDS(QString::fromUtf8(line.toUtf8()) == line); // no character is split
     HOLDS(gtop_wrappers::oneLine(line.toUtf8()) == withoutBlanksAtTheEnd(line));
     HOLDS(gtop_wrappers::oneLine(bytes + QByteArray(3, '\0') + "  ") == line);
     return 0;

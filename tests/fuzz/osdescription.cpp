@@ -19,13 +19,11 @@ QString described(QString text)
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const QByteArray bytes = bytesOf(data, size);
-    QTextStream file(bytes);
+    QTextStream file(bytesOf(data, size));
     file.setCodec("UTF-8");
     const QString description = osDescriptionFromText(file);
-    QTextStream whole(bytes);
-    whole.setCodec("UTF-8");
-    const QString text = whole.readAll();
+    file.seek(0);
+    const QString text = file.readAll();
 
     HOLDS(description == described(text));
     HOLDS(description == unknown || text.contains(QLatin1String("DISTRIB_DESCRIPTION")));

@@ -7,9 +7,9 @@
 
 namespace {
 
-QList<QByteArray> corpus()
+QByteArrayList corpus()
 {
-    QList<QByteArray> texts;
+    QByteArrayList texts;
     const QFileInfoList entries = QDir(QStringLiteral(ZSM_CORPUS)).entryInfoList(QDir::Files, QDir::Name);
     for (const QFileInfo &entry : entries) {
         QFile file(entry.filePath());
@@ -18,30 +18,19 @@ QList<QByteArray> corpus()
     return texts;
 }
 
-class Texts
+/// Concatenates pieces of the seeds and bytes of any value.
+QByteArray randomText(const QByteArrayList &seeds, std::mt19937 &random)
 {
-public:
-    explicit Texts(const QList<QByteArray> &seeds) : pieces(seeds) {}
-
-    /// Pieces of the corpus between bytes of any value.
-    QByteArray next()
-    {
-        QByteArray text;
-        for (int parts = below(8); parts > 0; --parts) {
-            const QByteArray &piece = pieces[below(pieces.size())];
-            const int start = below(piece.size() + 1);
-            text += below(3) == 0 ? QByteArray(below(4), static_cast<char>(below(256)))
-                                  : piece.mid(below(2) == 0 ? 0 : start, below(piece.size() + 1));
-        }
-        return text;
+    const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    QByteArray text;
+    for (int parts = below(8); parts > 0; --parts) {
+        const QByteArray &seed = seeds[below(seeds.size())];
+        const int start = below(seed.size() + 1);
+        text += below(3) == 0 ? QByteArray(below(4), static_cast<char>(below(256)))
+                              : seed.mid(below(2) == 0 ? 0 : start, below(seed.size() + 1));
     }
-
-private:
-    int below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
-
-    const QList<QByteArray> pieces;
-    std::mt19937 random{1};
-};
+    return text;
+}
 
 void tryOut(const QByteArray &text)
 {
@@ -51,37 +40,35 @@ void tryOut(const QByteArray &text)
 
 } // namespace
 
-// A fuzz target without the fuzzer. What doesn't hold ends the program.
+/// Runs a fuzz target without the fuzzer. A condition that does not hold aborts the program.
 class TestFuzzTarget : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void holdsOnTheCorpus();
-    void holdsOnAnyText();
+    void holdsOnTheCorpus()
+    {
+        const QByteArrayList texts = corpus();
+        QVERIFY(!texts.isEmpty());
+        tryOut(QByteArray());
+        for (const QByteArray &text : texts) {
+            tryOut(text);
+        }
+    }
+
+    /// ZSM_SOAK_TEXTS sets the number of texts.
+    void holdsOnAnyText()
+    {
+        const QByteArray wanted = qgetenv("ZSM_SOAK_TEXTS");
+        const int count = wanted.isEmpty() ? 2000 : wanted.toInt();
+        const QByteArrayList seeds = corpus();
+        std::mt19937 random(1);
+        for (int i = 0; i < count; ++i) {
+            tryOut(randomText(seeds, random));
+        }
+        qInfo("%d texts", count);
+    }
 };
-
-void TestFuzzTarget::holdsOnTheCorpus()
-{
-    const QList<QByteArray> texts = corpus();
-    QVERIFY(!texts.isEmpty());
-    tryOut(QByteArray());
-    for (const QByteArray &text : texts) {
-        tryOut(text);
-    }
-}
-
-// ZSM_SOAK_TEXTS sets how many.
-void TestFuzzTarget::holdsOnAnyText()
-{
-    const int count =
-        qEnvironmentVariableIsSet("ZSM_SOAK_TEXTS") ? qEnvironmentVariableIntValue("ZSM_SOAK_TEXTS") : 2000;
-    Texts texts(corpus());
-    for (int i = 0; i < count; ++i) {
-        tryOut(texts.next());
-    }
-    qInfo("%d texts", count);
-}
 
 QTEST_APPLESS_MAIN(TestFuzzTarget)
 #include "replay.moc"

@@ -11,7 +11,7 @@
 
 namespace {
 
-// What the toolkit makes of a value without deserializing anything.
+/// Whether the toolkit creates the value without deserializing anything.
 bool isPlain(const QVariant &value)
 {
     switch (static_cast<QMetaType::Type>(value.userType())) {
@@ -34,7 +34,7 @@ bool isPlain(const QVariant &value)
 
 } // namespace
 
-// The toolkit itself reads what passes as safe.
+/// Lets the toolkit read every file that passes as safe.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static const QTemporaryDir folder;
@@ -43,7 +43,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     if (holdsSerializedObject(content)) {
         return 0;
     }
-    // Each under a name of its own: the toolkit knows what it has read by name, size and time.
+    // A new name each time: the toolkit caches files by name, size and time.
     const QString path = folder.filePath(QString::number(++files));
     QFile file(path);
     HOLDS(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());

@@ -8,54 +8,40 @@
 
 namespace {
 
-QApplication *makeApplication()
+constexpr int width = 500;
+
+/// A splitter like that of the File systems page, with the application that it needs. Both live until the
+/// end.
+QSplitter *makeSplitter()
 {
     static int count = 1;
     static char name[] = "splitterstate";
     static char *arguments[] = {name, nullptr};
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    return new QApplication(count, arguments);
+    new QApplication(count, arguments);
+    auto *splitter = new QSplitter;
+    splitter->addWidget(new QWidget);
+    splitter->addWidget(new QWidget);
+    splitter->resize(width, 100);
+    splitter->show();
+    return splitter;
 }
-
-/// As on the File systems page.
-class Splitter
-{
-public:
-    Splitter()
-    {
-        splitter.addWidget(new QWidget);
-        splitter.addWidget(new QWidget);
-        splitter.resize(width, 100);
-        splitter.show();
-    }
-
-    void restore(const QByteArray &state)
-    {
-        const int handle = splitter.handleWidth();
-        splitter.restoreState(state);
-        HOLDS(splitter.orientation() == Qt::Horizontal);
-        HOLDS(splitter.minimumSizeHint().width() < width);
-        const QList<int> sizes = splitter.sizes();
-        HOLDS(sizes.size() == 2 && sizes[0] >= 0 && sizes[1] >= 0);
-        HOLDS(sizes[0] + sizes[1] <= width);
-        splitter.setHandleWidth(handle);
-    }
-
-private:
-    static constexpr int width = 500;
-    QSplitter splitter;
-};
 
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static const QApplication *const application = makeApplication();
-    static Splitter splitter;
-    Q_UNUSED(application)
+    static auto *splitter = makeSplitter();
     const QByteArray state = bytesOf(data, size);
     if (isSplitterState(state)) {
-        splitter.restore(state);
+        const int handle = splitter->handleWidth();
+        splitter->restoreState(state);
+        HOLDS(splitter->orientation() == Qt::Horizontal);
+        HOLDS(splitter->minimumSizeHint().width() < width);
+        const QList<int> sizes = splitter->sizes();
+        HOLDS(sizes.size() == 2 && sizes[0] >= 0 && sizes[1] >= 0);
+        HOLDS(sizes[0] + sizes[1] <= width);
+        splitter->setHandleWidth(handle);
     }
     return 0;
 }

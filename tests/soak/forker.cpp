@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Load of the process list:
-//   forker <processes a second>
-// forks that many until its input ends. Each is called "forked" and lives up to half a second; every fourth
-// has a child, which it leaves behind. At the end it waits for its own and writes how many there were.
+// Load for the process list: forker <processes a second>
+// Forks at that rate until its input ends. Each process is called "forked" and lives up to half a second;
+// every fourth leaves a child behind. At the end all of them are reaped and the number of forks is printed.
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -15,17 +14,12 @@ namespace {
 
 constexpr long perSecond = 1000000000;
 
-void liveFor(long nanoseconds)
-{
-    const timespec time = {0, nanoseconds};
-    nanosleep(&time, nullptr);
-}
-
 [[noreturn]] void live(int number)
 {
     prctl(PR_SET_NAME, "forked");
-    const bool inherits = number % 4 == 0 && fork() == 0;
-    liveFor(number % 50 * (perSecond / 100) / (inherits ? 1 : 2));
+    const bool isOrphan = number % 4 == 0 && fork() == 0;
+    const timespec lifetime = {0, number % 50 * (perSecond / 100) / (isOrphan ? 1 : 2)};
+    nanosleep(&lifetime, nullptr);
     _exit(0);
 }
 
@@ -41,16 +35,18 @@ bool inputHasEnded()
 int main(int argc, char *argv[])
 {
     const long rate = argc > 1 ? std::strtol(argv[1], nullptr, 10) : 0;
-    if (rate < 1)
+    if (rate < 1) {
         return 2;
-    prctl(PR_SET_CHILD_SUBREAPER, 1); // what is left behind is waited for here
+    }
+    prctl(PR_SET_CHILD_SUBREAPER, 1); // orphans are reparented to this process
     int number = 0;
     timespec due = {};
     clock_gettime(CLOCK_MONOTONIC, &due);
     while (!inputHasEnded()) {
         const pid_t child = fork();
-        if (child == 0)
+        if (child == 0) {
             live(number);
+        }
         number += child > 0;
         while (waitpid(-1, nullptr, WNOHANG) > 0) {
         }

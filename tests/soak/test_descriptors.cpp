@@ -1,47 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/app/fixture.h"
+#include "support.h"
 
 #include <QtTest>
 #include <QtWidgets>
 
 #include <fcntl.h>
-#include <sys/resource.h>
-#include <unistd.h>
+
+#include <functional>
 
 namespace {
 
-int openDescriptors()
+bool noneIsLeft()
 {
-    return static_cast<int>(
-        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size());
+    return open("/dev/null", O_RDONLY) == -1;
 }
 
-/// Lowers the limit on descriptors and uses up every one that is left; gives both back at its end.
-class NoDescriptors
+/// Runs `act` with a lower limit on descriptors and every one that is left used up, then reverts both.
+void withNoneLeft(rlim_t limit, const std::function<void()> &act)
 {
-public:
-    explicit NoDescriptors(rlim_t limit)
-    {
-        getrlimit(RLIMIT_NOFILE, &before);
-        const rlimit lowered{limit, before.rlim_max};
-        setrlimit(RLIMIT_NOFILE, &lowered);
-        for (int taken = open("/dev/null", O_RDONLY); taken >= 0; taken = open("/dev/null", O_RDONLY)) {
-            hoard.push_back(taken);
-        }
-    }
-    ~NoDescriptors()
-    {
-        for (const int taken : hoard) {
-            close(taken);
-        }
-        setrlimit(RLIMIT_NOFILE, &before);
-    }
-
-private:
-    Q_DISABLE_COPY(NoDescriptors)
     rlimit before;
+    getrlimit(RLIMIT_NOFILE, &before);
+    const rlimit lowered{limit, before.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &lowered);
     std::vector<int> hoard;
-};
+    for (int taken = open("/dev/null", O_RDONLY); taken >= 0; taken = open("/dev/null", O_RDONLY)) {
+        hoard.push_back(taken);
+    }
+    act();
+    for (int taken : hoard) {
+        close(taken);
+    }
+    setrlimit(RLIMIT_NOFILE, &before);
+}
 
 class SeenForTheFirstTime
 {
@@ -52,35 +42,106 @@ public:
 
 } // namespace
 
-// libgtop is the real one here: it ends the whole process when it can't open /proc/stat.
+/// Reads the real machine: libgtop exits the whole process if it cannot open /proc/stat.
 class TestDescriptors : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        fixture = std::make_unique<Fixture>();
+        standin::machine() = {};
+        fixture->start(1);
+        QVERIFY(listsThisProcess());
+    }
+
     void cleanup() { fixture.reset(); }
-    void withNoneLeftARefreshShowsTheMachine();
-    void belowTheReserveTheLastFiguresStay();
-    void theTickGoesOnWithoutARefresh();
-    void withNoneLeftTheSettingsAreSaved();
-    void aRefreshKeepsNoDescriptor();
-    void withNoneLeftTheSanitizersTakeNoSoundObjectForABrokenOne();
+
+    void withNoneLeftARefreshShowsTheMachine()
+    {
+        makeFiguresStale();
+        withNoneLeft(256, [this] {
+            QVERIFY(noneIsLeft());
+            for (int i = 0; i < 3; ++i) {
+                refresh(*fixture);
+            }
+            QVERIFY(noneIsLeft()); // the reserve is held again
+        });
+        QVERIFY(Fixture::text("lblMemTotal") != QStringLiteral("stale"));
+        QVERIFY(Fixture::text("lblMemFree") != QStringLiteral("stale"));
+        QVERIFY(listsThisProcess());
+        QVERIFY(processList()->rowCount() > 1);
+        QVERIFY(Fixture::find<QComboBox>("comboNet")->count() > 0);
+    }
+
+    void belowTheReserveTheLastFiguresStay()
+    {
+        const QString memory = Fixture::text("lblMemTotal");
+        const int rows = processList()->rowCount();
+        // Below the descriptors in use, so closing one frees none.
+        withNoneLeft(3, [this] { refresh(*fixture); });
+        QCOMPARE(Fixture::text("lblMemTotal"), memory);
+        QCOMPARE(processList()->rowCount(), rows);
+        makeFiguresStale();
+        refresh(*fixture);
+        QCOMPARE(Fixture::text("lblMemTotal"), memory);
+    }
+
+    void ticksWithoutARefreshStillCount()
+    {
+        Fixture::choosePage(0); // refreshed by tick 0
+        withNoneLeft(3, [this] {
+            QMetaObject::invokeMethod(&fixture->updater(), "update"); // 1
+            QMetaObject::invokeMethod(&fixture->updater(), "update"); // 2
+        });
+        standin::resetCalls();
+        QMetaObject::invokeMethod(&fixture->updater(), "update"); // 3 is due
+        QCOMPARE(standin::calls().memory, 1U);
+    }
+
+    void withNoneLeftTheSettingsAreSaved()
+    {
+        QVERIFY(!QFile::exists(Fixture::settingsFile()));
+        withNoneLeft(256, [this] { fixture->stop(); });
+        QVERIFY(QFile::exists(Fixture::settingsFile()));
+        QCOMPARE(QSettings().value(QStringLiteral("interval/general")).toInt(), 3);
+    }
+
+    void aRefreshLeaksNoDescriptor()
+    {
+        refresh(*fixture);
+        const int before = openDescriptors();
+        for (int i = 0; i < 5; ++i) {
+            refresh(*fixture);
+            QCOMPARE(openDescriptors(), before);
+        }
+    }
+
+    /// Can only fail in a build with sanitizers, where the other functions rely on it.
+    void withNoneLeftTheSanitizersReportNoFalsePositive()
+    {
+        const std::unique_ptr<SeenForTheFirstTime> object(new SeenForTheFirstTime);
+        withNoneLeft(256, [&] {
+            QCOMPARE(object->answer(), 42);
+            QVERIFY(noneIsLeft()); // the sanitizer has restored the limit
+        });
+    }
 
 private:
-    void refreshAll() { QMetaObject::invokeMethod(&fixture->updater(), "update", Q_ARG(bool, true)); }
     static bool listsThisProcess()
     {
-        const QAbstractItemModel *const model = Fixture::find<QTreeView>("treeView")->model();
-        for (int row = 0; row < model->rowCount(); ++row) {
-            if (static_cast<pid_t>(model->index(row, 0).internalId()) == getpid() ||
-                model->index(row, 0).data().toString().contains(QStringLiteral("test_descr"))) {
+        for (int row = 0; row < processList()->rowCount(); ++row) {
+            const QModelIndex index = processList()->index(row, 0);
+            if (static_cast<pid_t>(index.internalId()) == getpid() ||
+                index.data().toString().contains(QStringLiteral("test_descr"))) {
                 return true;
             }
         }
         return false;
     }
-    static void forgetFigures()
+
+    static void makeFiguresStale()
     {
         for (const char *label : {"lblMemTotal", "lblMemFree", "lblTotal"}) {
             Fixture::find<QLabel>(label)->setText(QStringLiteral("stale"));
@@ -89,90 +150,6 @@ private:
 
     std::unique_ptr<Fixture> fixture;
 };
-
-void TestDescriptors::init()
-{
-    fixture = std::make_unique<Fixture>();
-    standin::machine() = {};
-    fixture->start(1);
-    QVERIFY(listsThisProcess());
-}
-
-void TestDescriptors::withNoneLeftARefreshShowsTheMachine()
-{
-    forgetFigures();
-    {
-        const NoDescriptors none(256);
-        QCOMPARE(open("/dev/null", O_RDONLY), -1);
-        for (int i = 0; i < 3; ++i) {
-            refreshAll();
-        }
-        QCOMPARE(open("/dev/null", O_RDONLY), -1); // the reserve was taken back
-    }
-    QVERIFY(Fixture::text("lblMemTotal") != QStringLiteral("stale"));
-    QVERIFY(Fixture::text("lblMemFree") != QStringLiteral("stale"));
-    QVERIFY(listsThisProcess());
-    QVERIFY(Fixture::find<QTreeView>("treeView")->model()->rowCount() > 1);
-    QVERIFY(Fixture::find<QComboBox>("comboNet")->count() > 0);
-}
-
-void TestDescriptors::belowTheReserveTheLastFiguresStay()
-{
-    const QString memory = Fixture::text("lblMemTotal");
-    const int rows = Fixture::find<QTreeView>("treeView")->model()->rowCount();
-    {
-        const NoDescriptors none(3); // lower than what is held: a descriptor that is closed is no use
-        refreshAll();
-    }
-    QCOMPARE(Fixture::text("lblMemTotal"), memory);
-    QCOMPARE(Fixture::find<QTreeView>("treeView")->model()->rowCount(), rows);
-    forgetFigures();
-    refreshAll();
-    QCOMPARE(Fixture::text("lblMemTotal"), memory);
-}
-
-void TestDescriptors::theTickGoesOnWithoutARefresh()
-{
-    Fixture::choosePage(0); // tick 0 has refreshed
-    {
-        const NoDescriptors none(3);
-        QMetaObject::invokeMethod(&fixture->updater(), "update"); // 1
-        QMetaObject::invokeMethod(&fixture->updater(), "update"); // 2
-    }
-    standin::resetCalls();
-    QMetaObject::invokeMethod(&fixture->updater(), "update"); // 3 is due
-    QCOMPARE(standin::calls().memory, 1U);
-}
-
-void TestDescriptors::withNoneLeftTheSettingsAreSaved()
-{
-    QVERIFY(!QFile::exists(Fixture::settingsFile()));
-    {
-        const NoDescriptors none(256);
-        fixture->stop();
-    }
-    QVERIFY(QFile::exists(Fixture::settingsFile()));
-    QCOMPARE(QSettings().value(QStringLiteral("interval/general")).toInt(), 3);
-}
-
-void TestDescriptors::aRefreshKeepsNoDescriptor()
-{
-    refreshAll();
-    const int before = openDescriptors();
-    for (int i = 0; i < 5; ++i) {
-        refreshAll();
-        QCOMPARE(openDescriptors(), before);
-    }
-}
-
-// Fails only where the sanitizers are on: it guards what the other functions rely on there.
-void TestDescriptors::withNoneLeftTheSanitizersTakeNoSoundObjectForABrokenOne()
-{
-    const std::unique_ptr<SeenForTheFirstTime> object(new SeenForTheFirstTime);
-    const NoDescriptors none(256);
-    QCOMPARE(object->answer(), 42);
-    QCOMPARE(open("/dev/null", O_RDONLY), -1); // the limit is as it was
-}
 
 QTEST_MAIN(TestDescriptors)
 #include "test_descriptors.moc"

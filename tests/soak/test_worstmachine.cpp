@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "messages.h"
 #include "resources/qprog.h"
-#include "tests/app/fixture.h"
+#include "support.h"
 
 #include <QtTest>
 #include <QtWidgets>
 
-#include <unistd.h>
-
 #include <limits>
 #include <random>
+
+Q_DECLARE_METATYPE(standin::Machine)
 
 namespace {
 
@@ -18,11 +17,9 @@ constexpr auto most = std::numeric_limits<std::uint64_t>::max();
 const char *const badNames[] = {
     "",
     "\n\r\t\x01\x1b[31m\x7f",
-    "\xe2\x80\xae"
-    "turned round", // right-to-left override
-    "\xe2\x81\xa6\xe2\x80\xab"
-    "x",                // isolate and embedding left open
-    "\xff\xfe\xc0\x80", // never UTF-8
+    "\xe2\x80\xaeturned round",  // right-to-left override
+    "\xe2\x81\xa6\xe2\x80\xabx", // isolate and embedding left open
+    "\xff\xfe\xc0\x80",          // never UTF-8
     "cut \xe2\x80",
     "\xed\xa0\x80", // half of a surrogate pair
     "%1 %s %n &amp; <b>bold</b> <img src=x>",
@@ -31,22 +28,18 @@ const char *const badNames[] = {
 
 standin::Machine zeroedMachine()
 {
-    standin::Machine machine;
+    standin::Machine machine = Fixture::smallMachine();
     machine.cpus = std::vector<standin::Cpu>(4);
     machine.memory = standin::Memory();
-    standin::Mount failing;
-    failing.device = "/dev/sda1";
-    failing.directory = "/";
-    failing.fails = true;
-    machine.mounts = std::vector<standin::Mount>{failing, standin::Mount()};
-    standin::Interface gone;
-    gone.name = "eth0";
-    gone.fails = true;
-    machine.interfaces = std::vector<standin::Interface>{gone, standin::Interface()};
-    machine.processes = std::map<int, standin::Process>();
+    machine.mounts->front().fails = true;
+    machine.mounts->back() = standin::Mount();
+    machine.interfaces->resize(2);
+    machine.interfaces->front().fails = true;
+    machine.interfaces->back() = standin::Interface();
+    machine.processes->clear();
     for (int pid = 1; pid < 50; ++pid) {
         (*machine.processes)[pid].parent = pid % 3 == 0 ? pid : 0; // some are their own parents
-        (*machine.processes)[pid].answersBeforeEnd = pid % 5 - 1;  // and some end while they are read
+        (*machine.processes)[pid].answersBeforeEnd = pid % 5 - 1;  // and some exit while they are read
     }
     return machine;
 }
@@ -65,7 +58,7 @@ standin::Machine extremeMachine()
         device.address = device.mask = std::numeric_limits<std::uint32_t>::max();
         device.bytesIn = device.bytesOut = device.errors = most;
     }
-    for (const int pid : {std::numeric_limits<int>::max(), 1, 100}) {
+    for (int pid : {std::numeric_limits<int>::max(), 1, 100}) {
         standin::Process &process = (*machine.processes)[pid];
         process.parent = std::numeric_limits<int>::min();
         process.uid = std::numeric_limits<int>::max();
@@ -88,11 +81,10 @@ standin::Machine badlyNamedMachine()
         standin::Interface device;
         device.name = name;
         machine.interfaces->push_back(device);
-        standin::Process process;
+        standin::Process &process = (*machine.processes)[pid++];
         process.name = name;
         process.uid = static_cast<int>(getuid());
         process.arguments = std::string(name) + '\0' + name + '\0';
-        (*machine.processes)[pid++] = process;
     }
     return machine;
 }
@@ -115,9 +107,24 @@ standin::Machine crowdedMachine()
     return machine;
 }
 
+std::vector<std::pair<QByteArray, standin::Machine>> machinesByName()
+{
+    standin::Machine restarted = Fixture::smallMachine();
+    restarted.cpus = std::vector<standin::Cpu>(2);
+    for (standin::Interface &device : *restarted.interfaces) {
+        device.bytesIn = device.bytesOut = 0;
+    }
+    standin::Machine empty = Fixture::smallMachine();
+    empty.mountListFails = empty.interfaceListFails = true;
+    empty.processes->clear();
+    return {{"small", Fixture::smallMachine()},   {"counters restarted", restarted},
+            {"zeroed", zeroedMachine()},          {"extreme", extremeMachine()},
+            {"badly named", badlyNamedMachine()}, {"empty", empty}};
+}
+
 } // namespace
 
-// The whole controller on machines that give the worst.
+/// The whole controller on the worst machines.
 class TestWorstMachine : public QObject
 {
     Q_OBJECT
@@ -125,161 +132,130 @@ class TestWorstMachine : public QObject
 private Q_SLOTS:
     void init() { fixture = std::make_unique<Fixture>(); }
     void cleanup() { fixture.reset(); }
-    void everyPageSurvivesEveryChangeOfMachine_data();
-    void everyPageSurvivesEveryChangeOfMachine();
-    void namesOfProcessesAreHarmless();
-    void allCpusMountsAndInterfacesAreShown();
-    void noInterfaceAndThenAThousand();
-    void processesComeAndGoByTheThousand();
 
-private:
-    static std::vector<standin::Machine> machines()
+    void everyPageSurvivesEveryChangeOfMachine_data()
     {
-        standin::Machine nothing = Fixture::smallMachine();
-        nothing.mountListFails = nothing.interfaceListFails = true;
-        nothing.processes->clear();
-        standin::Machine fallen = Fixture::smallMachine();
-        fallen.cpus = std::vector<standin::Cpu>(2);
-        for (standin::Interface &device : *fallen.interfaces) {
-            device.bytesIn = device.bytesOut = 0;
+        QTest::addColumn<standin::Machine>("first");
+        for (const auto &[name, machine] : machinesByName()) {
+            QTest::newRow(name) << machine;
         }
-        return {Fixture::smallMachine(), fallen, zeroedMachine(), extremeMachine(),
-                badlyNamedMachine(),     nothing};
     }
-    // Every page shown, refreshed twice and painted.
-    void goThroughPages()
+
+    void everyPageSurvivesEveryChangeOfMachine()
     {
-        for (int page = 0; page < 4; ++page) {
-            Fixture::choosePage(page);
-            for (int i = 0; i < 2; ++i) {
-                QMetaObject::invokeMethod(&fixture->updater(), "update", Q_ARG(bool, true));
-            }
-            QVERIFY(!Fixture::window()->grab().isNull());
+        QFETCH(standin::Machine, first);
+        const LoggedMessages messages;
+        standin::machine() = first;
+        fixture->start(0);
+        for (const auto &[name, machine] : machinesByName()) {
+            standin::machine() = machine;
+            showAllPages();
+            QVERIFY2((processList()->rowCount() > 0) != machine.processes->empty(), name);
         }
+        QCOMPARE(messages.text(), QString());
     }
-    static QAbstractItemModel *processes() { return Fixture::find<QTreeView>("treeView")->model(); }
 
-    std::unique_ptr<Fixture> fixture;
-};
-
-void TestWorstMachine::everyPageSurvivesEveryChangeOfMachine_data()
-{
-    QTest::addColumn<int>("first");
-    const char *const names[] = {"small", "fallen", "zeroed", "extreme", "badly named", "nothing"};
-    for (int i = 0; i < 6; ++i) {
-        QTest::newRow(names[i]) << i;
-    }
-}
-
-void TestWorstMachine::everyPageSurvivesEveryChangeOfMachine()
-{
-    QFETCH(int, first);
-    const LoggedMessages messages;
-    const std::vector<standin::Machine> all = machines();
-    standin::machine() = all[static_cast<std::size_t>(first)];
-    fixture->start(0);
-    for (const standin::Machine &machine : all) {
-        standin::machine() = machine;
-        goThroughPages();
-        QCOMPARE(processes()->rowCount() > 0, !machine.processes->empty());
-    }
-    QCOMPARE(messages.text(), QString());
-}
-
-void TestWorstMachine::namesOfProcessesAreHarmless()
-{
-    standin::machine() = badlyNamedMachine();
-    fixture->start(1);
-    int seen = 0;
-    for (int row = 0; row < processes()->rowCount(); ++row) {
-        for (int column = 0; column < processes()->columnCount(); ++column) {
-            const QString text = processes()->index(row, column).data().toString();
-            for (const QChar character : text) {
-                QVERIFY(character.category() != QChar::Other_Control);
-                QVERIFY(character.category() != QChar::Other_Format);
-            }
-            ++seen;
-        }
-    }
-    QVERIFY(seen > 20);
-}
-
-void TestWorstMachine::allCpusMountsAndInterfacesAreShown()
-{
-    const standin::Machine crowded = crowdedMachine();
-    standin::machine().cpus = crowded.cpus;
-    fixture->start(1);
-    QCOMPARE(Fixture::window()->findChildren<QProg *>().size(), 1024 + 2); // and memory and disk
-    standin::machine().interfaces = crowded.interfaces;
-    goThroughPages();
-    QCOMPARE(Fixture::find<QComboBox>("comboNet")->count(), 1003);
-    standin::machine().mounts = crowded.mounts;
-    Fixture::choosePage(2);
-    QCOMPARE(Fixture::find<QTreeView>("tableFS")->model()->rowCount(), 10002);
-    standin::machine() = Fixture::smallMachine();
-    for (int i = 0; i < 3; ++i) { // each refresh takes half of the unmounted rows away
-        goThroughPages();
-    }
-    QCOMPARE(Fixture::find<QTreeView>("tableFS")->model()->rowCount(), 2);
-}
-
-void TestWorstMachine::noInterfaceAndThenAThousand()
-{
-    const auto interfaces = crowdedMachine().interfaces;
-    standin::machine().interfaces->clear();
-    fixture->start(3);
-    auto *const chooser = Fixture::find<QComboBox>("comboNet");
-    for (int i = 0; i < 3; ++i) {
-        standin::machine().interfaces->clear();
-        Fixture::choosePage(0);
-        Fixture::choosePage(3);
-        QCOMPARE(chooser->count(), 0);
-        standin::machine().interfaces = interfaces;
-        Fixture::choosePage(0);
-        Fixture::choosePage(3);
-        QCOMPARE(chooser->count(), 1003);
-        QMetaObject::invokeMethod(&fixture->updater(), "setNetDevice", Q_ARG(int, 1002));
-    }
-}
-
-// ZSM_SOAK_PROCESSES sets how many come and go in all.
-void TestWorstMachine::processesComeAndGoByTheThousand()
-{
-    const int wanted = qEnvironmentVariableIsSet("ZSM_SOAK_PROCESSES")
-                           ? qEnvironmentVariableIntValue("ZSM_SOAK_PROCESSES")
-                           : 2000;
-    const LoggedMessages messages;
-    std::mt19937 random(1);
-    fixture->start(1);
-    auto &alive = *standin::machine().processes;
-    int next = 1000;
-    for (int born = 0, round = 0; born < wanted; ++round) {
-        for (int i = 0; i < 200; ++i, ++born) {
-            standin::Process process;
-            process.uid = static_cast<int>(getuid());
-            process.name = "churn" + std::to_string(next);
-            process.parent = 100 + static_cast<int>(random() % static_cast<unsigned>(next));
-            alive[next++] = process;
-        }
-        for (auto it = alive.begin(); it != alive.end();) {
-            it = alive.size() > 500 && random() % 4 == 0 ? alive.erase(it) : std::next(it);
-        }
-        QMetaObject::invokeMethod(&fixture->updater(), "update", Q_ARG(bool, true));
-        if (round % 3 == 0) {
-            const auto actions = fixture->updater().findChildren<QAction *>();
-            for (QAction *action : actions) {
-                if (action->text() == QStringLiteral("Tree view")) {
-                    action->trigger();
+    void controlCharactersInNamesAreNotShown()
+    {
+        standin::machine() = badlyNamedMachine();
+        fixture->start(1);
+        int seen = 0;
+        for (int row = 0; row < processList()->rowCount(); ++row) {
+            for (int column = 0; column < processList()->columnCount(); ++column, ++seen) {
+                for (const QChar character : processList()->index(row, column).data().toString()) {
+                    QVERIFY(character.category() != QChar::Other_Control);
+                    QVERIFY(character.category() != QChar::Other_Format);
                 }
             }
         }
-        QCoreApplication::processEvents();
+        QVERIFY(seen > 20);
     }
-    alive.clear();
-    QMetaObject::invokeMethod(&fixture->updater(), "update", Q_ARG(bool, true));
-    QCOMPARE(processes()->rowCount(), 0);
-    QCOMPARE(messages.text(), QString());
-}
+
+    void allCpusMountsAndInterfacesAreShown()
+    {
+        const standin::Machine crowded = crowdedMachine();
+        standin::machine().cpus = crowded.cpus;
+        fixture->start(1);
+        QCOMPARE(Fixture::window()->findChildren<QProg *>().size(), 1024 + 2); // and memory and disk
+        standin::machine().interfaces = crowded.interfaces;
+        showAllPages();
+        QCOMPARE(Fixture::find<QComboBox>("comboNet")->count(), 1003);
+        standin::machine().mounts = crowded.mounts;
+        Fixture::choosePage(2);
+        QCOMPARE(Fixture::find<QTreeView>("tableFS")->model()->rowCount(), 10002);
+        standin::machine() = Fixture::smallMachine();
+        for (int i = 0; i < 3; ++i) { // each refresh removes half of the unmounted rows
+            showAllPages();
+        }
+        QCOMPARE(Fixture::find<QTreeView>("tableFS")->model()->rowCount(), 2);
+    }
+
+    void allInterfacesComeAndGo()
+    {
+        const auto interfaces = crowdedMachine().interfaces;
+        standin::machine().interfaces->clear();
+        fixture->start(3);
+        for (int i = 0; i < 3; ++i) {
+            standin::machine().interfaces->clear();
+            QCOMPARE(interfacesOffered(), 0);
+            standin::machine().interfaces = interfaces;
+            QCOMPARE(interfacesOffered(), 1003);
+            QMetaObject::invokeMethod(&fixture->updater(), "setNetDevice", Q_ARG(int, 1002));
+        }
+    }
+
+    /// ZSM_SOAK_PROCESSES sets the number of processes in all.
+    void processesComeAndGoByTheThousand()
+    {
+        const int wanted = runSize("ZSM_SOAK_PROCESSES", 2000);
+        const LoggedMessages messages;
+        std::mt19937 random(1);
+        fixture->start(1);
+        auto &alive = *standin::machine().processes;
+        for (int round = 0; round * 200 < wanted; ++round) {
+            for (int i = 0; i < 200; ++i) {
+                const int pid = 1000 + round * 200 + i;
+                standin::Process &process = alive[pid];
+                process.uid = static_cast<int>(getuid());
+                process.name = "churn" + std::to_string(pid);
+                process.parent = 100 + static_cast<int>(random() % static_cast<unsigned>(pid));
+            }
+            for (auto it = alive.begin(); it != alive.end();) {
+                it = alive.size() > 500 && random() % 4 == 0 ? alive.erase(it) : std::next(it);
+            }
+            refresh(*fixture);
+            if (round % 3 == 0) {
+                findAction(*fixture, "Tree view")->trigger();
+            }
+            QCoreApplication::processEvents();
+        }
+        alive.clear();
+        refresh(*fixture);
+        QCOMPARE(processList()->rowCount(), 0);
+        QCOMPARE(messages.text(), QString());
+    }
+
+private:
+    /// Shows each page, refreshes it twice and paints it.
+    void showAllPages()
+    {
+        for (int page = 0; page < 4; ++page) {
+            Fixture::choosePage(page);
+            refresh(*fixture);
+            refresh(*fixture);
+            QVERIFY(!Fixture::window()->grab().isNull());
+        }
+    }
+
+    static int interfacesOffered()
+    {
+        Fixture::choosePage(0);
+        Fixture::choosePage(3);
+        return Fixture::find<QComboBox>("comboNet")->count();
+    }
+
+    std::unique_ptr<Fixture> fixture;
+};
 
 QTEST_MAIN(TestWorstMachine)
 #include "test_worstmachine.moc"

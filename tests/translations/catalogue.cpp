@@ -1,32 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "catalogue.h"
 
+#include "app/translations.h"
+
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTranslator>
 #include <QXmlStreamReader>
+#include <QtTest>
 
 namespace {
 
 const QString prefix = QStringLiteral("zarn-system-monitor_");
-
-Message readMessage(QXmlStreamReader &xml, const QString &context)
-{
-    Message message;
-    message.context = context;
-    while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("source")) {
-            message.source = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
-            message.finished = !xml.attributes().hasAttribute(QLatin1String("type"));
-            message.translation = xml.readElementText();
-        } else {
-            xml.skipCurrentElement();
-        }
-    }
-    return message;
-}
 
 std::vector<Message> readFile(const QString &path)
 {
@@ -44,8 +32,11 @@ std::vector<Message> readFile(const QString &path)
         }
         if (xml.name() == QLatin1String("name")) {
             context = xml.readElementText();
-        } else if (xml.name() == QLatin1String("message")) {
-            messages.push_back(readMessage(xml, context));
+        } else if (xml.name() == QLatin1String("source")) {
+            messages.push_back({context, xml.readElementText(), QString(), false});
+        } else if (xml.name() == QLatin1String("translation")) {
+            messages.back().finished = !xml.attributes().hasAttribute(QLatin1String("type"));
+            messages.back().translation = xml.readElementText();
         }
     }
     return xml.hasError() ? std::vector<Message>() : messages;
@@ -56,9 +47,8 @@ std::vector<Message> readFile(const QString &path)
 QStringList catalogueLanguages()
 {
     QStringList languages;
-    const QStringList files =
-        QDir(QStringLiteral(ZSM_TRANSLATIONS)).entryList({prefix + QLatin1String("*.ts")}, QDir::Files);
-    for (const QString &file : files) {
+    const QDir folder(QStringLiteral(ZSM_TRANSLATIONS));
+    for (const QString &file : folder.entryList({prefix + QLatin1String("*.ts")}, QDir::Files)) {
         languages << file.mid(prefix.size()).section(QLatin1Char('.'), 0, 0);
     }
     return languages;
@@ -73,12 +63,25 @@ std::vector<Message> sourceTexts()
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("texts.ts"));
+    qputenv("LUPDATE", ZSM_LUPDATE);
     QProcess update;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LUPDATE"), QStringLiteral(ZSM_LUPDATE));
-    update.setProcessEnvironment(environment);
     update.setStandardErrorFile(QProcess::nullDevice());
     update.start(QStringLiteral(ZSM_TRANSLATIONS "/update.sh"), {file});
     update.waitForFinished();
     return readFile(file);
+}
+
+void useLanguage(const QString &locale)
+{
+    qDeleteAll(qApp->findChildren<QTranslator *>());
+    QLocale::setDefault(QLocale(locale));
+    installTranslations(qApp);
+}
+
+void everyLanguage()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString &language : QStringList{"C"} + availableTranslations()) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
 }

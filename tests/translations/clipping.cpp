@@ -5,14 +5,11 @@
 
 namespace {
 
-QString sizeText(const QSize &size)
-{
-    return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
-}
-
 QString complaint(const QString &what, const QSize &has, const QSize &needs)
 {
-    return what + QLatin1String(" has ") + sizeText(has) + QLatin1String(" and needs ") + sizeText(needs);
+    QString text;
+    QDebug(&text).noquote() << what << "has" << has << "and needs" << needs;
+    return text;
 }
 
 bool isSmaller(const QSize &has, const QSize &needs)
@@ -20,7 +17,7 @@ bool isSmaller(const QSize &has, const QSize &needs)
     return has.width() < needs.width() || has.height() < needs.height();
 }
 
-// A wrapped text needs as much height as its lines have at the width that the label has.
+/// A wrapped text needs the height of its lines at the current width of the label.
 QSize neededSize(const QWidget *widget)
 {
     const auto *label = qobject_cast<const QLabel *>(widget);
@@ -55,7 +52,7 @@ QStringList cutTexts(const QWidget *window)
     QStringList result;
     for (const QWidget *widget : widgetsWithText(window)) {
         const QSize needs = neededSize(widget);
-        // What a parent cuts off is not in the visible region.
+        // excludes what a parent cuts off
         const QSize has = widget->visibleRegion().boundingRect().size();
         if (isSmaller(has, needs)) {
             result << complaint(textOf(widget), has, needs);

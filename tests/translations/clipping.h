@@ -7,14 +7,14 @@
 class QMenu;
 class QWidget;
 
-/// What of the texts that `window` shows is cut off or overlapped, one line each; empty when all can be read.
-/// Looked at are labels, buttons, tabs, menu bars and the columns' titles.
+/// The texts shown by `window` that are truncated or overlapped, one line each. Checks labels, buttons, tabs,
+/// menu bars and column titles.
 QStringList unreadableTexts(const QWidget *window);
 
-/// The same of the entries of an open menu, and the letters that more than one of them takes as its mnemonic.
+/// The same for the entries of an open menu, and its shared mnemonics.
 QStringList unreadableEntries(const QMenu *menu);
 
-/// The letters that more than one of the texts takes as its mnemonic.
+/// The mnemonics that more than one of the texts has.
 QStringList sharedMnemonics(const QStringList &texts);
 
 #endif

@@ -2,7 +2,6 @@
 #include "app/translations.h"
 #include "catalogue.h"
 
-#include <QLocale>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTranslator>
@@ -13,176 +12,129 @@ class TestLanguageChoice : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
-    void theFirstLanguageWithACatalogueWins_data();
-    void theFirstLanguageWithACatalogueWins();
-    void everyCatalogueIsChosenByItsOwnName();
-    void theCLocaleLeavesEverySourceTextAsItIs();
-    void aLocaleWithoutATranslationLeavesEverySourceTextAsItIs();
-    void everyTextComesInTheLocalesLanguage();
-    void theToolkitsOwnTextsComeInTheLocalesLanguage();
-    void theProgramFollowsTheEnvironment_data();
-    void theProgramFollowsTheEnvironment();
-
-private:
-    static QList<QTranslator *> translators()
+    void theFirstLanguageWithACatalogueWins_data()
     {
-        return QCoreApplication::instance()->findChildren<QTranslator *>();
+        QTest::addColumn<QStringList>("wanted");
+        QTest::addColumn<QString>("chosen");
+        const auto rows = [](const char *chosen, std::initializer_list<const char *> lists) {
+            for (const QString wanted : lists) {
+                QTest::newRow(qPrintable(wanted)) << wanted.split(QLatin1Char(' ')) << QString(chosen);
+            }
+        };
+        rows("de", {"de", "de-DE", "de_AT", "de_CH.UTF-8@euro", "de-euro de", "eo de", "de en", " de"});
+        rows("fr", {"fr de"});
+        rows("ja", {"zh-Hant-TW ja"});
+        rows("pt_BR", {"pt-BR", "pt", "pt_PT"});
+        rows("sv", {"tlh eo_XX sv"});
+        rows("zh_CN", {"zh_CN", "zh-Hans-CN", "zh_SG", "zh"});
+        rows("", {"zh_TW", "en", "en-US en en-Latn-US de", "en_GB.UTF-8 de", "fi en de", "C", "C.UTF-8 de",
+                  "POSIX de", "! ../de de/../fr"});
+        QTest::newRow("no language") << QStringList() << QString();
     }
-    static void everyTextIsTheSourceText()
+
+    void theFirstLanguageWithACatalogueWins()
     {
-        const std::vector<Message> texts = sourceTexts();
-        QVERIFY(texts.size() > 100);
-        for (const Message &text : texts) {
-            QCOMPARE(QCoreApplication::translate(text.context.toUtf8().constData(),
-                                                 text.source.toUtf8().constData()),
-                     text.source);
+        QFETCH(QStringList, wanted);
+        QTEST(translationFor(wanted, {"de", "fr", "ja", "pt_BR", "sv", "zh_CN"}), "chosen");
+        QCOMPARE(translationFor(wanted, {}), QString());
+    }
+
+    void everyCatalogueIsChosenByItsOwnName()
+    {
+        for (const QString &language : availableTranslations()) {
+            QCOMPARE(translationFor({language}, availableTranslations()), language);
         }
     }
+
+    void aLocaleWithoutATranslationShowsTheSourceTexts_data()
+    {
+        QTest::addColumn<QString>("locale");
+        for (const char *locale : {"C", "fi_FI", "en_US", "ar_EG", "zh_TW"}) {
+            QTest::newRow(locale) << QString::fromLatin1(locale);
+        }
+    }
+
+    void aLocaleWithoutATranslationShowsTheSourceTexts()
+    {
+        QFETCH(QString, locale);
+        useLanguage(locale);
+        QVERIFY(translators().isEmpty());
+        static const std::vector<Message> texts = sourceTexts();
+        QVERIFY(texts.size() > 100);
+        for (const Message &text : texts) {
+            QCOMPARE(shown(text), text.source);
+        }
+    }
+
+    void everyTextIsTranslatedToTheLocalesLanguage()
+    {
+        useLanguage(QStringLiteral("ru_RU"));
+        for (const Message &text : catalogue(QStringLiteral("ru"))) {
+            QCOMPARE(shown(text), text.translation);
+        }
+    }
+
+    void theToolkitsTextsAreTranslatedToTheLocalesLanguage()
+    {
+        const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+        if (!QFile::exists(folder + QLatin1String("/qtbase_de.qm"))) {
+            QSKIP("the toolkit's own catalogues are not installed");
+        }
+        useLanguage(QStringLiteral("de_DE"));
+        QVERIFY(QCoreApplication::translate("QPlatformTheme", "Close") != QLatin1String("Close"));
+        QCOMPARE(translators().size(), 2);
+    }
+
+    void theProgramFollowsTheEnvironment_data()
+    {
+        QTest::addColumn<QString>("firstWord");
+        QTest::newRow("") << "Usage";
+        QTest::newRow("LC_ALL=C") << "Usage";
+        QTest::newRow("LANG=de_DE.UTF-8") << "Aufruf";
+        QTest::newRow("LANG=nl_NL.UTF-8 LC_ALL=de_DE.UTF-8") << "Aufruf";
+        QTest::newRow("LANG=nl_NL.UTF-8 LC_NUMERIC=C") << "Gebruik";
+        QTest::newRow("LANG=C LC_MESSAGES=de_DE.UTF-8") << "Aufruf";
+        QTest::newRow("LANG=nl_NL.UTF-8 LANGUAGE=fi:de:nl") << "Aufruf";
+        QTest::newRow("LANG=nl_NL.UTF-8 LANGUAGE=en:de") << "Usage";
+        QTest::newRow("LC_ALL=C LANGUAGE=de") << "Usage";
+        QTest::newRow("LANG=fi_FI.UTF-8") << "Usage";
+    }
+
+    /// Observed through the usage text, the only text that the program prints.
+    void theProgramFollowsTheEnvironment()
+    {
+        QFETCH(QString, firstWord);
+        const QTemporaryDir home;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"LANG", "LC_ALL", "LC_MESSAGES", "LC_NUMERIC", "LANGUAGE"}) {
+            environment.remove(QLatin1String(name));
+        }
+        environment.insert(QStringLiteral("HOME"), home.path());
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
+        const QString variables = QString::fromLatin1(QTest::currentDataTag());
+        for (const QString &variable : variables.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            environment.insert(variable.section(QLatin1Char('='), 0, 0),
+                               variable.section(QLatin1Char('='), 1));
+        }
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(ZSM_PROGRAM), {QStringLiteral("--help")});
+        QTRY_VERIFY_WITH_TIMEOUT(program.canReadLine() || program.state() == QProcess::NotRunning, 60000);
+        const QString line = QString::fromLocal8Bit(program.readLine());
+        program.kill();
+        program.waitForFinished();
+        QCOMPARE(line.section(QLatin1Char(':'), 0, 0), firstWord);
+    }
+
+private:
+    static QList<QTranslator *> translators() { return qApp->findChildren<QTranslator *>(); }
+
+    static QString shown(const Message &text)
+    {
+        return QCoreApplication::translate(text.context.toUtf8().constData(),
+                                           text.source.toUtf8().constData());
+    }
 };
-
-void TestLanguageChoice::cleanup()
-{
-    qDeleteAll(translators());
-    QLocale::setDefault(QLocale::c());
-}
-
-void TestLanguageChoice::theFirstLanguageWithACatalogueWins_data()
-{
-    QTest::addColumn<QStringList>("wanted");
-    QTest::addColumn<QString>("chosen");
-    const auto row = [](const QStringList &wanted, const char *chosen) {
-        QTest::newRow(qPrintable(wanted.join(QLatin1Char(' ')))) << wanted << QString::fromLatin1(chosen);
-    };
-    row({"de"}, "de");
-    row({"de-DE"}, "de");
-    row({"de_AT"}, "de");
-    row({"de_CH.UTF-8@euro"}, "de");
-    row({"de-euro", "de"}, "de");
-    row({"fr", "de"}, "fr");
-    row({"eo", "de"}, "de");
-    row({"tlh", "eo_XX", "sv"}, "sv");
-    row({"pt-BR"}, "pt_BR");
-    row({"pt"}, "pt_BR");
-    row({"pt_PT"}, "pt_BR");
-    row({"zh_CN"}, "zh_CN");
-    row({"zh-Hans-CN"}, "zh_CN");
-    row({"zh_SG"}, "zh_CN");
-    row({"zh"}, "zh_CN");
-    row({"zh_TW"}, "");
-    row({"zh-Hant-TW", "ja"}, "ja");
-    row({"en"}, "");
-    row({"en-US", "en", "en-Latn-US", "de"}, "");
-    row({"en_GB.UTF-8", "de"}, "");
-    row({"fi", "en", "de"}, "");
-    row({"de", "en"}, "de");
-    row({"C"}, "");
-    row({"C.UTF-8", "de"}, "");
-    row({"POSIX", "de"}, "");
-    row({"", "de"}, "de");
-    row({"!", "../de", "de/../fr"}, "");
-    QTest::newRow("no language") << QStringList() << QString();
-}
-
-void TestLanguageChoice::theFirstLanguageWithACatalogueWins()
-{
-    QFETCH(QStringList, wanted);
-    QFETCH(QString, chosen);
-    QCOMPARE(translationFor(wanted, {"de", "fr", "ja", "pt_BR", "sv", "zh_CN"}), chosen);
-    QCOMPARE(translationFor(wanted, {}), QString());
-}
-
-void TestLanguageChoice::everyCatalogueIsChosenByItsOwnName()
-{
-    for (const QString &language : availableTranslations()) {
-        QCOMPARE(translationFor({language}, availableTranslations()), language);
-    }
-}
-
-void TestLanguageChoice::theCLocaleLeavesEverySourceTextAsItIs()
-{
-    QLocale::setDefault(QLocale::c());
-    installTranslations(QCoreApplication::instance());
-    QVERIFY(translators().isEmpty());
-    everyTextIsTheSourceText();
-}
-
-void TestLanguageChoice::aLocaleWithoutATranslationLeavesEverySourceTextAsItIs()
-{
-    for (const char *name : {"fi_FI", "en_US", "ar_EG", "zh_TW"}) {
-        QLocale::setDefault(QLocale(QLatin1String(name)));
-        installTranslations(QCoreApplication::instance());
-        QVERIFY2(translators().isEmpty(), name);
-    }
-    everyTextIsTheSourceText();
-}
-
-void TestLanguageChoice::everyTextComesInTheLocalesLanguage()
-{
-    QLocale::setDefault(QLocale(QStringLiteral("ru_RU")));
-    installTranslations(QCoreApplication::instance());
-    for (const Message &message : catalogue(QStringLiteral("ru"))) {
-        QCOMPARE(QCoreApplication::translate(message.context.toUtf8().constData(),
-                                             message.source.toUtf8().constData()),
-                 message.translation);
-    }
-}
-
-void TestLanguageChoice::theToolkitsOwnTextsComeInTheLocalesLanguage()
-{
-    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-    if (!QFile::exists(folder + QLatin1String("/qtbase_de.qm"))) {
-        QSKIP("the toolkit's own catalogues are not installed");
-    }
-    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
-    installTranslations(QCoreApplication::instance());
-    QVERIFY(QCoreApplication::translate("QPlatformTheme", "Close") != QLatin1String("Close"));
-    QCOMPARE(translators().size(), 2);
-}
-
-void TestLanguageChoice::theProgramFollowsTheEnvironment_data()
-{
-    QTest::addColumn<QString>("variables");
-    QTest::addColumn<QString>("firstWord");
-    const auto row = [](const char *variables, const char *firstWord) {
-        QTest::newRow(variables) << QString::fromLatin1(variables) << QString::fromLatin1(firstWord);
-    };
-    row("", "Usage");
-    row("LC_ALL=C", "Usage");
-    row("LANG=de_DE.UTF-8", "Aufruf");
-    row("LANG=nl_NL.UTF-8 LC_ALL=de_DE.UTF-8", "Aufruf");
-    row("LANG=nl_NL.UTF-8 LC_NUMERIC=C", "Gebruik");
-    row("LANG=C LC_MESSAGES=de_DE.UTF-8", "Aufruf");
-    row("LANG=nl_NL.UTF-8 LANGUAGE=fi:de:nl", "Aufruf");
-    row("LANG=nl_NL.UTF-8 LANGUAGE=en:de", "Usage");
-    row("LC_ALL=C LANGUAGE=de", "Usage");
-    row("LANG=fi_FI.UTF-8", "Usage");
-}
-
-// Told by the usage text, the only one that the program writes to its output.
-void TestLanguageChoice::theProgramFollowsTheEnvironment()
-{
-    QFETCH(QString, variables);
-    QFETCH(QString, firstWord);
-    const QTemporaryDir home;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"LANG", "LC_ALL", "LC_MESSAGES", "LC_NUMERIC", "LANGUAGE"}) {
-        environment.remove(QLatin1String(name));
-    }
-    environment.insert(QStringLiteral("HOME"), home.path());
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
-    for (const QString &variable : variables.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        environment.insert(variable.section(QLatin1Char('='), 0, 0), variable.section(QLatin1Char('='), 1));
-    }
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.start(QStringLiteral(ZSM_PROGRAM), {QStringLiteral("--help")});
-    QTRY_VERIFY_WITH_TIMEOUT(program.canReadLine() || program.state() == QProcess::NotRunning, 60000);
-    const QString line = QString::fromLocal8Bit(program.readLine());
-    program.kill();
-    program.waitForFinished();
-    QCOMPARE(line.section(QLatin1Char(':'), 0, 0), firstWord);
-}
 
 QTEST_GUILESS_MAIN(TestLanguageChoice)
 #include "test_languagechoice.moc"
