@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qint64 largestFile = 64 * 1024; ///< bytes; ours has less than 4 KiB
+constexpr qint64 largestFile = 64LL * 1024; ///< bytes; ours has less than 4 KiB
 
 /// Value of a hexadecimal (base 16) or octal (base 8) digit; -1 for any other character.
 int digitValue(char character, int base)
@@ -78,8 +78,7 @@ bool holdsSerializedObject(const QByteArray &content)
 bool isSplitterState(const QByteArray &state)
 {
     // A marker, a version, the number of sizes and the sizes, four bytes each; then a byte, the width of the
-    // handle
-    // (-1 for the style's), a byte, the orientation and a byte.
+    // handle (-1 for the style's), a byte, the orientation and a byte.
     constexpr int head = 12;
     constexpr int tail = 11;
     constexpr qint32 widestHandle = 100;

@@ -109,18 +109,13 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), static_cast<QWidget *>(tabBar()));
     }
 
-    void arrowKeysChangeThePage()
+    void arrowKeysChangeThePageAndMnemonicsOpenTheMenus()
     {
         fixture->start(0);
         QTest::keyClick(tabBar(), Qt::Key_Right);
         QCOMPARE(Fixture::find<QTabWidget>("tabWidget")->currentIndex(), 1);
         QTest::keyClick(tabBar(), Qt::Key_Left);
         QCOMPARE(Fixture::find<QTabWidget>("tabWidget")->currentIndex(), 0);
-    }
-
-    void everyMenuHasAMnemonic()
-    {
-        fixture->start(1);
         for (const QAction *menu : Fixture::window()->menuBar()->actions()) {
             QVERIFY2(menu->text().contains(QLatin1Char('&')), qPrintable(menu->text()));
         }

@@ -53,19 +53,14 @@ private Q_SLOTS:
         }
     }
 
-    void staticFactsAreThoseOfTheProbes()
+    void staticFactsAreThoseOfTheProbesWithAModelRowPerCpu()
     {
+        standin::machine().cpus->resize(4);
         fixture->start(0);
         QCOMPARE(Fixture::text("lblHost"), hostName());
         QCOMPARE(Fixture::text("lblSystem"), osDescription());
         QCOMPARE(Fixture::text("lblKernel"), kernelFacts().release);
         QCOMPARE(Fixture::text("lblArch"), kernelFacts().machine);
-    }
-
-    void eachCpuHasAModelRow()
-    {
-        standin::machine().cpus->resize(4);
-        fixture->start(0);
         const auto *grid = Fixture::find<QGridLayout>("glGeneral");
         for (int i = 1; i <= 4; ++i) {
             const auto *caption = qobject_cast<QLabel *>(grid->itemAtPosition(i + 6, 1)->widget());
