@@ -4,8 +4,8 @@
 
 #include <QRect>
 
-/// Where the window opens without a stored geometry: at the origin, 640 x 480 or what a smaller screen's
-/// available area leaves.
+/// Geometry of the window without a stored one: at the origin, 640 x 480 or less on a screen with a smaller
+/// available area.
 inline QRect defaultGeometry(const QRect &available)
 {
     return {0, 0, qMin(available.width() - 20, 640), qMin(available.height() - 40, 480)};

@@ -6,7 +6,7 @@
 
 namespace {
 
-// A folder and a file of it at a time, a socket, and what a look-up of a user may open; with room to spare.
+/// A directory and a file in it at a time, a socket, and the files of a user name look-up; with a margin.
 constexpr std::size_t reserveSize = 8;
 
 } // namespace
@@ -14,36 +14,29 @@ constexpr std::size_t reserveSize = 8;
 DescriptorReserve::DescriptorReserve()
 {
     held.reserve(reserveSize);
-    take();
+    renew();
 }
 
 DescriptorReserve::~DescriptorReserve()
 {
-    drop();
+    release();
 }
 
-bool DescriptorReserve::release()
+bool DescriptorReserve::renew()
 {
-    // Opened anew each time: the limit can have been lowered below the descriptors that are held.
-    drop();
-    take();
-    const bool enough = held.size() == reserveSize;
-    drop();
-    return enough;
-}
-
-void DescriptorReserve::take()
-{
+    // Closed first: the limit may have been lowered below the descriptors that are held.
+    release();
     while (held.size() < reserveSize) {
         const int descriptor = open("/dev/null", O_RDONLY | O_CLOEXEC);
         if (descriptor < 0) {
-            return;
+            return false;
         }
         held.push_back(descriptor);
     }
+    return true;
 }
 
-void DescriptorReserve::drop()
+void DescriptorReserve::release()
 {
     for (const int descriptor : held) {
         close(descriptor);

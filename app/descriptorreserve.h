@@ -4,8 +4,8 @@
 
 #include <vector>
 
-/// File descriptors kept back for the next refresh. libgtop ends the whole process when it can't open
-/// /proc/stat or /proc/meminfo, so reading must never begin on a process that has no descriptor left.
+/// File descriptors held open between refreshes for the next one to use. libgtop exits the whole process if
+/// it cannot open /proc/stat or /proc/meminfo, so a refresh must not start without descriptors to spare.
 class DescriptorReserve
 {
 public:
@@ -14,27 +14,29 @@ public:
     DescriptorReserve(const DescriptorReserve &) = delete;
     DescriptorReserve &operator=(const DescriptorReserve &) = delete;
 
-    /// Gives the reserve up for use. False if the process or the system has not as many descriptors as a
-    /// refresh can need: then nothing may be read.
-    bool release();
-    /// Takes the reserve back, as much of it as there is.
-    void take();
+    /// Reopens the reserve, as far as possible. False if the limit of the process or the system leaves fewer
+    /// descriptors than a refresh may need: then nothing may be read.
+    bool renew();
+    /// Closes the descriptors.
+    void release();
 
 private:
-    void drop();
-
     std::vector<int> held;
 };
 
-/// Frees the reserve as long as it lives.
+/// Releases the reserve during its lifetime.
 class ReleasedDescriptors
 {
 public:
-    explicit ReleasedDescriptors(DescriptorReserve &from) : reserve(from), suffices(from.release()) {}
-    ~ReleasedDescriptors() { reserve.take(); }
+    explicit ReleasedDescriptors(DescriptorReserve &from) : reserve(from), suffices(from.renew())
+    {
+        reserve.release();
+    }
+    ~ReleasedDescriptors() { reserve.renew(); }
     ReleasedDescriptors(const ReleasedDescriptors &) = delete;
     ReleasedDescriptors &operator=(const ReleasedDescriptors &) = delete;
 
+    /// Whether the reserve was complete when it was released.
     bool enough() const { return suffices; }
 
 private:

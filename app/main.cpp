@@ -18,8 +18,8 @@ constexpr char description[] = QT_TRANSLATE_NOOP(
     "ZarnHelpMenu",
     "System monitor allows you to watch general system info, processes info, mount points and network stat.");
 
-// The program paints with the raster engine; loading OpenGL would only cost it memory and time.
-void doWithoutOpenGl()
+/// The program paints with the raster engine; loading OpenGL would only cost memory and time.
+void disableOpenGl()
 {
     constexpr char variable[] = "QT_XCB_GL_INTEGRATION";
     if (!qEnvironmentVariableIsSet(variable)) {
@@ -27,9 +27,9 @@ void doWithoutOpenGl()
     }
 }
 
-// What a refresh takes in one piece goes back to the system with it, instead of staying with the process for
-// good, as it would once the C library has seen how large the pieces are.
-void giveLargeBlocksBack()
+/// Makes malloc() return large blocks to the system when they are freed. By default the C library raises its
+/// thresholds to the size of freed blocks, so the memory of a refresh would stay with the process.
+void returnLargeBlocksToSystem()
 {
     constexpr int largeBlock = 256 * 1024;
     constexpr int keptForTheNextRefresh = 16 * 1024 * 1024;
@@ -41,17 +41,17 @@ void giveLargeBlocksBack()
 
 int main(int argc, char **argv)
 {
-    giveLargeBlocksBack();
-    doWithoutOpenGl();
+    returnLargeBlocksToSystem();
+    disableOpenGl();
     QApplication application(argc, argv);
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("utilities-system-monitor")));
     QCoreApplication::setOrganizationName(QStringLiteral("Telmorra"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("telmorra.example"));
     QCoreApplication::setApplicationName(QStringLiteral("zarn-system-monitor"));
-    // Under Wayland a task bar finds the menu entry, and with it the icon, by this name.
+    // Under Wayland a task bar finds the desktop entry, and through it the icon, by this name.
     QGuiApplication::setDesktopFileName(QStringLiteral("zarn-system-monitor"));
     installTranslations(&application);
-    zarnInit("1.2.2", description);
+    zarnInit(ZSM_VERSION, description);
     const int startPage = startPageFromArguments(argc, argv, std::cout);
     gtop_wrappers::ProcessFiller::instance();
     Updater updater(startPage);

@@ -85,7 +85,7 @@ QSlider *PageIntervals::addSlider(QGridLayout *grid, int value)
     slider->setTracking(true);
     slider->setPageStep(1);
     slider->setSliderDown(true);
-    // Meant: sliderMoved and not valueChanged, so that only moving the slider itself enables OK.
+    // Intentional: sliderMoved, not valueChanged, so that only dragging the slider enables OK.
     connect(slider, SIGNAL(sliderMoved(int)), this, SLOT(update(int)));
     grid->addWidget(slider, 2, 1);
     auto *caption = new QLabel(QObject::tr("Interval"));

@@ -12,28 +12,28 @@ class QLabel;
 class QPushButton;
 class QSlider;
 
-/// How often each page is refreshed, in ticks of one second, and the dialog in which the user changes it.
+/// The refresh interval of each page, in ticks of one second, and the dialog that changes it.
 class PageIntervals : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Every page starts with an interval of 3. The parent widget is also the parent of the dialog.
+    /// Every page starts with an interval of 3. `parent` is also the parent of the dialog.
     PageIntervals(QWidget *parent, int pages);
 
-    /// Interval of a page that exists, in ticks.
+    /// Interval of an existing page, in ticks.
     int interval(int page) const;
-    /// Stored as given, without a check of its range: the dialog offers 1 to 5.
+    /// Does not check the range; the dialog offers 1 to 5.
     void setInterval(int page, int ticks);
-    /// True when the tick is a multiple of the page's interval. An interval of 0 or less, which only a
-    /// settings file can bring, is due on every tick.
+    /// True if the tick is a multiple of the page's interval, and on every tick if the interval is 0 or less,
+    /// which only a settings file can contain.
     bool isDue(int page, int tick) const;
 
-    /// Lets the user choose the interval of a page; stores it on OK.
+    /// Runs the dialog for one page and stores the chosen interval on OK.
     void exec(int page, const QString &pageName);
 
 public Q_SLOTS:
-    /// Shows the value and lets it be accepted.
+    /// Shows the value and enables OK.
     void update(int value);
 
 private:
@@ -43,9 +43,9 @@ private:
     void showUnchanged(int value);
 
     QWidget *parentWidget;
-    // Valid only while the dialog is open.
+    // The next three are valid only while the dialog is open.
     QLabel *valueLabel;
-    QLabel *textLabel;
+    QLabel *textLabel; ///< required, though nothing reads it
     QPushButton *okButton;
     std::vector<int> intervals;
 };

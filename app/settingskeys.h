@@ -6,7 +6,8 @@
 
 #include <iterator>
 
-/// Keys and defaults of the settings file. The window's geometry is kept by the desktop integration library.
+/// Keys and defaults of the settings file, except for the window geometry, which the desktop integration
+/// library stores under a key of its own.
 namespace settings {
 
 struct IntervalKey
@@ -15,8 +16,8 @@ struct IntervalKey
     const char *writtenTo;
 };
 
-/// In page order. Meant: the network interval is written under another key than it is read from, so it starts
-/// at its default in every run.
+/// In page order. Intentional: the network interval is read from another key than it is written to, so it
+/// starts at its default in every run.
 constexpr IntervalKey intervalKeys[] = {
     {"interval/general", "interval/general"},
     {"interval/procs", "interval/procs"},
@@ -30,7 +31,7 @@ constexpr char sortColumn[] = "proc_sort_column";
 constexpr char sortOrder[] = "proc_sort_order";
 constexpr char splitter[] = "fsSplitter";
 
-/// Key of the visibility of a process column.
+/// Key for the visibility of a process column.
 inline QString columnKey(const QString &columnName)
 {
     return QStringLiteral("column/") + columnName;

@@ -5,13 +5,14 @@
 
 namespace {
 
+/// The two ways to name a page on the command line.
 struct PageArgument
 {
     const char *name;
     const char *number;
 };
 
-// In page order.
+/// In page order.
 constexpr PageArgument pageArguments[] = {
     {"general", "-tab=1"},
     {"processes", "-tab=2"},
@@ -64,7 +65,7 @@ int startPageFromArguments(int argc, const char *const *argv, std::ostream &out)
         return -1;
     }
     const int page = startPageOf(QString::fromLocal8Bit(argv[1]));
-    // Meant: an unknown argument is no reason not to start.
+    // Intentional: an unknown argument prints the usage text, but the program starts all the same.
     if (page < 0) {
         printUsage(out);
     }

@@ -7,18 +7,18 @@
 
 #include <ostream>
 
-/// Page that a command-line argument names: 0 General, 1 Processes, 2 File systems, 3 Network, or -1 for
-/// anything else. Compared exactly, case included.
+/// Page named by a command-line argument: 0 General, 1 Processes, 2 File systems, 3 Network; -1 for anything
+/// else. Case-sensitive.
 int startPageOf(const QString &argument);
 
-/// The usage text in the language of the user interface, line by line.
+/// Lines of the usage text in the language of the user interface.
 QStringList usageText();
 
 /// Writes the usage text in the encoding of the locale.
 void printUsage(std::ostream &out);
 
-/// Start page for the arguments of main(): -1 without one; an unknown one prints the usage text to `out` and
-/// starts normally. Arguments past the first are ignored.
+/// Start page for the arguments of main(): -1 without an argument; -1 for an unknown one as well, after the
+/// usage text is printed to `out`. Arguments after the first are ignored.
 int startPageFromArguments(int argc, const char *const *argv, std::ostream &out);
 
 #endif

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qint64 largestFile = 64 * 1024; // ours has less than 4 KiB
+constexpr qint64 largestFile = 64LL * 1024; ///< bytes; ours has less than 4 KiB
 
 /// Value of a hexadecimal (base 16) or octal (base 8) digit; -1 for any other character.
 int digitValue(char character, int base)
@@ -19,6 +19,7 @@ int digitValue(char character, int base)
     return value < base ? value : -1;
 }
 
+/// Whether an unescaped character may be dropped when a value is read.
 bool isDropped(char character)
 {
     return QByteArray("\" \t\r\n").contains(character);
@@ -36,8 +37,8 @@ char escapedCharacter(const QByteArray &content, int &at, int base)
     return value < 0x80U ? static_cast<char>(value) : '?';
 }
 
-/// The content without its quotes, blanks and escapes: what a value can come to when it is read. Blanks fall
-/// away behind a closing quote, line ends behind a backslash.
+/// The content without its quotes, white space and escapes, so that it contains whatever a value can become
+/// when it is read: blanks are dropped after a closing quote, line ends after a backslash.
 QByteArray unescaped(const QByteArray &content)
 {
     QByteArray plain;
@@ -56,6 +57,7 @@ QByteArray unescaped(const QByteArray &content)
     return plain;
 }
 
+/// Whether the settings file can be read without risk.
 bool isSafe(const QString &path)
 {
     QFile file(path);
@@ -73,17 +75,17 @@ bool holdsSerializedObject(const QByteArray &content)
     return plain.contains("@Variant(") || plain.contains("@DateTime(");
 }
 
-// A marker, a version, the number of sizes and the sizes, each of four bytes; then a byte, the width of the
-// handle (-1 for the style's), a byte, the direction and a byte.
 bool isSplitterState(const QByteArray &state)
 {
+    // A marker, a version, the number of sizes and the sizes, four bytes each; then a byte, the width of the
+    // handle (-1 for the style's), a byte, the orientation and a byte.
     constexpr int head = 12;
     constexpr int tail = 11;
     constexpr qint32 widestHandle = 100;
     if (state.size() < head + tail) {
         return false;
     }
-    const char *const end = state.constData() + state.size();
+    const char *end = state.constData() + state.size();
     const auto count = qFromBigEndian<quint32>(state.constData() + 8);
     const auto handle = qFromBigEndian<qint32>(end - 10);
     return qint64(count) * 4 == state.size() - head - tail && handle >= -1 && handle <= widestHandle &&

@@ -7,7 +7,7 @@
 #include <QLocale>
 #include <QTranslator>
 
-// Outside any namespace, as the macro declares a function of the global one.
+/// At global scope, because the macro declares a function there.
 static void initTranslations()
 {
     Q_INIT_RESOURCE(translations);
@@ -15,7 +15,8 @@ static void initTranslations()
 
 namespace {
 
-// The standard buttons, so that they are translated where the toolkit's own catalogues are not installed.
+/// Adds the standard buttons to our catalogues, for systems without the toolkit's own catalogues. Only
+/// lupdate reads it.
 [[maybe_unused]] constexpr const char *standardButtons[] = {QT_TRANSLATE_NOOP("QPlatformTheme", "OK"),
                                                             QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel")};
 
@@ -29,8 +30,8 @@ bool isSourceLanguage(const QString &language)
     return name == QLatin1String("en") || name == QLatin1String("C") || name == QLatin1String("POSIX");
 }
 
-// "de_AT" as it stands, then "de", then the language in the country where most of those who write it in the
-// same script live: "pt_PT" is served by "pt_BR", but "zh_TW" not by "zh_CN".
+/// Catalogue names to try in order: "de_AT", then "de", then the language and script with their most populous
+/// country. So "pt_PT" falls back to "pt_BR", but "zh_TW", in another script, not to "zh_CN".
 QStringList candidates(const QString &language)
 {
     const QLocale locale(language);
@@ -42,6 +43,7 @@ QStringList candidates(const QString &language)
             QLocale(locale.language(), locale.script(), QLocale::AnyCountry).name()};
 }
 
+/// Installs the catalogue in `file` if there is one.
 void load(QCoreApplication *application, const QString &file)
 {
     auto *translator = new QTranslator(application);
@@ -68,7 +70,7 @@ QStringList availableTranslations()
 QString translationFor(const QStringList &languages, const QStringList &available)
 {
     for (const QString &wanted : languages) {
-        // The encoding and the modifier of a locale's name don't tell the language.
+        // Strip the encoding and the modifier of a locale name.
         QString language = wanted.section(QLatin1Char('.'), 0, 0).section(QLatin1Char('@'), 0, 0);
         language.replace(QLatin1Char('-'), QLatin1Char('_'));
         if (isSourceLanguage(language)) {
@@ -86,7 +88,7 @@ QString translationFor(const QStringList &languages, const QStringList &availabl
 void installTranslations(QCoreApplication *application)
 {
     const QLocale locale;
-    // The C locale outranks the list of languages in LANGUAGE, as it does for the C library's messages.
+    // As for the C library's messages, the C locale takes precedence over the languages in LANGUAGE.
     if (locale.language() == QLocale::C) {
         return;
     }
@@ -96,6 +98,6 @@ void installTranslations(QCoreApplication *application)
     }
     load(application, QLibraryInfo::location(QLibraryInfo::TranslationsPath) + QLatin1String("/qtbase_") +
                           language + suffix);
-    // Installed last, so that it is asked first.
+    // Installed last, so that it takes precedence over the toolkit's catalogue.
     load(application, folder + QLatin1Char('/') + prefix + language + suffix);
 }

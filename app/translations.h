@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#ifndef ZSM_APP_TRANSLATIONS_H
-#define ZSM_APP_TRANSLATIONS_H
+#ifndef APP_TRANSLATIONS_H
+#define APP_TRANSLATIONS_H
 
 #include <QStringList>
 
 class QCoreApplication;
 
-/// The languages of the built-in catalogues, in the form "de" or "pt_BR".
+/// Languages of the built-in catalogues, in the form "de" or "pt_BR".
 QStringList availableTranslations();
 
-/// The catalogue out of `available` for a user whose languages are `languages`, the most wanted one first,
-/// each in the form "pt_BR", "pt-BR", "zh-Hans-CN" or "de_DE.UTF-8@euro". English and the C locale are served
-/// by the source texts: what comes behind them is not wanted. Empty when the source texts are to be shown.
+/// The catalogue in `available` that fits the user's `languages` best. These are in order of preference, each
+/// in the form "pt_BR", "pt-BR", "zh-Hans-CN" or "de_DE.UTF-8@euro". Empty if the source texts are to be
+/// shown: they serve English and the C locale, so languages after these are ignored.
 QString translationFor(const QStringList &languages, const QStringList &available);
 
-/// Translates the program, and the toolkit's own dialogs where the toolkit has the language installed, into
-/// the first of the user's UI languages that there is a catalogue for. Call it before texts are made.
-/// With no such language, and in the C locale, nothing is loaded and every text stays the source text.
+/// Installs the catalogue for the first of the user's UI languages that has one, and the toolkit's catalogue
+/// of that language if the system has it. Must be called before any text is translated. Without such a
+/// language, and in the C locale, nothing is loaded and the source texts are shown.
 void installTranslations(QCoreApplication *application);
 
 #endif

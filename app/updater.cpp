@@ -46,7 +46,8 @@ Updater::Updater(int startPage)
 
 Updater::~Updater()
 {
-    const ReleasedDescriptors released(descriptors); // the settings file takes some to be written
+    // Writing the settings file needs descriptors, so even an incomplete reserve helps.
+    const ReleasedDescriptors released(descriptors);
     saveSettings();
     glibtop_close();
 }
@@ -62,12 +63,12 @@ void Updater::update(bool _updateAll)
 {
     const ReleasedDescriptors released(descriptors);
     if (released.enough()) {
-        refreshWhatIsDue(_updateAll);
+        refreshDuePages(_updateAll);
     }
     ++tick;
 }
 
-void Updater::refreshWhatIsDue(bool _updateAll)
+void Updater::refreshDuePages(bool _updateAll)
 {
     const int shown = ui.tabWidget->currentIndex();
     const auto wanted = [&](Page page) {
@@ -82,7 +83,8 @@ void Updater::refreshWhatIsDue(bool _updateAll)
     if (wanted(FileSystemsPage)) {
         refreshFileSystems();
     }
-    // Meant: the network is sampled on its own interval, shown or not, and a full refresh does not force it.
+    // Intentional: the network is sampled on its own interval, shown or not, so that its graph has no gaps,
+    // and a full refresh does not force it.
     if (intervals->isDue(NetworkPage, tick)) {
         refreshNetwork();
     }

@@ -3,6 +3,7 @@
 #define APP_UPDATER_H
 
 #include "app/descriptorreserve.h"
+#include "app/page.h"
 #include "resources/cpuload.h"
 #include "resources/netdevices.h"
 #include "ui_mainwindow.h"
@@ -22,12 +23,9 @@ class QProg;
 class QTimer;
 class TimeHisto;
 
-/// Pages in the order of the tabs; the numbering serves the start page, the tabs and the intervals.
-enum Page { GeneralPage = 0, ProcessesPage = 1, FileSystemsPage = 2, NetworkPage = 3 };
-
-/// The controller: owns the main window, the models and the tick of one second, and decides on each tick
-/// which page is refreshed. Its bodies stand in several files, grouped by what they serve: updater.cpp (life
-/// and tick), updater_window.cpp, updater_menus.cpp, updater_settings.cpp and one file per page.
+/// The controller: owns the main window, the models and the one-second tick, and decides on each tick which
+/// pages are refreshed. It is implemented in several files: updater.cpp (construction and tick),
+/// updater_window.cpp, updater_menus.cpp, updater_settings.cpp and one file per page.
 class Updater : public QObject
 {
     Q_OBJECT
@@ -39,21 +37,21 @@ public:
     ~Updater() override;
 
 public Q_SLOTS:
-    // The order of the slots is fixed: callers may know them by their meta-object index.
-    /// One tick: refreshes what is due and shown; with _updateAll General, Processes and File systems in any
-    /// case. A tick on which no file could be opened shows nothing new.
+    // The order of the slots is fixed: callers may address them by their meta-object index.
+    /// One tick: refreshes the page that is shown and due, and the network if due; with _updateAll General,
+    /// Processes and File systems in any case. Short of file descriptors, a tick refreshes nothing.
     void update(bool _updateAll);
     void update();
-    /// Shows the interface at this position of the chooser and samples it; ignores a position that isn't
-    /// there.
+    /// Makes the interface at this position of the chooser the current one and samples it; no-op for a
+    /// position that does not exist.
     void setNetDevice(int index);
-    /// Context menu of the process list.
+    /// Runs the context menu of the process list.
     void popup();
     void updateMainMenu();
     void updateProcessActions();
     /// A new menu with one checkable entry per process column; the caller owns it.
     QMenu *menuVisibleColumns();
-    /// Details and chart of a row of the file system table.
+    /// Shows the details and the chart of a row of the file system table.
     void slotSelectFs(QModelIndex index);
     void slotTabChanged(int);
     /// Shows or hides the column of the action that sent the signal.
@@ -62,6 +60,7 @@ public Q_SLOTS:
     void slotIntervalProcs();
     void slotIntervalFs();
     void slotIntervalNet();
+    // Intentionally empty: the Help menu serves both, but the slots hold the last two of the fixed indexes.
     void slotAbout();
     void slotHelp();
 
@@ -70,7 +69,6 @@ private:
     void buildWindow();
     void addStateGauges();
     QProg *addStateGauge(const QColor &color, int row, QLabel *caption);
-    void prepareNetworkPage();
     void addChart();
     void paintColorKeys();
     void connectWindow();
@@ -82,30 +80,34 @@ private:
     // updater_general.cpp
     void buildCpuRows();
     void fillGeneralPage();
-    void scrollGeneralPageIfTooHigh();
-    void forgetWindowSizes();
     void sampleCpuLoad();
     void refreshGeneral();
-    // updater_processes.cpp, updater_filesystems.cpp, updater_network.cpp
+    // updater_processes.cpp
     void refreshProcesses();
-    int selectedPid() const; // -1 without a selection
+    int selectedPid() const; ///< -1 without a selection
+    // updater_filesystems.cpp
     void refreshFileSystems();
+    // updater_network.cpp
+    void buildNetworkPage();
     void refreshNetwork();
     void showNetDevice(const NetRec &device);
     // updater.cpp, updater_settings.cpp
     void startTimer();
-    void refreshWhatIsDue(bool _updateAll);
+    void refreshDuePages(bool _updateAll);
     void loadSettings();
     void saveSettings() const;
 
+    // The models and the process menu are QObject children, so they outlive the members: the window and its
+    // views are destroyed first, and no view is left with a deleted model.
     ProxyFsModel *fsModel;
     ProxyProcModel *procModel;
     std::vector<NetRec> netDevices;
-    int currentNetDevice;
+    int currentNetDevice; ///< position in netDevices; -1 before the first choice
     int cpuCount;
-    int cpuFirstSample;
+    int cpuFirstSample; ///< 1 until the first CPU sample, then 0; required, though nothing reads it
     std::vector<CpuRec> cpuRecords;
-    QTimer *timer;
+    QTimer *timer; ///< child of mainWindow
+    // Must precede `intervals`, whose parent mainWindow is; the window deletes it and the timer.
     QMainWindow mainWindow;
     Ui_MainWindow ui;
     QMenu *fileMenu;
@@ -119,7 +121,8 @@ private:
     TimeHisto *timeHisto;
     QProg *diskGauge;
     QProg *memoryGauge;
-    quint64 cpuTotalDelta; ///< jiffies of all CPUs between the last two samples; kept, not shown
+    /// Jiffies of all CPUs between the last two samples; required, though nothing reads it.
+    quint64 cpuTotalDelta;
     quint64 lastBytesIn;
     quint64 lastBytesOut;
     DescriptorReserve descriptors;

@@ -8,7 +8,7 @@
 void Updater::refreshFileSystems()
 {
     fsModel->update(collectMountList());
-    // The model's dataChanged() names no valid end, so the view doesn't learn from it what to paint again.
+    // The model's dataChanged() carries an invalid bottom right, so the view does not repaint by itself.
     ui.tableFS->viewport()->update();
     if (!ui.tableFS->selectionModel()->hasSelection()) {
         ui.tableFS->setCurrentIndex(fsModel->index(0, 0));
@@ -24,7 +24,7 @@ void Updater::slotSelectFs(QModelIndex index)
     ui.lblTotal->setText(details.total);
     ui.lblUsed->setText(details.used);
     ui.lblAvail->setText(details.avail);
-    // Meant: this label keeps its name although it shows the device; the caption beside it says so.
+    // Intentional: lblMountPoint shows the device, as its caption says; its object name is fixed.
     ui.lblMountPoint->setText(details.device);
     ui.lblFsType->setText(details.type);
 }

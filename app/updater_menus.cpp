@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/pageintervals.h"
 #include "app/updater.h"
+#include "images/icons.h"
 #include "integration/helpmenu.h"
 #include "process/processmenu.h"
 #include "process/proxyprocmodel.h"
@@ -23,9 +24,8 @@ void Updater::buildMenus()
 void Updater::buildFileMenu()
 {
     fileMenu = ui.menubar->addMenu(tr("&File"));
-    // Told to be PNG for the same reason as the process menu's.
-    const QIcon icon =
-        QIcon::fromTheme(QStringLiteral("application-exit"), QPixmap(QStringLiteral(":/images/exit"), "PNG"));
+    const QIcon fallback = embeddedIcon(QStringLiteral(":/images/exit"));
+    const QIcon icon = QIcon::fromTheme(QStringLiteral("application-exit"), fallback);
     fileMenu->addAction(icon, tr("Exit"), qApp, SLOT(quit()), QKeySequence(QStringLiteral("Ctrl+Q")));
 }
 

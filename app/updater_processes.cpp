@@ -9,7 +9,7 @@
 
 void Updater::refreshProcesses()
 {
-    static gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
+    static auto *filler = gtop_wrappers::ProcessFiller::instance();
     procModel->setTotalCpuTime(totalCpuTime());
     std::vector<bool> wanted(filler->size(), false);
     const int sortedBy = procModel->sortedProcessColumn();
@@ -20,12 +20,12 @@ void Updater::refreshProcesses()
     const auto types = static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes());
     const int selected = selectedPid();
     procModel->refresh(filler->getProcesses(types), 0);
-    // When a selected row goes, the view selects its neighbour. The next signal would hit a process that
-    // nobody chose.
+    // When the selected row is removed, the view selects its neighbour, and the next signal would be sent to
+    // a process the user did not choose.
     if (selectedPid() != selected) {
         ui.treeView->selectionModel()->clear();
     }
-    // The selected process may have stopped or gone on, and the shortcuts go by what is known of it.
+    // The state of the selected process, which decides which shortcuts are enabled, may have changed.
     if (ui.tabWidget->currentIndex() == ProcessesPage) {
         updateProcessActions();
     }
@@ -39,7 +39,7 @@ int Updater::selectedPid() const
 
 QMenu *Updater::menuVisibleColumns()
 {
-    static const gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
+    static const auto *filler = gtop_wrappers::ProcessFiller::instance();
     auto *menu = new QMenu(tr("Visible columns"));
     for (unsigned long i = 0; i < filler->size(); ++i) {
         auto *action = new QAction(filler->title(i), menu);
@@ -55,7 +55,7 @@ QMenu *Updater::menuVisibleColumns()
 void Updater::slotToggleColumn()
 {
     const auto *action = qobject_cast<QAction *>(sender());
-    if (action == nullptr) {
+    if (!action) {
         qCritical() << "void Updater::slotToggleColumn()"
                     << "call not by signal";
         return;

@@ -18,11 +18,11 @@ namespace {
 QRect availableGeometry()
 {
     const QScreen *screen = QGuiApplication::primaryScreen();
-    return screen == nullptr ? QRect() : screen->availableGeometry();
+    return screen ? screen->availableGeometry() : QRect();
 }
 
-// Any number is taken as it is; what is no number at all counts as not stored.
-int readableInterval(const QVariant &value)
+/// A stored interval without a range check; the default if it is not a number.
+int storedInterval(const QVariant &value)
 {
     bool readable = false;
     const int ticks = value.toInt(&readable);
@@ -33,18 +33,19 @@ int readableInterval(const QVariant &value)
 
 void Updater::loadSettings()
 {
-    static const gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
+    static const auto *filler = gtop_wrappers::ProcessFiller::instance();
     setAsideUnsafeSettings();
     QSettings stored;
     zarnRestoreGeometry(&mainWindow, &stored, defaultGeometry(availableGeometry()), false);
     for (int page = 0; page < settings::pageCount; ++page) {
         const QString key = QLatin1String(settings::intervalKeys[page].readFrom);
-        intervals->setInterval(page, readableInterval(stored.value(key, settings::defaultInterval)));
+        intervals->setInterval(page, storedInterval(stored.value(key, settings::defaultInterval)));
     }
     if (intervals->interval(NetworkPage) != settings::defaultInterval) {
-        timeHisto->setInterval(intervals->interval(NetworkPage)); // or its times would be wrong
+        timeHisto->setInterval(intervals->interval(NetworkPage)); // the time axis depends on it
     }
-    procModel->setLayoutDeferred(true); // each column resets the list, and it is refreshed again and again
+    // Each change of a column resets the model, which refreshes it whenever a tick is due.
+    procModel->setLayoutDeferred(true);
     for (unsigned long i = 0; i < filler->size(); ++i) {
         const QString key = settings::columnKey(filler->name(i));
         procModel->setColumnVisible(i, stored.value(key, procModel->isColumnVisible(i)).toBool());
@@ -62,7 +63,7 @@ void Updater::loadSettings()
 
 void Updater::saveSettings() const
 {
-    static const gtop_wrappers::ProcessFiller *const filler = gtop_wrappers::ProcessFiller::instance();
+    static const auto *filler = gtop_wrappers::ProcessFiller::instance();
     QSettings stored;
     zarnSaveGeometry(&mainWindow, &stored, false);
     for (int page = 0; page < settings::pageCount; ++page) {

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/pageintervals.h"
 #include "app/updater.h"
 #include "fs/chart.h"
 #include "fs/proxyfsmodel.h"
 #include "process/proxyprocmodel.h"
 #include "resources/qprog.h"
-#include "resources/timehisto.h"
 
 #include <QPainter>
 #include <QPixmap>
 #include <QVBoxLayout>
 
-// Outside any namespace, as the macro declares a function of the global one.
+/// At global scope, because the macro declares a function there.
 static void initImages()
 {
     Q_INIT_RESOURCE(images);
@@ -19,6 +17,7 @@ static void initImages()
 
 namespace {
 
+/// Paints the key over what the pixmap holds and returns a copy.
 QPixmap colorKey(QPixmap &pixmap, const QColor &color)
 {
     QPainter painter(&pixmap);
@@ -35,7 +34,7 @@ void Updater::buildWindow()
     initImages();
     ui.setupUi(&mainWindow);
     addStateGauges();
-    prepareNetworkPage();
+    buildNetworkPage();
     addChart();
     paintColorKeys();
     connectWindow();
@@ -59,16 +58,6 @@ QProg *Updater::addStateGauge(const QColor &color, int row, QLabel *caption)
     return gauge;
 }
 
-void Updater::prepareNetworkPage()
-{
-    // A machine may have no interface that would replace the form's placeholders.
-    for (QLabel *label : {ui.netAdress, ui.netMask, ui.netIn, ui.netOut, ui.netErrors}) {
-        label->clear();
-    }
-    timeHisto = new TimeHisto(ui.frame, intervals->interval(NetworkPage));
-    ui.ltTimeHisto->addWidget(timeHisto);
-}
-
 void Updater::addChart()
 {
     auto *layout = new QVBoxLayout(ui.frmDisk);
@@ -87,8 +76,8 @@ void Updater::paintColorKeys()
 
 void Updater::connectWindow()
 {
-    // Meant: a choice of an interface calls setNetDevice() twice, and a change of the tab refreshes twice,
-    // first with the running tick and then from tick 0. The order of the connections is part of it.
+    // Intentional: choosing an interface calls setNetDevice() twice, and a tab change refreshes twice, first
+    // with the running tick and then from tick 0. The order of the connections matters for this.
     connect(ui.comboNet, SIGNAL(activated(int)), this, SLOT(setNetDevice(int)));
     connect(ui.tabWidget, SIGNAL(currentChanged(int)), this, SLOT(update()));
     fsModel->setView(ui.tableFS);
@@ -102,8 +91,8 @@ void Updater::connectWindow()
 
 void Updater::followProcessSelection()
 {
-    // A shortcut must act on the row that is highlighted, not on the one that was when a menu was last open.
-    // A reset clears the selection without a signal of its own.
+    // A shortcut must act on the row that is highlighted now, not on the one when a menu was last opened.
+    // A reset clears the selection without emitting a selection signal.
     connect(ui.treeView->selectionModel(), SIGNAL(selectionChanged(QItemSelection, QItemSelection)), this,
             SLOT(updateProcessActions()));
     connect(ui.treeView->selectionModel(), SIGNAL(currentChanged(QModelIndex, QModelIndex)), this,

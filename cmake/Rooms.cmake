@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Rooms: the static libraries of the program.
+# The rooms: the static libraries that the program consists of.
 #
-# Includes are written from the root of the tree ("fs/sizetostr.h"), but no target has the root
-# itself on its include path. Each room shows its own folder through a link in the build tree, and
-# only those who link the room see it, so an include that breaks the directions does not compile.
+# Includes are relative to the root of the source tree ("fs/sizetostr.h"), but no target has the root
+# on its include path. Each room exposes its own folder through a symbolic link in the build tree to
+# the targets that link it, so an include against the allowed dependencies does not compile.
 
-# zsm_show(<target> <path>): those who link <target> may include <path> (a folder or one header).
+# zsm_show(<target> <path>): targets that link <target> may include <path> (a folder or one header).
 function(zsm_show target path)
   get_target_property(kind ${target} TYPE)
   if(kind STREQUAL INTERFACE_LIBRARY)
@@ -20,7 +20,7 @@ function(zsm_show target path)
   target_include_directories(${target} ${scope} "${root}")
 endfunction()
 
-# zsm_room(<target> <folder> <source>...): a room as a static library that shows its folder.
+# zsm_room(<target> <folder> <source>...): adds a room as a static library that exposes its folder.
 function(zsm_room target folder)
   add_library(${target} STATIC ${ARGN})
   target_link_libraries(${target} PRIVATE zsm_warnings)

@@ -6,7 +6,7 @@ if(ZSM_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-option(ZSM_FUZZ "Build the coverage-guided fuzz targets, with the sanitizers; needs clang" OFF)
+option(ZSM_FUZZ "Build the coverage-guided fuzz targets with the sanitizers; needs clang" OFF)
 
 if(ZSM_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

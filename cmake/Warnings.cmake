@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# zsm_warnings: what our own code must stand without a word from the compiler.
-option(ZSM_WARNINGS_AS_ERRORS "Treat the warnings in our own code as errors" ON)
+# zsm_warnings: the warnings that our own code must compile without.
+option(ZSM_WARNINGS_AS_ERRORS "Treat warnings in our own code as errors" ON)
 
 add_library(zsm_warnings INTERFACE)
 target_compile_options(zsm_warnings INTERFACE

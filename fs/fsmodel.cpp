@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fs/fsmodel.h"
 
+#include "images/icons.h"
+
 #include <QHash>
 #include <QSet>
 
@@ -148,8 +150,8 @@ QModelIndex FSModel::firstIndex() const
 QIcon FSModel::icon(const FSInfo &info) const
 {
     if (diskFallback.isNull()) {
-        opticalFallback = QPixmap(QStringLiteral(":/images/cd"), "PNG");
-        diskFallback = QPixmap(QStringLiteral(":/images/hard"), "PNG");
+        opticalFallback = embeddedIcon(QStringLiteral(":/images/cd"));
+        diskFallback = embeddedIcon(QStringLiteral(":/images/hard"));
     }
     return isOpticalType(info.type) ? QIcon::fromTheme(QStringLiteral("drive-optical"), opticalFallback)
                                     : QIcon::fromTheme(QStringLiteral("drive-harddisk"), diskFallback);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/processmenu.h"
 
+#include "images/icons.h"
 #include "process/dlgnice.h"
 #include "process/gtop_wrappers/filler.h"
 #include "process/proxyprocmodel.h"
@@ -157,9 +158,8 @@ void ProcessMenu::createAction(const ActionRow &row, QActionGroup *&group)
     auto *action = new QAction(tr(row.text), this);
     action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
     if (*row.themeIcon) {
-        // QIcon(path) would load the MIME database to find out that the file, which has no suffix, is a PNG.
-        action->setIcon(
-            QIcon::fromTheme(QLatin1String(row.themeIcon), QPixmap(QLatin1String(row.fallbackIcon), "PNG")));
+        const QIcon fallback = embeddedIcon(QLatin1String(row.fallbackIcon));
+        action->setIcon(QIcon::fromTheme(QLatin1String(row.themeIcon), fallback));
     }
     action->setCheckable(row.checking != Plain);
     if (row.checking == Exclusive) {

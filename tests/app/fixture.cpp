@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fixture.h"
 
+#include "process/proxyprocmodel.h"
+
 #include <QLabel>
 #include <QTabWidget>
+#include <QTreeView>
+#include <QVBoxLayout>
 
 #include <arpa/inet.h>
 #include <unistd.h>
@@ -26,21 +30,10 @@ standin::Machine Fixture::smallMachine()
 {
     standin::Machine machine;
     machine.cpus = {{1000, 4000}, {500, 4000}};
-    machine.memory = standin::Memory{std::uint64_t(8) << 30, std::uint64_t(1) << 30, std::uint64_t(1) << 29, std::uint64_t(2) << 30};
-    standin::Mount root;
-    root.device = "/dev/sda1";
-    root.directory = "/";
-    root.type = "ext4";
-    root.blocks = 1000000;
-    root.freeBlocks = 300000;
-    root.availBlocks = 250000;
-    root.files = 65536;
-    standin::Mount disc = root;
-    disc.device = "/dev/sr0";
-    disc.directory = "/media/disc";
-    disc.type = "iso9660";
-    disc.freeBlocks = disc.availBlocks = 0;
-    machine.mounts = {root, disc};
+    machine.memory = standin::Memory{std::uint64_t(8) << 30, std::uint64_t(1) << 30, std::uint64_t(1) << 29,
+                                     std::uint64_t(2) << 30};
+    machine.mounts = {{"/dev/sda1", "/", "ext4", 1000000, 300000, 250000, 65536, 4096, false, 0},
+                      {"/dev/sr0", "/media/disc", "iso9660", 1000000, 0, 0, 65536, 4096, false, 0}};
     machine.interfaces = {
         {"wlan0", inet_addr("192.168.1.2"), inet_addr("255.255.255.0"), 2048, 1024, 3, false},
         {"eth0", inet_addr("10.0.0.7"), inet_addr("255.0.0.0"), 4096, 512, 0, false},
@@ -90,6 +83,30 @@ void Fixture::choosePage(int page)
 QString Fixture::text(const char *label)
 {
     return find<QLabel>(label)->text();
+}
+
+ProxyProcModel *Fixture::processes()
+{
+    return qobject_cast<ProxyProcModel *>(find<QTreeView>("treeView")->model());
+}
+
+QWidget *Fixture::graph()
+{
+    return find<QVBoxLayout>("ltTimeHisto")->itemAt(0)->widget();
+}
+
+int Fixture::drawnSamples()
+{
+    const QImage image = graph()->grab().toImage();
+    for (int x = 110; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y) {
+            const QColor color = image.pixelColor(x, y);
+            if (color.red() > 150 && color.green() < 100 && color.blue() < 100) {
+                return qRound((image.width() - 15 - x) * 100.0 / (image.width() - 85)) + 1;
+            }
+        }
+    }
+    return 0;
 }
 
 QString Fixture::settingsFile()

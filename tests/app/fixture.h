@@ -11,6 +11,8 @@
 
 #include <memory>
 
+class ProxyProcModel;
+
 /// The whole controller on a made-up machine, with a settings folder of its own.
 class Fixture
 {
@@ -22,15 +24,17 @@ public:
     /// user.
     static standin::Machine smallMachine();
 
-    /// Starts the controller, as after setting the application's names; ends a running one first.
+    /// Starts the controller; stops a running one first.
     Updater &start(int page = -1);
-    /// Ends the controller, which saves the settings.
+    /// Destroys the controller, which saves the settings.
     void stop();
     Updater &updater() { return *controller; }
+    /// Refreshes a page as after a change of the tab; the tick is 1 afterwards.
+    void refresh(int page) { controller->slotTabChanged(page); }
 
     /// The main window of the running controller.
     static QMainWindow *window();
-    /// A named widget of the main window; nullptr when it isn't there.
+    /// A named widget or layout of the main window; null if it does not exist.
     template <class T>
     static T *find(const char *name)
     {
@@ -38,6 +42,12 @@ public:
     }
     static void choosePage(int page);
     static QString text(const char *label);
+    /// The model of the process tree.
+    static ProxyProcModel *processes();
+    /// The graph of the Network page.
+    static QWidget *graph();
+    /// Length of the graph's line of outgoing bytes, in samples; 0 without a line.
+    static int drawnSamples();
 
     /// Path of the settings file.
     static QString settingsFile();
@@ -45,6 +55,19 @@ public:
 private:
     QTemporaryDir folder;
     std::unique_ptr<Updater> controller;
+};
+
+/// Base of the tests of the controller: every test function has a fixture of its own.
+class ControllerTest : public QObject
+{
+    Q_OBJECT
+
+protected Q_SLOTS:
+    void init() { fixture = std::make_unique<Fixture>(); }
+    void cleanup() { fixture.reset(); }
+
+protected:
+    std::unique_ptr<Fixture> fixture;
 };
 
 #endif
