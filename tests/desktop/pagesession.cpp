@@ -40,16 +40,6 @@ QJsonObject PageSession::named(const QString &className, const QString &accessib
     return {};
 }
 
-QString PageSession::described(const QString &className)
-{
-    return widgets(className).value(0).value("accessibleDescription").toString();
-}
-
-QImage PageSession::picture(const QJsonObject &widget)
-{
-    return screenshot().copy(rectOf(widget.value("rect")));
-}
-
 bool PageSession::waitForTexts(const QMap<QString, QString> &expected)
 {
     QString seen;

@@ -17,9 +17,13 @@ public:
     QVector<QJsonObject> widgets(const QString &className);
     /// The widget of a class with this accessible name; empty if there is none.
     QJsonObject named(const QString &className, const QString &accessibleName);
-    QString described(const QString &className); ///< the accessible description of the first one
+    /// The accessible description of the first one.
+    QString described(const QString &className)
+    {
+        return widgets(className).value(0).value("accessibleDescription").toString();
+    }
     /// What a user sees of a widget that is entirely on the screen.
-    QImage picture(const QJsonObject &widget);
+    QImage picture(const QJsonObject &widget) { return screenshot().copy(rectOf(widget.value("rect"))); }
     QImage picture(const QString &className)
     {
         return picture(widgets(className).value(0));

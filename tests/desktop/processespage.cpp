@@ -39,27 +39,12 @@ bool ProcessesPage::isSelected(int pid)
     return now.rows.value(rowOf(now, pid)).selected;
 }
 
-bool ProcessesPage::waitForText(int pid, const char *header, const QString &expected)
-{
-    return desktop.waitFor([&] { return text(pid, header) == expected; });
-}
-
-bool ProcessesPage::waitForRow(int pid)
-{
-    return desktop.waitFor([&] { return rowOf(list(), pid) >= 0; });
-}
-
 bool ProcessesPage::waitForNoRow(int pid)
 {
     return desktop.waitFor([&] {
         const Table now = list();
         return !now.rows.isEmpty() && rowOf(now, pid) < 0;
     });
-}
-
-bool ProcessesPage::clickProcess(int pid, int button)
-{
-    return desktop.clickRow("treeView", "PID", QString::number(pid), button);
 }
 
 // Clicks again if a refresh has moved the row away from under the mouse.
@@ -88,16 +73,6 @@ bool ProcessesPage::openContextMenuOnEmptySpace()
            waitForMenu("Visible columns");
 }
 
-bool ProcessesPage::openProcessMenu()
-{
-    return desktop.clickMenu("Edit") && desktop.clickMenu("Process") && waitForMenu("Tree view");
-}
-
-bool ProcessesPage::waitForMenu(const QString &entry)
-{
-    return desktop.waitFor([&] { return !rectOf(desktop.menuEntry(entry).value("rect")).isEmpty(); });
-}
-
 // Waits for the page: a key sent at once might overtake the click.
 bool ProcessesPage::showPage(const QString &tab)
 {
@@ -107,11 +82,6 @@ bool ProcessesPage::showPage(const QString &tab)
         return current["text"].toString() == tab;
     };
     return desktop.clickTab(tab) && desktop.waitFor(isShown);
-}
-
-bool ProcessesPage::closeMenus()
-{
-    return desktop.waitFor([&] { return desktop.menuTexts().isEmpty() || (desktop.key("Escape") && false); });
 }
 
 bool ProcessesPage::waitForDialog(const QString &title)
@@ -132,9 +102,4 @@ bool ProcessesPage::dismissAll()
 {
     const auto dismissDialog = [&] { return desktop.dialog().isEmpty() || (desktop.key("Escape") && false); };
     return closeMenus() && desktop.waitFor(dismissDialog) && waitForNoDialog();
-}
-
-bool ProcessesPage::quit()
-{
-    return dismissAll() && desktop.key("ctrl+q") && desktop.waitForExit();
 }

@@ -25,23 +25,44 @@ public:
     Table list() { return desktop.table("treeView"); }
     QString text(int pid, const char *header);
     bool isSelected(int pid);
-    bool waitForText(int pid, const char *header, const QString &text);
-    bool waitForRow(int pid);
+    bool waitForText(int pid, const char *header, const QString &expected)
+    {
+        return desktop.waitFor([&] { return text(pid, header) == expected; });
+    }
+    bool waitForRow(int pid)
+    {
+        return desktop.waitFor([&] { return rowOf(list(), pid) >= 0; });
+    }
     bool waitForNoRow(int pid);
     bool select(int pid);
     bool openContextMenu(int pid);
     bool openContextMenuOnEmptySpace(); ///< below the last row
-    bool openProcessMenu();             ///< "Process" in the "Edit" menu
-    bool showPage(const QString &tab);  ///< by the text of its tab
-    bool closeMenus();
+    /// "Process" in the "Edit" menu.
+    bool openProcessMenu()
+    {
+        return desktop.clickMenu("Edit") && desktop.clickMenu("Process") && waitForMenu("Tree view");
+    }
+    bool showPage(const QString &tab); ///< by the text of its tab
+    bool closeMenus()
+    {
+        return desktop.waitFor(
+            [&] { return desktop.menuTexts().isEmpty() || (desktop.key("Escape") && false); });
+    }
     bool waitForDialog(const QString &title); ///< until it has the focus
     bool waitForNoDialog();                   ///< until the main window has the focus
     bool dismissAll();                        ///< closes open menus and dialogs with Escape
-    bool quit();                              ///< with Ctrl+Q
+    /// With Ctrl+Q.
+    bool quit() { return dismissAll() && desktop.key("ctrl+q") && desktop.waitForExit(); }
 
 private:
-    bool clickProcess(int pid, int button = 1);
-    bool waitForMenu(const QString &entry);
+    bool clickProcess(int pid, int button = 1)
+    {
+        return desktop.clickRow("treeView", "PID", QString::number(pid), button);
+    }
+    bool waitForMenu(const QString &entry)
+    {
+        return desktop.waitFor([&] { return !rectOf(desktop.menuEntry(entry).value("rect")).isEmpty(); });
+    }
 
     DesktopSession &desktop;
 };

@@ -237,17 +237,6 @@ bool DesktopSession::endsCleanly()
     return exitsCleanly();
 }
 
-int DesktopSession::exitCode() const
-{
-    const bool exited = program && !isRunning() && program->exitStatus() == QProcess::NormalExit;
-    return exited ? program->exitCode() : -1;
-}
-
-qint64 DesktopSession::pid() const
-{
-    return program ? program->processId() : 0;
-}
-
 void DesktopSession::collectOutput()
 {
     if (program) {
@@ -268,11 +257,6 @@ QByteArray DesktopSession::standardError()
     QList<QByteArray> lines = errors.split('\n');
     lines.erase(std::remove_if(lines.begin(), lines.end(), isAboutEnvironment), lines.end());
     return lines.join('\n');
-}
-
-QString DesktopSession::settingsFile() const
-{
-    return home() + "/.config/Telmorra/zarn-system-monitor.conf";
 }
 
 void DesktopSession::setMachine(const standin::Machine &machine)

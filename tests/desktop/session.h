@@ -54,14 +54,14 @@ public:
     /// Closes the window, then exitsCleanly(). For cleanup(): if the current test has failed, it warns of
     /// error() and closes a menu or list that is still open.
     bool endsCleanly();
-    int exitCode() const; ///< -1 while it runs, and if a signal ended it
+    int exitCode() const { return hasExited() ? program->exitCode() : -1; } ///< -1 also if a signal ended it
     bool isRunning() const { return program && program->state() != QProcess::NotRunning; }
-    qint64 pid() const; ///< 0 if it doesn't run
+    qint64 pid() const { return program ? program->processId() : 0; } ///< 0 if it doesn't run
     QByteArray standardOutput();
     QByteArray standardError(); ///< without what toolkit and libgtop say about the environment
 
     QString home() const { return directory.filePath("home"); }
-    QString settingsFile() const; ///< path of the program's settings, whether they exist or not
+    QString settingsFile() const { return home() + "/.config/Telmorra/zarn-system-monitor.conf"; }
 
     /// Changes what libgtop reports from the program's next refresh on; only with a machine in the options.
     void setMachine(const standin::Machine &machine);
@@ -80,6 +80,7 @@ public:
     QStringList menuTexts();
     QJsonObject menuEntry(const QString &text); ///< in an open menu or the menu bar; empty if there is none
     QJsonObject mainWindow();
+    unsigned long windowId() { return static_cast<unsigned long>(mainWindow().value("id").toDouble()); }
     QRect windowRect() { return rectOf(mainWindow().value("rect")); } ///< of the main window, without frame
 
     /// Polls a condition. Gives up at once when the program has exited.
@@ -90,9 +91,15 @@ public:
     bool click(const std::function<QRect()> &findRect, int button = 1);
     bool clickWidget(const QString &name, int button = 1);
     bool clickTab(const QString &text);
-    bool clickMenu(const QString &text);
+    bool clickMenu(const QString &text)
+    {
+        return click([&] { return rectOf(menuEntry(text).value("rect")); });
+    }
     bool clickButton(const QString &text); ///< of the active dialog
-    bool clickHeader(const QString &table, const QString &header);
+    bool clickHeader(const QString &tableName, const QString &header)
+    {
+        return click([&] { return table(tableName).headerRect(header); });
+    }
     /// Scrolls with the wheel until the row is on the screen, then clicks it.
     bool clickRow(const QString &table, const QString &header, const QString &text, int button = 1);
     bool doubleClick(const std::function<QRect()> &findRect);
@@ -101,7 +108,8 @@ public:
     bool type(const QString &text) { return client.type(text); }
     bool
     resizeMainWindow(const QSize &size); ///< returns once it has the size, or its minimum if that is larger
-    void closeMainWindow();              ///< as the close button of its frame does
+    /// As the close button of its frame does.
+    void closeMainWindow() { client.closeWindow(windowId()); }
 
     /// The whole screen. savePicture() waits until it stands still and writes "pictures/NAME.png" in the
     /// build directory.
@@ -110,13 +118,17 @@ public:
     XClient &x() { return client; }
 
 private:
+    bool hasExited() const
+    {
+        return program && !isRunning() && program->exitStatus() == QProcess::NormalExit;
+    }
     bool startDesktop();
     bool writeSettings();
     bool startServer();
     bool startWindowManager();
     QProcessEnvironment programEnvironment() const;
     bool waitForWindow();
-    QString probePath() const;
+    QString probePath() const { return directory.filePath(QString("probe%1").arg(runs)); }
     bool connectProbe();
     void disconnectProbe();
     QByteArray readLine();

@@ -23,11 +23,6 @@ QJsonObject withText(const QJsonValue &array, const QString &text)
     return {};
 }
 
-unsigned long idOf(const QJsonObject &window)
-{
-    return static_cast<unsigned long>(window.value("id").toDouble());
-}
-
 } // namespace
 
 QRect DesktopSession::stableRect(const std::function<QRect()> &findRect)
@@ -85,19 +80,9 @@ bool DesktopSession::clickTab(const QString &text)
     });
 }
 
-bool DesktopSession::clickMenu(const QString &text)
-{
-    return click([&] { return rectOf(menuEntry(text).value("rect")); });
-}
-
 bool DesktopSession::clickButton(const QString &text)
 {
     return click([&] { return rectOf(withText(dialog().value("buttons"), text).value("rect")); });
-}
-
-bool DesktopSession::clickHeader(const QString &tableName, const QString &header)
-{
-    return click([&] { return table(tableName).headerRect(header); });
 }
 
 bool DesktopSession::clickRow(const QString &tableName, const QString &header, const QString &text,
@@ -144,15 +129,9 @@ void DesktopSession::drag(const QPoint &from, const QPoint &to)
 
 bool DesktopSession::resizeMainWindow(const QSize &size)
 {
-    const QJsonObject window = mainWindow();
-    const QSize expected = size.expandedTo(rectOf(window.value("minimumSize")).size());
-    client.resizeWindow(idOf(window), size);
+    const QSize expected = size.expandedTo(rectOf(mainWindow().value("minimumSize")).size());
+    client.resizeWindow(windowId(), size);
     return waitFor([&] { return windowRect().size() == expected; });
-}
-
-void DesktopSession::closeMainWindow()
-{
-    client.closeWindow(idOf(mainWindow()));
 }
 
 QJsonObject DesktopSession::menuEntry(const QString &text)

@@ -13,11 +13,6 @@
 #include <cerrno>
 #include <cstring>
 
-QString DesktopSession::probePath() const
-{
-    return directory.filePath(QString("probe%1").arg(runs));
-}
-
 bool DesktopSession::connectProbe()
 {
     if (probeSocket >= 0) {

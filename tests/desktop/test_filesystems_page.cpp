@@ -29,7 +29,10 @@ private:
     QStringList mountPoints() { return list().column("Mountpoint"); }
     QString chosen();
     bool choose(const QString &mountPoint) { return session->clickRow("tableFS", "Mountpoint", mountPoint); }
-    bool waitForMountPoints(const QStringList &expected);
+    bool waitForMountPoints(const QStringList &expected)
+    {
+        return session->waitFor([&] { return mountPoints() == expected; });
+    }
     bool waitForDevice(const QString &device) { return session->waitForTexts({{"lblMountPoint", device}}); }
     QString pie();
     bool waitForPie(const QString &colors);
@@ -79,11 +82,6 @@ QString TestFileSystemsPage::chosen()
         }
     }
     return {};
-}
-
-bool TestFileSystemsPage::waitForMountPoints(const QStringList &expected)
-{
-    return session->waitFor([&] { return mountPoints() == expected; });
 }
 
 // The colors in the middle of the eighths of the pie, counterclockwise from three o'clock.

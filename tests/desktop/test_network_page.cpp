@@ -5,40 +5,6 @@
 
 #include <arpa/inet.h>
 
-class TestNetworkPage : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void cleanup() { QVERIFY(session->endsCleanly()); }
-    void theFirstInterfaceIsChosenAtTheStart();
-    void growingCountersDrawTheirLines();
-    void fallingCountersLeaveTheTopOfTheGraph();
-    void anInterfaceThatSortsBeforeTheChosenOneReplacesIt();
-    void figuresOfAnInterfaceThatVanishesStayUntilItIsBack();
-    void withoutInterfacesThePageIsEmptyAndANewOneCanBeChosen();
-    void onlyChoosingAnotherInterfaceClearsTheGraph();
-    void theChooserIsOperatedByKeys();
-    void namesOfFifteenCharactersAndBeyondAsciiAreListed();
-    void anOpenListKeepsItsPositionWhileItIsRebuilt();
-    void theNetworkIsSampledWhileAnotherPageIsShown();
-
-private:
-    void start(const std::vector<standin::Interface> &interfaces, const char *page = "network");
-    void setInterfaces(const std::vector<standin::Interface> &interfaces);
-    bool waitForIn(const QString &text) { return session->waitForTexts({{"netIn", text}}); }
-    bool waitForNoTraffic();
-    QStringList listed() { return session->widget("comboNet").value("items").toVariant().toStringList(); }
-    QString chosen() { return session->widget("comboNet").value("currentText").toString(); }
-    Table openList() { return session->table("QComboBoxListView"); }
-    bool openChooser();
-    bool waitForClosedChooser();
-    bool choose(const QString &name);
-    QImage graph() { return session->picture("TimeHisto"); }
-    bool waitForPeak();
-    std::unique_ptr<PageSession> session;
-};
-
 namespace {
 
 standin::Interface interface(const std::string &name, std::uint64_t in = 0, std::uint64_t out = 0)
@@ -81,6 +47,50 @@ bool isFlat(const QImage &graph, char color)
 
 } // namespace
 
+class TestNetworkPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { QVERIFY(session->endsCleanly()); }
+    void theFirstInterfaceIsChosenAtTheStart();
+    void growingCountersDrawTheirLines();
+    void fallingCountersLeaveTheTopOfTheGraph();
+    void anInterfaceThatSortsBeforeTheChosenOneReplacesIt();
+    void figuresOfAnInterfaceThatVanishesStayUntilItIsBack();
+    void withoutInterfacesThePageIsEmptyAndANewOneCanBeChosen();
+    void onlyChoosingAnotherInterfaceClearsTheGraph();
+    void theChooserIsOperatedByKeys();
+    void namesOfFifteenCharactersAndBeyondAsciiAreListed();
+    void anOpenListKeepsItsPositionWhileItIsRebuilt();
+    void theNetworkIsSampledWhileAnotherPageIsShown();
+
+private:
+    void start(const std::vector<standin::Interface> &interfaces, const char *page = "network");
+    void setInterfaces(const std::vector<standin::Interface> &interfaces);
+    bool waitForIn(const QString &text) { return session->waitForTexts({{"netIn", text}}); }
+    bool waitForNoTraffic()
+    {
+        return session->waitFor([&] { return session->described("TimeHisto") == "In: 0.00 B, Out: 0.00 B"; });
+    }
+    QStringList listed() { return session->widget("comboNet").value("items").toVariant().toStringList(); }
+    QString chosen() { return session->widget("comboNet").value("currentText").toString(); }
+    Table openList() { return session->table("QComboBoxListView"); }
+    bool waitForChooser(bool open)
+    {
+        return session->waitFor([&] { return openList().rows.isEmpty() != open; });
+    }
+    bool openChooser() { return session->clickWidget("comboNet") && waitForChooser(true); }
+    bool choose(const QString &name);
+    QImage graph() { return session->picture("TimeHisto"); }
+    bool hasPeak() { return isNear(top(graph(), 'b'), margin, 2); } ///< of the incoming bytes, at the top
+    bool waitForPeak()
+    {
+        return session->waitFor([&] { return hasPeak(); });
+    }
+    std::unique_ptr<PageSession> session;
+};
+
 void TestNetworkPage::start(const std::vector<standin::Interface> &interfaces, const char *page)
 {
     session = std::make_unique<PageSession>(machineWith(interfaces));
@@ -90,21 +100,6 @@ void TestNetworkPage::start(const std::vector<standin::Interface> &interfaces, c
 void TestNetworkPage::setInterfaces(const std::vector<standin::Interface> &interfaces)
 {
     session->setMachine(machineWith(interfaces));
-}
-
-bool TestNetworkPage::waitForNoTraffic()
-{
-    return session->waitFor([&] { return session->described("TimeHisto") == "In: 0.00 B, Out: 0.00 B"; });
-}
-
-bool TestNetworkPage::openChooser()
-{
-    return session->clickWidget("comboNet") && session->waitFor([&] { return !openList().rows.isEmpty(); });
-}
-
-bool TestNetworkPage::waitForClosedChooser()
-{
-    return session->waitFor([&] { return openList().rows.isEmpty(); });
 }
 
 bool TestNetworkPage::choose(const QString &name)
@@ -118,13 +113,7 @@ bool TestNetworkPage::choose(const QString &name)
         }
         return QRect();
     };
-    return openChooser() && session->click(findEntry) && waitForClosedChooser();
-}
-
-// Of the incoming bytes.
-bool TestNetworkPage::waitForPeak()
-{
-    return session->waitFor([&] { return isNear(top(graph(), 'b'), margin, 2); });
+    return openChooser() && session->click(findEntry) && waitForChooser(false);
 }
 
 void TestNetworkPage::theFirstInterfaceIsChosenAtTheStart()
@@ -185,7 +174,7 @@ void TestNetworkPage::anInterfaceThatSortsBeforeTheChosenOneReplacesIt()
     QVERIFY(session->waitFor([&] { return listed() == QStringList({"br0", "eth0", "lo"}); }));
     QCOMPARE(chosen(), QString("br0"));
     QVERIFY(waitForIn("5.00 KB"));
-    QVERIFY2(isNear(top(graph(), 'b'), margin, 2), "the graph keeps its samples");
+    QVERIFY2(hasPeak(), "the graph keeps its samples");
 }
 
 void TestNetworkPage::figuresOfAnInterfaceThatVanishesStayUntilItIsBack()
@@ -234,7 +223,7 @@ void TestNetworkPage::theChooserIsOperatedByKeys()
     start({interface("eth0", 1024), interface("eth1", 2048), interface("lo", 3072)});
     QVERIFY(openChooser());
     QVERIFY(session->key("Escape"));
-    QVERIFY(waitForClosedChooser());
+    QVERIFY(waitForChooser(false));
     QVERIFY(session->key("Down"));
     QVERIFY(waitForIn("2.00 KB"));
     QVERIFY(session->key("End"));

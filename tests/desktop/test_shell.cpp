@@ -13,16 +13,13 @@ private Q_SLOTS:
     void cleanup() { QVERIFY(session->endsCleanly()); }
     void theFirstArgumentChoosesThePage_data();
     void theFirstArgumentChoosesThePage();
-    void theWindowAndItsTabsHaveTheirTexts();
-    void theHostNameIsShown();
+    void windowTabsAndHostNameHaveTheirTexts();
     void ctrlQQuitsFromEveryPage_data();
     void ctrlQQuitsFromEveryPage();
     void exitInTheFileMenuQuits();
     void closingTheWindowQuits();
     void aClickOnATabShowsItsPage_data();
     void aClickOnATabShowsItsPage();
-    void atTheFirstStartTheWindowIsEntirelyOnTheScreen_data();
-    void atTheFirstStartTheWindowIsEntirelyOnTheScreen();
 
 private:
     int currentTab() { return session->widget("tabWidget").value("currentIndex").toInt(-1); }
@@ -73,7 +70,7 @@ void TestShell::theFirstArgumentChoosesThePage()
     QVERIFY(session->isRunning());
 }
 
-void TestShell::theWindowAndItsTabsHaveTheirTexts()
+void TestShell::windowTabsAndHostNameHaveTheirTexts()
 {
     QVERIFY(session->start());
     QCOMPARE(session->mainWindow().value("title").toString(), QString("System monitor"));
@@ -83,13 +80,8 @@ void TestShell::theWindowAndItsTabsHaveTheirTexts()
         texts.append(tab["text"].toString());
     }
     QCOMPARE(texts, tabTexts);
-}
-
-void TestShell::theHostNameIsShown()
-{
-    QVERIFY(session->start());
-    const QString shown = session->text("lblHost");
-    QVERIFY2(shown.startsWith(QSysInfo::machineHostName()), qPrintable(shown));
+    const QString host = session->text("lblHost");
+    QVERIFY2(host.startsWith(QSysInfo::machineHostName()), qPrintable(host));
 }
 
 void TestShell::ctrlQQuitsFromEveryPage_data()
@@ -147,28 +139,6 @@ void TestShell::aClickOnATabShowsItsPage()
         }));
         QVERIFY(session->savePicture(QString("page%1-%2dpi").arg(page + 1).arg(dpi)));
     }
-}
-
-void TestShell::atTheFirstStartTheWindowIsEntirelyOnTheScreen_data()
-{
-    QTest::addColumn<int>("cpus");
-    for (const int cpus : {1, 8, 16, 64}) {
-        QTest::addRow("%d CPUs", cpus) << cpus;
-    }
-}
-
-// With enough CPUs their rows make the page taller than the default size.
-void TestShell::atTheFirstStartTheWindowIsEntirelyOnTheScreen()
-{
-    QFETCH(int, cpus);
-    SessionOptions options;
-    options.machine = standin::Machine{};
-    options.machine->cpus = std::vector<standin::Cpu>(std::size_t(cpus));
-    session = std::make_unique<DesktopSession>(options);
-    QVERIFY(session->start());
-    const QRect frame = rectOf(session->mainWindow().value("frame"));
-    QVERIFY2(frame.top() < session->windowRect().top(), "the window manager draws a title bar");
-    QVERIFY2(QRect(QPoint(), options.screen).contains(frame), "including the title bar");
 }
 
 QTEST_GUILESS_MAIN(TestShell)
