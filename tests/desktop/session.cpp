@@ -68,7 +68,7 @@ DesktopSession::DesktopSession(SessionOptions options) : setup(std::move(options
 
 DesktopSession::~DesktopSession()
 {
-    disconnectProbe();
+    probeSocket.abort();
     end(program.get());
     client.close();
     end(windowManager.get());
@@ -183,7 +183,7 @@ bool DesktopSession::start(const QStringList &arguments)
     if (setup.machine) {
         setMachine(*setup.machine);
     }
-    disconnectProbe();
+    probeSocket.abort();
     ++runs;
     output.clear();
     errors.clear();
@@ -196,13 +196,11 @@ bool DesktopSession::start(const QStringList &arguments)
 bool DesktopSession::waitForWindow()
 {
     QJsonObject window;
-    QRect before;
     const bool shown = waitFor([&] {
+        const QJsonValue before = window.value("rect");
         window = mainWindow();
-        const QRect now = rectOf(window.value("rect"));
-        const bool still = !now.isEmpty() && now == before;
-        before = now;
-        return still && window.value("exposed").toBool() && window.value("active").toBool();
+        return !rectOf(window.value("rect")).isEmpty() && window.value("rect") == before &&
+               window.value("exposed").toBool() && window.value("active").toBool();
     });
     return shown || fail(QString("no window appeared: %1; last state: %2")
                              .arg(lastError, QString::fromUtf8(QJsonDocument(window).toJson())));
@@ -235,6 +233,12 @@ bool DesktopSession::endsCleanly()
     }
     closeMainWindow();
     return exitsCleanly();
+}
+
+int DesktopSession::exitCode() const
+{
+    const bool exited = program && !isRunning() && program->exitStatus() == QProcess::NormalExit;
+    return exited ? program->exitCode() : -1;
 }
 
 void DesktopSession::collectOutput()
@@ -284,10 +288,9 @@ bool DesktopSession::savePicture(const QString &name)
 {
     QImage picture;
     const bool still = waitFor([&] {
-        const QImage now = screenshot();
-        const bool same = now == picture;
-        picture = now;
-        return same;
+        const QImage before = picture;
+        picture = screenshot();
+        return picture == before;
     });
     const QString folder = ZSM_PICTURES;
     const QString file = folder + '/' + name + ".png";

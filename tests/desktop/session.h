@@ -8,6 +8,7 @@
 
 #include <QElapsedTimer>
 #include <QJsonObject>
+#include <QLocalSocket>
 #include <QMap>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -49,12 +50,12 @@ public:
 
     /// Waits for the program to exit on its own.
     bool waitForExit();
-    /// waitForExit(), and whether the exit code is 0 and standard error is empty. Warns of what is not.
+    /// waitForExit(), and whether the exit code is 0 and standard error is empty; warns if not.
     bool exitsCleanly();
     /// Closes the window, then exitsCleanly(). For cleanup(): if the current test has failed, it warns of
     /// error() and closes a menu or list that is still open.
     bool endsCleanly();
-    int exitCode() const { return hasExited() ? program->exitCode() : -1; } ///< -1 also if a signal ended it
+    int exitCode() const; ///< -1 while it runs, and if a signal ended it
     bool isRunning() const { return program && program->state() != QProcess::NotRunning; }
     qint64 pid() const { return program ? program->processId() : 0; } ///< 0 if it doesn't run
     QByteArray standardOutput();
@@ -75,8 +76,7 @@ public:
     QString text(const QString &widgetName) { return widget(widgetName).value("text").toString(); }
     Table table(const QString &name) { return Table(probe("table " + name)); }
     QJsonObject dialog(); ///< the active modal dialog; empty if there is none
-    /// Texts of the visible entries of the innermost open menu, without "&". Waits for a menu that is
-    /// opening.
+    /// Texts of the visible entries of the innermost menu, without "&". Waits for a menu that is opening.
     QStringList menuTexts();
     QJsonObject menuEntry(const QString &text); ///< in an open menu or the menu bar; empty if there is none
     QJsonObject mainWindow();
@@ -86,8 +86,7 @@ public:
     /// Polls a condition. Gives up at once when the program has exited.
     bool waitFor(const std::function<bool()> &condition, int deadlineMs = desktopDeadline);
 
-    /// Input. What looks for something waits until it exists and stands still; texts are compared without
-    /// "&".
+    /// Input. Functions that look for something wait until it stands still. Texts are compared without "&".
     bool click(const std::function<QRect()> &findRect, int button = 1);
     bool clickWidget(const QString &name, int button = 1);
     bool clickTab(const QString &text);
@@ -106,22 +105,16 @@ public:
     void drag(const QPoint &from, const QPoint &to);
     bool key(const QString &combination) { return client.key(combination); }
     bool type(const QString &text) { return client.type(text); }
-    bool
-    resizeMainWindow(const QSize &size); ///< returns once it has the size, or its minimum if that is larger
+    bool resizeMainWindow(const QSize &size); ///< waits until it has the size, at least its minimum
     /// As the close button of its frame does.
     void closeMainWindow() { client.closeWindow(windowId()); }
 
-    /// The whole screen. savePicture() waits until it stands still and writes "pictures/NAME.png" in the
-    /// build directory.
-    QImage screenshot() { return client.screenshot(); }
+    QImage screenshot() { return client.screenshot(); } ///< the whole screen
+    /// Waits until the screen stands still and writes it as "pictures/NAME.png" in the build directory.
     bool savePicture(const QString &name);
     XClient &x() { return client; }
 
 private:
-    bool hasExited() const
-    {
-        return program && !isRunning() && program->exitStatus() == QProcess::NormalExit;
-    }
     bool startDesktop();
     bool writeSettings();
     bool startServer();
@@ -129,10 +122,6 @@ private:
     QProcessEnvironment programEnvironment() const;
     bool waitForWindow();
     QString probePath() const { return directory.filePath(QString("probe%1").arg(runs)); }
-    bool connectProbe();
-    void disconnectProbe();
-    QByteArray readLine();
-    QRect stableRect(const std::function<QRect()> &findRect);
     bool scrollToRow(const QString &table, const QString &header, const QString &text);
     bool fail(const QString &error);
     void collectOutput();
@@ -146,10 +135,9 @@ private:
     std::unique_ptr<QProcess> program;
     XClient client;
     QElapsedTimer sinceClick;
-    int probeSocket = -1;
+    QLocalSocket probeSocket;
     int runs = 0;
     int marks = 0;
-    QByteArray received;
     QByteArray output;
     QByteArray errors;
 };

@@ -25,33 +25,25 @@ QJsonObject withText(const QJsonValue &array, const QString &text)
 
 } // namespace
 
-QRect DesktopSession::stableRect(const std::function<QRect()> &findRect)
-{
-    QRect before;
-    const bool found = waitFor([&] {
-        const QRect now = findRect();
-        const bool still = !now.isEmpty() && now == before;
-        before = now;
-        return still;
-    });
-    return found ? before : QRect();
-}
-
-// Two clicks within the double-click interval would count as a double click.
 bool DesktopSession::click(const std::function<QRect()> &findRect, int button)
 {
+    QRect rect;
+    const bool found = waitFor([&] {
+        const QRect before = rect;
+        rect = findRect();
+        return !rect.isEmpty() && rect == before;
+    });
+    // Two clicks within this time would count as a double click.
     const qint64 doubleClickInterval = 500;
-    const QRect rect = stableRect(findRect);
-    if (rect.isEmpty()) {
-        return false;
-    }
-    while (sinceClick.isValid() && !sinceClick.hasExpired(doubleClickInterval)) {
+    while (found && sinceClick.isValid() && !sinceClick.hasExpired(doubleClickInterval)) {
         QTest::qWait(int(doubleClickInterval - sinceClick.elapsed()));
     }
-    client.moveTo(rect.center());
-    client.click(button);
-    sinceClick.start();
-    return true;
+    if (found) {
+        client.moveTo(rect.center());
+        client.click(button);
+        sinceClick.start();
+    }
+    return found;
 }
 
 bool DesktopSession::doubleClick(const std::function<QRect()> &findRect)

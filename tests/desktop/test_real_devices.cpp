@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/pagesession.h"
 
+#include <QNetworkDatagram>
+#include <QUdpSocket>
 #include <QtTest>
 
-#include <arpa/inet.h>
 #include <sched.h>
 #include <sys/mount.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 /// Real mounts and real traffic, in namespaces of this program: invisible outside, and gone when it ends.
 class TestRealDevices : public QObject
@@ -24,66 +23,6 @@ private:
     QTemporaryDir directory;
     std::unique_ptr<PageSession> session;
 };
-
-namespace {
-
-bool run(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(program, arguments);
-    const bool done =
-        process.waitForFinished() && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    if (!done) {
-        qInfo("%s: %s", qPrintable(program), process.readAll().constData());
-    }
-    return done;
-}
-
-bool isMounted(const QString &directory)
-{
-    QFile mounts("/proc/self/mounts");
-    return mounts.open(QIODevice::ReadOnly) && mounts.readAll().contains(directory.toUtf8() + ' ');
-}
-
-/// A datagram socket bound to a free port of the loopback interface.
-class Receiver
-{
-public:
-    Receiver()
-    {
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t length = sizeof address;
-        bound = bind(descriptor, generic(), length) == 0 && getsockname(descriptor, generic(), &length) == 0;
-    }
-    ~Receiver() { close(descriptor); }
-    Receiver(const Receiver &) = delete;
-    Receiver &operator=(const Receiver &) = delete;
-
-    bool isBound() const { return bound; }
-    /// Sends `count` datagrams of `bytes` bytes to itself.
-    bool send(int count, std::size_t bytes)
-    {
-        std::vector<char> data(bytes);
-        for (int i = 0; i < count; ++i) {
-            if (sendto(descriptor, data.data(), bytes, 0, generic(), sizeof address) != ssize_t(bytes) ||
-                recv(descriptor, data.data(), bytes, MSG_WAITALL) != ssize_t(bytes)) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-private:
-    sockaddr *generic() { return reinterpret_cast<sockaddr *>(&address); }
-
-    int descriptor = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address = {};
-    bool bound = false;
-};
-
-} // namespace
 
 void TestRealDevices::initTestCase()
 {
@@ -105,15 +44,17 @@ void TestRealDevices::aFileSystemIsListedWhileItIsMounted()
     QFile file(image);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(8 * 1024 * 1024));
     file.close();
-    if (!run("mkfs.ext4", {"-q", "-F", image})) {
+    if (QProcess::execute("mkfs.ext4", {"-q", "-F", image}) != 0) {
         QSKIP("can't create an ext4 file system (Debian package e2fsprogs)");
     }
-    const auto mountImage = [&] { return run("mount", {"-o", "loop", image, mountPoint}); };
+    const auto mountImage = [&] {
+        return QProcess::execute("mount", {"-o", "loop", image, mountPoint}) == 0;
+    };
     const auto unmount = [&] { return umount(qPrintable(mountPoint)) == 0; };
     if (!mountImage()) {
         QSKIP("can't mount loop devices");
     }
-    QVERIFY(isMounted(mountPoint) && unmount());
+    QVERIFY(unmount());
 
     session = std::make_unique<PageSession>(std::nullopt);
     QVERIFY(session->start({"filesystems"}));
@@ -141,7 +82,7 @@ void TestRealDevices::trafficAppearsInTheTotalsAndInTheGraph()
     if (::mount("sysfs", "/sys", "sysfs", 0, nullptr) != 0) {
         QSKIP("can't mount sysfs");
     }
-    if (!run("ip", {"link", "set", "lo", "up"})) {
+    if (QProcess::execute("ip", {"link", "set", "lo", "up"}) != 0) {
         QSKIP("can't bring up the loopback interface (Debian package iproute2)");
     }
     standin::Machine machine; // real except for its mounts: those below /sys have just been covered
@@ -154,10 +95,16 @@ void TestRealDevices::trafficAppearsInTheTotalsAndInTheGraph()
                                    {"netOut", "0.00 B"},
                                    {"netErrors", "0"}}));
     QVERIFY(session->waitFor([&] { return session->described("TimeHisto") == "In: 0.00 B, Out: 0.00 B"; }));
-    Receiver receiver;
-    QVERIFY(receiver.isBound());
+    QUdpSocket receiver;
+    QVERIFY(receiver.bind(QHostAddress::LocalHost));
     const int headers = 14 + 20 + 8; // of Ethernet, IP and UDP, which count too
-    QVERIFY(receiver.send(100, 1024 * 16 - headers));
+    const QByteArray datagram(1024 * 16 - headers, '\0');
+    for (int i = 0; i < 100; ++i) {
+        QCOMPARE(receiver.writeDatagram(datagram, receiver.localAddress(), receiver.localPort()),
+                 datagram.size());
+        QVERIFY(receiver.waitForReadyRead(desktopDeadline));
+        QCOMPARE(receiver.receiveDatagram().data(), datagram);
+    }
     QVERIFY(session->waitForTexts({{"netIn", "1.56 MB"}, {"netOut", "1.56 MB"}}));
     // The peak is at the top of the graph, whether the bytes came in one sample or in two.
     QVERIFY(session->waitFor([&] {

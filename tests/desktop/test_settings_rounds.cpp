@@ -12,7 +12,7 @@ class TestSettingsRounds : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
+    void cleanup() { QVERIFY(!session || session->endsCleanly()); }
     void changesSurviveARestart();
     void aBadFileSilentlyGivesTheDefaults_data();
     void aBadFileSilentlyGivesTheDefaults();
@@ -27,13 +27,6 @@ private:
     std::unique_ptr<DesktopSession> session;
     std::unique_ptr<ProcessesPage> page;
 };
-
-void TestSettingsRounds::cleanup()
-{
-    if (QTest::currentTestFailed()) {
-        qWarning("%s", qPrintable(session->error()));
-    }
-}
 
 void TestSettingsRounds::createSession(const QByteArray &settings)
 {
