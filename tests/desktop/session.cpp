@@ -277,7 +277,7 @@ bool DesktopSession::waitFor(const std::function<bool()> &condition, int deadlin
             return true;
         }
         if (!isRunning()) {
-            return fail("the program has exited: " + QString::fromLocal8Bit(standardError()));
+            return fail("the program has ended: " + QString::fromLocal8Bit(standardError()));
         }
     }
     return condition() ||

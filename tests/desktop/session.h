@@ -80,8 +80,9 @@ public:
     QStringList menuTexts();
     QJsonObject menuEntry(const QString &text); ///< in an open menu or the menu bar; empty if there is none
     QJsonObject mainWindow();
+    /// Of the main window; its rectangle is without the frame.
     unsigned long windowId() { return static_cast<unsigned long>(mainWindow().value("id").toDouble()); }
-    QRect windowRect() { return rectOf(mainWindow().value("rect")); } ///< of the main window, without frame
+    QRect windowRect() { return rectOf(mainWindow().value("rect")); }
 
     /// Polls a condition. Gives up at once when the program has exited.
     bool waitFor(const std::function<bool()> &condition, int deadlineMs = desktopDeadline);
@@ -101,7 +102,6 @@ public:
     }
     /// Scrolls with the wheel until the row is on the screen, then clicks it.
     bool clickRow(const QString &table, const QString &header, const QString &text, int button = 1);
-    bool doubleClick(const std::function<QRect()> &findRect);
     void drag(const QPoint &from, const QPoint &to);
     bool key(const QString &combination) { return client.key(combination); }
     bool type(const QString &text) { return client.type(text); }

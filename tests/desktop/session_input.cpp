@@ -46,15 +46,6 @@ bool DesktopSession::click(const std::function<QRect()> &findRect, int button)
     return found;
 }
 
-bool DesktopSession::doubleClick(const std::function<QRect()> &findRect)
-{
-    if (!click(findRect)) {
-        return false;
-    }
-    client.click();
-    return true;
-}
-
 bool DesktopSession::clickWidget(const QString &name, int button)
 {
     const auto visibleRect = [&] {
