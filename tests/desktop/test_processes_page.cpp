@@ -189,8 +189,8 @@ void TestProcessesPage::sortingByCpuIsNumeric()
     QVERIFY(std::is_sorted(shares.begin(), shares.end()));
 }
 
-// A new process brings copies of all its ancestors, and a later one in the same refresh takes over those
-// copies. So the child to look for is always one of the newest.
+// A new process brings new copies of all its ancestors. If another one appears later in the same refresh, its
+// copies replace those, so the child to look for is always one of the newest.
 void TestProcessesPage::theTreeShowsAChildBelowItsParent()
 {
     const SampleProcess sample("par", SampleProcess::Parent);
