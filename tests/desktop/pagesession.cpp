@@ -4,24 +4,28 @@
 #include <QJsonArray>
 #include <QRegularExpression>
 
-PageSession::PageSession(std::optional<standin::Machine> machine, SessionOptions options)
-    : DesktopSession(complete(std::move(options), std::move(machine)))
-{}
+namespace {
 
-SessionOptions PageSession::complete(SessionOptions options, std::optional<standin::Machine> machine)
+SessionOptions complete(SessionOptions options, std::optional<standin::Machine> machine)
 {
     options.settings = "[interval]\ngeneral=1\nfs=1\nnet=1\n" + options.settings;
     options.machine = std::move(machine);
     return options;
 }
 
+} // namespace
+
+PageSession::PageSession(std::optional<standin::Machine> machine, SessionOptions options)
+    : DesktopSession(complete(std::move(options), std::move(machine)))
+{}
+
 QVector<QJsonObject> PageSession::widgets(const QString &className)
 {
     QVector<QJsonObject> found;
-    const QJsonArray array =
-        probe(QStringLiteral("widgets ") + className).value(QLatin1String("widgets")).toArray();
-    for (const QJsonValue &each : array)
+    const QJsonArray array = probe("widgets " + className).value("widgets").toArray();
+    for (const QJsonValue &each : array) {
         found.append(each.toObject());
+    }
     return found;
 }
 
@@ -29,20 +33,11 @@ QJsonObject PageSession::named(const QString &className, const QString &accessib
 {
     const QVector<QJsonObject> all = widgets(className);
     for (const QJsonObject &each : all) {
-        if (each.value(QLatin1String("accessibleName")).toString() == accessibleName)
+        if (each.value("accessibleName").toString() == accessibleName) {
             return each;
+        }
     }
     return {};
-}
-
-QString PageSession::described(const QString &className)
-{
-    return widgets(className).value(0).value(QLatin1String("accessibleDescription")).toString();
-}
-
-QImage PageSession::picture(const QJsonObject &widget)
-{
-    return screenshot().copy(rectOf(widget.value(QLatin1String("rect"))));
 }
 
 bool PageSession::waitForTexts(const QMap<QString, QString> &expected)
@@ -52,50 +47,42 @@ bool PageSession::waitForTexts(const QMap<QString, QString> &expected)
         seen.clear();
         for (auto each = expected.begin(); each != expected.end(); ++each) {
             const QString now = text(each.key());
-            if (now != each.value())
-                seen += QStringLiteral("%1 shows \"%2\" and not \"%3\"; ").arg(each.key(), now, each.value());
+            if (now != each.value()) {
+                seen += QString("%1 shows \"%2\", not \"%3\"; ").arg(each.key(), now, each.value());
+            }
         }
         return seen.isEmpty();
     });
-    if (!met)
+    if (!met) {
         qWarning("%s", qPrintable(seen));
+    }
     return met;
 }
 
 QString PageSession::undefinedNumber()
 {
-    static const QRegularExpression undefined(QStringLiteral("\\b(nan|inf)\\b"),
-                                              QRegularExpression::CaseInsensitiveOption);
-    const QVector<QJsonObject> all = widgets(QStringLiteral("QWidget"));
+    static const QRegularExpression undefined("\\b(nan|inf)\\b", QRegularExpression::CaseInsensitiveOption);
+    const QVector<QJsonObject> all = widgets("QWidget");
     for (const QJsonObject &each : all) {
         for (const char *key : {"text", "accessibleDescription", "accessibleValue"}) {
-            const QString text = each.value(QLatin1String(key)).toString();
-            if (undefined.match(text).hasMatch())
+            const QString text = each.value(key).toString();
+            if (undefined.match(text).hasMatch()) {
                 return text;
+            }
         }
     }
     return {};
 }
 
-bool PageSession::endsCleanly()
-{
-    closeMainWindow();
-    if (!waitForExit())
-        return false;
-    if (!standardError().isEmpty())
-        qWarning("%s", standardError().constData());
-    return standardError().isEmpty() && exitCode() == 0;
-}
-
 QChar shade(const QImage &picture, const QPoint &point)
 {
     const QRgb pixel = picture.pixel(point);
-    const int least = 60; // lines are smoothed, and what is drawn near them mixes in
-    if (qRed(pixel) > qMax(qGreen(pixel), qBlue(pixel)) + least)
-        return QLatin1Char('r');
-    if (qGreen(pixel) > qMax(qRed(pixel), qBlue(pixel)) + least)
-        return QLatin1Char('g');
-    if (qBlue(pixel) > qMax(qRed(pixel), qGreen(pixel)) + least)
-        return QLatin1Char('b');
-    return QLatin1Char('-');
+    const int margin = 60; // lines are smoothed, and what is drawn near them blends in
+    if (qRed(pixel) > qMax(qGreen(pixel), qBlue(pixel)) + margin) {
+        return 'r';
+    }
+    if (qGreen(pixel) > qMax(qRed(pixel), qBlue(pixel)) + margin) {
+        return 'g';
+    }
+    return qBlue(pixel) > qMax(qRed(pixel), qGreen(pixel)) + margin ? 'b' : '-';
 }

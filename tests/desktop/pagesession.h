@@ -6,32 +6,34 @@
 
 #include <QColor>
 
-/// The program on one page of a machine, all pages refreshed each second.
+/// A session whose pages refresh every second.
 class PageSession : public DesktopSession
 {
 public:
-    /// Without a machine: on the real one.
+    /// On the real machine if `machine` is empty.
     explicit PageSession(std::optional<standin::Machine> machine, SessionOptions options = {});
 
-    /// All visible widgets of a class, in the order in which they were made.
+    /// All visible widgets of a class, in the order of their creation.
     QVector<QJsonObject> widgets(const QString &className);
-    /// The widget of a class that assistive technology knows by this name; empty if there is none.
+    /// The widget of a class with this accessible name; empty if there is none.
     QJsonObject named(const QString &className, const QString &accessibleName);
-    QString described(const QString &className); ///< what the first one tells assistive technology
-    /// What a user sees of a widget that is wholly on the screen.
-    QImage picture(const QJsonObject &widget);
-    bool waitForTexts(const QMap<QString, QString> &expected); ///< by the names of the widgets
-    /// The first text on the page that reads like an undefined number; empty if there is none.
+    /// The accessible description of the first one.
+    QString described(const QString &className)
+    {
+        return widgets(className).value(0).value("accessibleDescription").toString();
+    }
+    /// What a user sees of a widget that is entirely on the screen.
+    QImage picture(const QJsonObject &widget) { return screenshot().copy(rectOf(widget.value("rect"))); }
+    QImage picture(const QString &className)
+    {
+        return picture(widgets(className).value(0));
+    }                                                          ///< the first one
+    bool waitForTexts(const QMap<QString, QString> &expected); ///< by widget name
+    /// The first text on the page that contains an undefined number; empty if there is none.
     QString undefinedNumber();
-    /// Closes the window; whether the program then ended well and said nothing.
-    bool endsCleanly();
-
-private:
-    static SessionOptions complete(SessionOptions options, std::optional<standin::Machine> machine);
 };
 
-/// What a picture has at a point in the shade nearest to it: red, green, blue, or neither (black, grey,
-/// white).
+/// The dominant color of a pixel: 'r', 'g', 'b', or '-' for black, grey and white.
 QChar shade(const QImage &picture, const QPoint &point);
 
 #endif

@@ -4,47 +4,67 @@
 
 #include "tests/desktop/session.h"
 
-/// The id of a user who owns nothing but what the test gives him; -1 if the test may not change users.
+/// The id of a user who owns only the processes that the test starts as this user; -1 if the test may not
+/// change users.
 int testUser();
 
-/// Lets the program run as testUser(), where there is one: its own processes are then those of the test
-/// alone, and a signal that goes astray reaches nobody else.
+/// Makes the program run as testUser() if there is one: its own processes are then only those of the test,
+/// and a stray signal reaches nobody else.
 SessionOptions asTestUser(SessionOptions options = {});
+
+/// The row of a process in the process list; -1 if there is none.
+int rowOf(const Table &table, int pid);
 
 /// The process list and its menus in a session's program. Functions that return bool give false after
 /// desktopDeadline.
 class ProcessesPage
 {
 public:
-    explicit ProcessesPage(DesktopSession &session) : m_session(session) {}
+    explicit ProcessesPage(DesktopSession &session) : desktop(session) {}
 
-    Table list() { return m_session.table(QStringLiteral("treeView")); }
+    Table list() { return desktop.table("treeView"); }
     QString text(int pid, const char *header);
     bool isSelected(int pid);
-    bool waitForText(int pid, const char *header, const QString &text);
-    bool waitForRow(int pid);
+    bool waitForText(int pid, const char *header, const QString &expected)
+    {
+        return desktop.waitFor([&] { return text(pid, header) == expected; });
+    }
+    bool waitForRow(int pid)
+    {
+        return desktop.waitFor([&] { return rowOf(list(), pid) >= 0; });
+    }
     bool waitForNoRow(int pid);
     bool select(int pid);
     bool openContextMenu(int pid);
-    /// A right click below the last row.
-    bool openContextMenuOnEmptySpace();
+    bool openContextMenuOnEmptySpace(); ///< below the last row
     /// "Process" in the "Edit" menu.
-    bool openProcessMenu();
-    /// The page of that tab.
-    bool showPage(const QString &tab);
-    bool closeMenus();
-    /// And for it to be where the keys go.
-    bool waitForDialog(const QString &title);
-    /// And for the main window to be where the keys go.
-    bool waitForNoDialog();
-    /// Closes open menus and dialogs with Escape.
-    bool dismissAll();
+    bool openProcessMenu()
+    {
+        return desktop.clickMenu("Edit") && desktop.clickMenu("Process") && waitForMenu("Tree view");
+    }
+    bool showPage(const QString &tab); ///< by the text of its tab
+    bool closeMenus()
+    {
+        return desktop.waitFor(
+            [&] { return desktop.menuTexts().isEmpty() || (desktop.key("Escape") && false); });
+    }
+    bool waitForDialog(const QString &title); ///< until it has the focus
+    bool waitForNoDialog();                   ///< until the main window has the focus
+    bool dismissAll();                        ///< closes open menus and dialogs with Escape
     /// With Ctrl+Q.
-    bool quit();
+    bool quit() { return dismissAll() && desktop.key("ctrl+q") && desktop.waitForExit(); }
 
 private:
-    bool waitForMenu(const QString &entry);
-    DesktopSession &m_session;
+    bool clickProcess(int pid, int button = 1)
+    {
+        return desktop.clickRow("treeView", "PID", QString::number(pid), button);
+    }
+    bool waitForMenu(const QString &entry)
+    {
+        return desktop.waitFor([&] { return !rectOf(desktop.menuEntry(entry).value("rect")).isEmpty(); });
+    }
+
+    DesktopSession &desktop;
 };
 
 #endif

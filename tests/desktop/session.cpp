@@ -13,7 +13,7 @@
 
 namespace {
 
-// A child that the kernel ends when the test program ends, however that happens.
+/// A child that the kernel kills when the test program ends, however that happens.
 class BoundProcess : public QProcess
 {
 protected:
@@ -23,283 +23,276 @@ protected:
 QProcessEnvironment plainEnvironment()
 {
     QProcessEnvironment environment;
-    environment.insert(QStringLiteral("PATH"), qEnvironmentVariable("PATH"));
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
+    environment.insert("PATH", qEnvironmentVariable("PATH"));
+    environment.insert("LC_ALL", "C.UTF-8");
+    environment.insert("TZ", "UTC");
     return environment;
 }
 
-// The toolkit asks for places within a window of the window manager that has gone: the numbers in the
-// warnings are from its range. Most likely it is the frame of a box that has just been closed, looked into
-// for the window under the mouse. libgtop says what a bare machine lacks, such as /etc/mtab.
-bool isOfTheMachine(const QByteArray &line)
+/// Whether a line of standard error is about the environment. The toolkit queries windows that the window
+/// manager has destroyed meanwhile, most likely the frame of a dialog that has just been closed. libgtop
+/// names what a bare machine lacks, such as /etc/mtab.
+bool isAboutEnvironment(const QByteArray &line)
 {
     return line.startsWith("qt.qpa.xcb: QXcbConnection: XCB error: 3 (BadWindow)") ||
            (line.startsWith("glibtop(") && line.contains("[WARNING]"));
 }
 
-// The sanitizers' run-time library has to come before anything else that is preloaded.
-QString preloaded(const QStringList &objects)
+/// The sanitizers' run-time library has to precede everything else that is preloaded.
+QString preloadList(const QStringList &objects)
 {
-    const QString first = QStringLiteral(ZSM_PRELOAD_FIRST);
-    return (first.isEmpty() ? objects : QStringList(first) + objects).join(QLatin1Char(':'));
+    const QString first = ZSM_PRELOAD_FIRST;
+    return (first.isEmpty() ? objects : QStringList(first) + objects).join(':');
+}
+
+void end(QProcess *process)
+{
+    if (!process || process->state() == QProcess::NotRunning) {
+        return;
+    }
+    process->terminate();
+    if (!process->waitForFinished(5000)) {
+        process->kill();
+    }
+    process->waitForFinished();
 }
 
 } // namespace
 
-DesktopSession::DesktopSession(SessionOptions options) : m_options(std::move(options))
+DesktopSession::DesktopSession(SessionOptions options) : setup(std::move(options))
 {
-    if (m_options.program.isEmpty())
-        m_options.program = QStringLiteral(ZSM_PROGRAM);
+    if (setup.program.isEmpty()) {
+        setup.program = ZSM_PROGRAM;
+    }
 }
 
 DesktopSession::~DesktopSession()
 {
-    disconnectProbe();
-    end(m_program.get());
-    m_x.close();
-    end(m_windowManager.get());
-    end(m_server.get());
-}
-
-void DesktopSession::end(QProcess *process)
-{
-    if (!process || process->state() == QProcess::NotRunning)
-        return;
-    process->terminate();
-    if (!process->waitForFinished(5000))
-        process->kill();
-    process->waitForFinished();
+    probeSocket.abort();
+    end(program.get());
+    client.close();
+    end(windowManager.get());
+    end(server.get());
 }
 
 bool DesktopSession::fail(const QString &error)
 {
-    m_error = error;
+    lastError = error;
     return false;
 }
 
 bool DesktopSession::startServer()
 {
-    if (QStandardPaths::findExecutable(QStringLiteral("Xvfb")).isEmpty())
-        return fail(QStringLiteral("Xvfb is not installed (Debian package xvfb)"));
-    const QString screen =
-        QStringLiteral("%1x%2x24").arg(m_options.screen.width()).arg(m_options.screen.height());
-    m_server = std::make_unique<BoundProcess>();
-    m_server->setProcessEnvironment(plainEnvironment());
-    m_server->start(QStringLiteral("Xvfb"),
-                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                     QStringLiteral("0"), screen, QStringLiteral("-dpi"), QString::number(m_options.dpi),
-                     QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")});
+    if (QStandardPaths::findExecutable("Xvfb").isEmpty()) {
+        return fail("Xvfb is not installed (Debian package xvfb)");
+    }
+    const QString screen = QString("%1x%2x24").arg(setup.screen.width()).arg(setup.screen.height());
+    server = std::make_unique<BoundProcess>();
+    server->setProcessEnvironment(plainEnvironment());
+    server->start("Xvfb", {"-displayfd", "1", "-screen", "0", screen, "-dpi", QString::number(setup.dpi),
+                           "-nolisten", "tcp", "-noreset"});
     QByteArray number;
     while (!number.endsWith('\n')) {
-        if (!m_server->waitForReadyRead(desktopDeadline))
-            return fail(QStringLiteral("Xvfb gave no display: ") +
-                        QString::fromLocal8Bit(m_server->readAllStandardError()));
-        number += m_server->readAllStandardOutput();
+        if (!server->waitForReadyRead(desktopDeadline)) {
+            return fail("Xvfb gave no display: " + QString::fromLocal8Bit(server->readAllStandardError()));
+        }
+        number += server->readAllStandardOutput();
     }
-    m_display = QLatin1Char(':') + QString::fromLatin1(number.trimmed());
-    return m_x.open(m_display) || fail(QStringLiteral("can't connect to display ") + m_display);
+    display = ':' + QString::fromLatin1(number.trimmed());
+    return client.open(display) || fail("can't connect to display " + display);
 }
 
 bool DesktopSession::startWindowManager()
 {
-    if (QStandardPaths::findExecutable(QStringLiteral("openbox")).isEmpty())
-        return fail(QStringLiteral("openbox is not installed (Debian package openbox)"));
-    QProcessEnvironment environment = plainEnvironment();
-    environment.insert(QStringLiteral("DISPLAY"), m_display);
-    environment.insert(QStringLiteral("HOME"), m_directory.path());
-    m_windowManager = std::make_unique<BoundProcess>();
-    m_windowManager->setProcessEnvironment(environment);
-    m_windowManager->start(QStringLiteral("openbox"),
-                           {QStringLiteral("--sm-disable"), QStringLiteral("--config-file"),
-                            QStringLiteral(ZSM_WINDOW_MANAGER_SETTINGS)});
-    QElapsedTimer elapsed;
-    for (elapsed.start(); !elapsed.hasExpired(desktopDeadline); QTest::qWait(10)) {
-        if (m_x.hasWindowManager())
-            return true;
+    if (QStandardPaths::findExecutable("openbox").isEmpty()) {
+        return fail("openbox is not installed (Debian package openbox)");
     }
-    return fail(QStringLiteral("openbox doesn't manage the screen: ") +
-                QString::fromLocal8Bit(m_windowManager->readAllStandardError()));
+    QProcessEnvironment environment = plainEnvironment();
+    environment.insert("DISPLAY", display);
+    environment.insert("HOME", directory.path());
+    windowManager = std::make_unique<BoundProcess>();
+    windowManager->setProcessEnvironment(environment);
+    windowManager->start("openbox", {"--sm-disable", "--config-file", ZSM_WINDOW_MANAGER_SETTINGS});
+    return QTest::qWaitFor([&] { return client.hasWindowManager(); }, desktopDeadline) ||
+           fail("openbox doesn't manage the screen: " +
+                QString::fromLocal8Bit(windowManager->readAllStandardError()));
 }
 
 bool DesktopSession::startDesktop()
 {
-    if (m_server)
+    if (server) {
         return true;
-    if (!m_directory.isValid() || !QDir(m_directory.path()).mkpath(QStringLiteral("home/.config")) ||
-        !QDir(m_directory.path()).mkpath(QStringLiteral("run")))
-        return fail(QStringLiteral("no temporary directory"));
-    QFile::setPermissions(m_directory.filePath(QStringLiteral("run")),
-                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    const QDir root(directory.path());
+    if (!directory.isValid() || !root.mkpath("home/.config") || !root.mkpath("run")) {
+        return fail("no temporary directory");
+    }
+    QFile::setPermissions(root.filePath("run"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return writeSettings() && startServer() && startWindowManager();
 }
 
 bool DesktopSession::writeSettings()
 {
-    if (m_options.settings.isEmpty())
+    if (setup.settings.isEmpty()) {
         return true;
+    }
     QFile file(settingsFile());
-    return (QFileInfo(file).dir().mkpath(QStringLiteral(".")) && file.open(QIODevice::WriteOnly) &&
-            file.write(m_options.settings) == m_options.settings.size()) ||
-           fail(QStringLiteral("can't write ") + settingsFile());
+    return (QFileInfo(file).dir().mkpath(".") && file.open(QIODevice::WriteOnly) &&
+            file.write(setup.settings) == setup.settings.size()) ||
+           fail("can't write " + settingsFile());
 }
 
 QProcessEnvironment DesktopSession::programEnvironment() const
 {
     QProcessEnvironment environment = plainEnvironment();
     for (const char *name : {"ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"}) {
-        if (qEnvironmentVariableIsSet(name))
-            environment.insert(QLatin1String(name), qEnvironmentVariable(name));
+        if (qEnvironmentVariableIsSet(name)) {
+            environment.insert(name, qEnvironmentVariable(name));
+        }
     }
-    QStringList objects = m_options.preload;
-    objects.append(QStringLiteral(ZSM_PROBE_OBJECT));
-    if (m_options.machine) {
-        objects.append(QStringLiteral(ZSM_STANDIN_OBJECT));
-        environment.insert(QStringLiteral("ZSM_STANDIN"), m_directory.filePath(QStringLiteral("machine")));
+    QStringList objects = setup.preload + QStringList(ZSM_PROBE_OBJECT);
+    if (setup.machine) {
+        objects.append(ZSM_STANDIN_OBJECT);
+        environment.insert("ZSM_STANDIN", directory.filePath("machine"));
     }
-    const QMap<QString, QString> own = {
-        {QStringLiteral("DISPLAY"), m_display},
-        {QStringLiteral("HOME"), home()},
-        {QStringLiteral("XDG_CONFIG_HOME"), home() + QStringLiteral("/.config")},
-        {QStringLiteral("XDG_RUNTIME_DIR"), m_directory.filePath(QStringLiteral("run"))},
-        // Without a session bus, and without starting one that would outlive the test.
-        {QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("disabled:")},
-        // Where the toolkit would write to the system's journal.
-        {QStringLiteral("QT_FORCE_STDERR_LOGGING"), QStringLiteral("1")},
-        {QStringLiteral("ZSM_PROBE"), m_directory.filePath(QStringLiteral("probe%1").arg(m_runs))},
-        {QStringLiteral("LD_PRELOAD"), preloaded(objects)}};
-    for (auto each = own.begin(); each != own.end(); ++each)
-        environment.insert(each.key(), each.value());
-    for (auto each = m_options.environment.begin(); each != m_options.environment.end(); ++each) {
-        if (each.value().isEmpty())
+    environment.insert("DISPLAY", display);
+    environment.insert("HOME", home());
+    environment.insert("XDG_CONFIG_HOME", home() + "/.config");
+    environment.insert("XDG_RUNTIME_DIR", directory.filePath("run"));
+    // No session bus, and none started that would outlive the test.
+    environment.insert("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    // The toolkit would log to the system's journal.
+    environment.insert("QT_FORCE_STDERR_LOGGING", "1");
+    environment.insert("ZSM_PROBE", probePath());
+    environment.insert("LD_PRELOAD", preloadList(objects));
+    for (auto each = setup.environment.begin(); each != setup.environment.end(); ++each) {
+        if (each.value().isEmpty()) {
             environment.remove(each.key());
-        else
+        } else {
             environment.insert(each.key(), each.value());
+        }
     }
     return environment;
 }
 
 bool DesktopSession::start(const QStringList &arguments)
 {
-    if (!startDesktop())
+    if (!startDesktop()) {
         return false;
-    if (m_options.machine)
-        setMachine(*m_options.machine);
-    disconnectProbe();
-    ++m_runs;
-    m_output.clear();
-    m_errors.clear();
-    m_program = std::make_unique<BoundProcess>();
-    m_program->setProcessEnvironment(programEnvironment());
-    m_program->start(m_options.program, arguments);
-    if (!m_program->waitForStarted())
-        return fail(QStringLiteral("can't start ") + m_options.program);
-    return waitForWindow();
+    }
+    if (setup.machine) {
+        setMachine(*setup.machine);
+    }
+    probeSocket.abort();
+    ++runs;
+    output.clear();
+    errors.clear();
+    program = std::make_unique<BoundProcess>();
+    program->setProcessEnvironment(programEnvironment());
+    program->start(setup.program, arguments);
+    return program->waitForStarted() ? waitForWindow() : fail("can't start " + setup.program);
 }
 
 bool DesktopSession::waitForWindow()
 {
     QJsonObject window;
-    QRect before;
     const bool shown = waitFor([&] {
+        const QJsonValue before = window.value("rect");
         window = mainWindow();
-        const QRect now = rectOf(window.value(QLatin1String("rect")));
-        const bool still = !now.isEmpty() && now == before;
-        before = now;
-        return still && window.value(QLatin1String("exposed")).toBool() &&
-               window.value(QLatin1String("active")).toBool();
+        return !rectOf(window.value("rect")).isEmpty() && window.value("rect") == before &&
+               window.value("exposed").toBool() && window.value("active").toBool();
     });
-    return shown || fail(QStringLiteral("no window came up: %1; the last seen: %2")
-                             .arg(m_error, QString::fromUtf8(QJsonDocument(window).toJson())));
+    return shown || fail(QString("no window appeared: %1; last state: %2")
+                             .arg(lastError, QString::fromUtf8(QJsonDocument(window).toJson())));
 }
 
 bool DesktopSession::waitForExit()
 {
-    if (isRunning() && !m_program->waitForFinished(desktopDeadline))
-        return fail(QStringLiteral("the program doesn't end"));
+    if (isRunning() && !program->waitForFinished(desktopDeadline)) {
+        return fail("the program doesn't exit");
+    }
     collectOutput();
     return true;
 }
 
+bool DesktopSession::exitsCleanly()
+{
+    const bool clean = waitForExit() && standardError().isEmpty() && exitCode() == 0;
+    if (!clean) {
+        qWarning("%s; exit code %d; standard error: %s", qPrintable(lastError), exitCode(),
+                 standardError().constData());
+    }
+    return clean;
+}
+
+bool DesktopSession::endsCleanly()
+{
+    if (QTest::currentTestFailed()) {
+        qWarning("%s", qPrintable(lastError));
+        key("Escape");
+    }
+    closeMainWindow();
+    return exitsCleanly();
+}
+
 int DesktopSession::exitCode() const
 {
-    const bool ended = m_program && !isRunning() && m_program->exitStatus() == QProcess::NormalExit;
-    return ended ? m_program->exitCode() : -1;
-}
-
-bool DesktopSession::isRunning() const
-{
-    return m_program && m_program->state() != QProcess::NotRunning;
-}
-
-qint64 DesktopSession::pid() const
-{
-    return m_program ? m_program->processId() : 0;
+    const bool exited = program && !isRunning() && program->exitStatus() == QProcess::NormalExit;
+    return exited ? program->exitCode() : -1;
 }
 
 void DesktopSession::collectOutput()
 {
-    if (!m_program)
-        return;
-    m_output += m_program->readAllStandardOutput();
-    m_errors += m_program->readAllStandardError();
+    if (program) {
+        output += program->readAllStandardOutput();
+        errors += program->readAllStandardError();
+    }
 }
 
 QByteArray DesktopSession::standardOutput()
 {
     collectOutput();
-    return m_output;
+    return output;
 }
 
 QByteArray DesktopSession::standardError()
 {
     collectOutput();
-    QList<QByteArray> lines = m_errors.split('\n');
-    lines.erase(std::remove_if(lines.begin(), lines.end(), isOfTheMachine), lines.end());
+    QList<QByteArray> lines = errors.split('\n');
+    lines.erase(std::remove_if(lines.begin(), lines.end(), isAboutEnvironment), lines.end());
     return lines.join('\n');
-}
-
-QString DesktopSession::home() const
-{
-    return m_directory.filePath(QStringLiteral("home"));
-}
-
-QString DesktopSession::settingsFile() const
-{
-    return home() + QStringLiteral("/.config/Telmorra/zarn-system-monitor.conf");
 }
 
 void DesktopSession::setMachine(const standin::Machine &machine)
 {
-    m_options.machine = machine;
-    standin::save(machine, m_directory.filePath(QStringLiteral("machine")).toStdString());
+    setup.machine = machine;
+    standin::save(machine, directory.filePath("machine").toStdString());
 }
 
 bool DesktopSession::waitFor(const std::function<bool()> &condition, int deadlineMs)
 {
     QElapsedTimer elapsed;
     for (elapsed.start(); !elapsed.hasExpired(deadlineMs); QTest::qWait(20)) {
-        if (condition())
+        if (condition()) {
             return true;
-        if (!isRunning())
-            return fail(QStringLiteral("the program has ended: ") + QString::fromLocal8Bit(standardError()));
+        }
+        if (!isRunning()) {
+            return fail("the program has ended: " + QString::fromLocal8Bit(standardError()));
+        }
     }
-    return condition() || fail(QStringLiteral("a condition wasn't met in time; standard error: ") +
-                               QString::fromLocal8Bit(standardError()));
+    return condition() ||
+           fail("a condition wasn't met in time; standard error: " + QString::fromLocal8Bit(standardError()));
 }
 
-// Of a screen that stands still, so that what was asked to be shown has been painted.
 bool DesktopSession::savePicture(const QString &name)
 {
-    const QString folder = QStringLiteral(ZSM_PICTURES);
     QImage picture;
     const bool still = waitFor([&] {
-        const QImage now = screenshot();
-        const bool same = now == picture;
-        picture = now;
-        return same;
+        const QImage before = picture;
+        picture = screenshot();
+        return picture == before;
     });
-    const QString file = folder + QLatin1Char('/') + name + QStringLiteral(".png");
-    return still &&
-           ((QDir().mkpath(folder) && picture.save(file)) || fail(QStringLiteral("can't write ") + file));
+    const QString folder = ZSM_PICTURES;
+    const QString file = folder + '/' + name + ".png";
+    return still && ((QDir().mkpath(folder) && picture.save(file)) || fail("can't write " + file));
 }

@@ -8,123 +8,93 @@ namespace {
 
 QString plain(QString text)
 {
-    return text.remove(QLatin1Char('&'));
+    return text.remove('&');
 }
 
-// The element of an array whose text is the one, compared without "&".
+/// The element of an array with this text, compared without "&".
 QJsonObject withText(const QJsonValue &array, const QString &text)
 {
     const QJsonArray elements = array.toArray();
     for (const QJsonValue &element : elements) {
-        if (plain(element[QLatin1String("text")].toString()) == plain(text))
+        if (plain(element["text"].toString()) == plain(text)) {
             return element.toObject();
+        }
     }
     return {};
 }
 
 } // namespace
 
-QRect DesktopSession::stableRect(const std::function<QRect()> &findRect)
-{
-    QRect before;
-    const bool found = waitFor([&] {
-        const QRect now = findRect();
-        const bool still = !now.isEmpty() && now == before;
-        before = now;
-        return still;
-    });
-    return found ? before : QRect();
-}
-
 bool DesktopSession::click(const std::function<QRect()> &findRect, int button)
 {
-    const QRect rect = stableRect(findRect);
-    if (rect.isEmpty())
-        return false;
-    leaveDoubleClickInterval();
-    m_x.moveTo(rect.center());
-    m_x.click(button);
-    m_sinceClick.start();
-    return true;
-}
-
-// Two clicks soon after one another would be taken for a double click.
-void DesktopSession::leaveDoubleClickInterval()
-{
-    const qint64 interval = 500;
-    while (m_sinceClick.isValid() && !m_sinceClick.hasExpired(interval))
-        QTest::qWait(int(interval - m_sinceClick.elapsed()));
-}
-
-bool DesktopSession::doubleClick(const std::function<QRect()> &findRect)
-{
-    if (!click(findRect))
-        return false;
-    m_x.click();
-    return true;
+    QRect rect;
+    const bool found = waitFor([&] {
+        const QRect before = rect;
+        rect = findRect();
+        return !rect.isEmpty() && rect == before;
+    });
+    // Two clicks within this time would count as a double click.
+    const qint64 doubleClickInterval = 500;
+    while (found && sinceClick.isValid() && !sinceClick.hasExpired(doubleClickInterval)) {
+        QTest::qWait(int(doubleClickInterval - sinceClick.elapsed()));
+    }
+    if (found) {
+        client.moveTo(rect.center());
+        client.click(button);
+        sinceClick.start();
+    }
+    return found;
 }
 
 bool DesktopSession::clickWidget(const QString &name, int button)
 {
-    return click(
-        [&] {
-            const QJsonObject found = widget(name);
-            const bool visible = found.value(QLatin1String("visible")).toBool();
-            return visible ? rectOf(found.value(QLatin1String("rect"))) : QRect();
-        },
-        button);
+    const auto visibleRect = [&] {
+        const QJsonObject found = widget(name);
+        return found.value("visible").toBool() ? rectOf(found.value("rect")) : QRect();
+    };
+    return click(visibleRect, button);
 }
 
 bool DesktopSession::clickTab(const QString &text)
 {
     return click([&] {
-        const QJsonObject tabs = probe(QStringLiteral("widget QTabWidget"));
-        return rectOf(withText(tabs.value(QLatin1String("tabs")), text).value(QLatin1String("rect")));
+        const QJsonObject tabs = probe("widget QTabWidget");
+        return rectOf(withText(tabs.value("tabs"), text).value("rect"));
     });
-}
-
-bool DesktopSession::clickMenu(const QString &text)
-{
-    return click([&] { return rectOf(menuEntry(text).value(QLatin1String("rect"))); });
 }
 
 bool DesktopSession::clickButton(const QString &text)
 {
-    return click([&] {
-        return rectOf(withText(dialog().value(QLatin1String("buttons")), text).value(QLatin1String("rect")));
-    });
-}
-
-bool DesktopSession::clickHeader(const QString &tableName, const QString &header)
-{
-    return click([&] { return table(tableName).headerRect(header); });
+    return click([&] { return rectOf(withText(dialog().value("buttons"), text).value("rect")); });
 }
 
 bool DesktopSession::clickRow(const QString &tableName, const QString &header, const QString &text,
                               int button)
 {
-    return bringIntoView(tableName, header, text) && click(
-                                                         [&] {
-                                                             const Table now = table(tableName);
-                                                             return now.rowRect(now.find(header, text));
-                                                         },
-                                                         button);
+    const auto rowRect = [&] {
+        const Table now = table(tableName);
+        return now.rowRect(now.find(header, text));
+    };
+    return scrollToRow(tableName, header, text) && click(rowRect, button);
 }
 
-bool DesktopSession::bringIntoView(const QString &tableName, const QString &header, const QString &text)
+bool DesktopSession::scrollToRow(const QString &tableName, const QString &header, const QString &text)
 {
     return waitFor([&] {
         const Table now = table(tableName);
         const int row = now.find(header, text);
-        if (row < 0 || now.viewport.isEmpty())
+        if (row < 0 || now.viewport.isEmpty()) {
             return false;
-        if (!now.rowRect(row).isEmpty())
+        }
+        if (!now.rowRect(row).isEmpty()) {
             return true;
+        }
         int firstShown = 0;
-        while (firstShown < now.rows.size() && now.rowRect(firstShown).isEmpty())
+        while (firstShown < now.rows.size() && now.rowRect(firstShown).isEmpty()) {
             ++firstShown;
-        m_x.moveTo(now.viewport.center());
-        m_x.click(row < firstShown ? 4 : 5);
+        }
+        client.moveTo(now.viewport.center());
+        client.click(row < firstShown ? 4 : 5);
         return false;
     });
 }
@@ -132,52 +102,48 @@ bool DesktopSession::bringIntoView(const QString &tableName, const QString &head
 void DesktopSession::drag(const QPoint &from, const QPoint &to)
 {
     const int steps = 10;
-    m_x.moveTo(from);
-    m_x.press(1);
-    for (int step = 1; step <= steps; ++step)
-        m_x.moveTo(from + (to - from) * step / steps);
-    m_x.release(1);
+    client.moveTo(from);
+    client.press(1);
+    for (int step = 1; step <= steps; ++step) {
+        client.moveTo(from + (to - from) * step / steps);
+    }
+    client.release(1);
 }
 
 bool DesktopSession::resizeMainWindow(const QSize &size)
 {
-    const QJsonObject window = mainWindow();
-    const QSize least = rectOf(window.value(QLatin1String("minimumSize"))).size();
-    m_x.resizeWindow(static_cast<unsigned long>(window.value(QLatin1String("id")).toDouble()), size);
-    return waitFor(
-        [&] { return rectOf(mainWindow().value(QLatin1String("rect"))).size() == size.expandedTo(least); });
-}
-
-void DesktopSession::closeMainWindow()
-{
-    m_x.closeWindow(static_cast<unsigned long>(mainWindow().value(QLatin1String("id")).toDouble()));
+    const QSize expected = size.expandedTo(rectOf(mainWindow().value("minimumSize")).size());
+    client.resizeWindow(windowId(), size);
+    return waitFor([&] { return windowRect().size() == expected; });
 }
 
 QJsonObject DesktopSession::menuEntry(const QString &text)
 {
-    const QJsonObject menus = probe(QStringLiteral("menu"));
-    const QJsonArray open = menus.value(QLatin1String("menus")).toArray();
+    const QJsonObject menus = probe("menu");
+    const QJsonArray open = menus.value("menus").toArray();
     for (const QJsonValue &menu : open) {
-        const QJsonObject entry = withText(menu[QLatin1String("actions")], text);
-        if (menu[QLatin1String("exposed")].toBool() && entry.value(QLatin1String("visible")).toBool())
+        const QJsonObject entry = withText(menu["actions"], text);
+        if (menu["exposed"].toBool() && entry.value("visible").toBool()) {
             return entry;
+        }
     }
-    return withText(menus.value(QLatin1String("bar")), text);
+    return withText(menus.value("bar"), text);
 }
 
 QStringList DesktopSession::menuTexts()
 {
     QJsonValue innermost;
     waitFor([&] {
-        const QJsonArray open = probe(QStringLiteral("menu")).value(QLatin1String("menus")).toArray();
+        const QJsonArray open = probe("menu").value("menus").toArray();
         innermost = open.isEmpty() ? QJsonValue() : QJsonValue(open.last());
-        return open.isEmpty() || innermost[QLatin1String("exposed")].toBool();
+        return open.isEmpty() || innermost["exposed"].toBool();
     });
-    const QJsonArray actions = innermost[QLatin1String("actions")].toArray();
+    const QJsonArray actions = innermost["actions"].toArray();
     QStringList texts;
     for (const QJsonValue &action : actions) {
-        if (action[QLatin1String("visible")].toBool() && !action[QLatin1String("separator")].toBool())
-            texts.append(plain(action[QLatin1String("text")].toString()));
+        if (action["visible"].toBool() && !action["separator"].toBool()) {
+            texts.append(plain(action["text"].toString()));
+        }
     }
     return texts;
 }

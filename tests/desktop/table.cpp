@@ -3,8 +3,6 @@
 
 #include <QJsonArray>
 
-#include <algorithm>
-
 QRect rectOf(const QJsonValue &value)
 {
     const QJsonArray numbers = value.toArray();
@@ -12,27 +10,26 @@ QRect rectOf(const QJsonValue &value)
 }
 
 Table::Table(const QJsonObject &json)
-    : viewport(rectOf(json.value(QLatin1String("viewport")))),
-      sortSection(json.value(QLatin1String("sortSection")).toInt(-1)),
-      sortDescending(json.value(QLatin1String("sortDescending")).toBool())
+    : viewport(rectOf(json.value("viewport"))), sortSection(json.value("sortSection").toInt(-1)),
+      sortDescending(json.value("sortDescending").toBool())
 {
-    const QJsonArray jsonHeaders = json.value(QLatin1String("headers")).toArray();
-    for (const QJsonValue &header : jsonHeaders)
-        headers.append({header[QLatin1String("text")].toString(), header[QLatin1String("section")].toInt(),
-                        header[QLatin1String("visible")].toBool(), rectOf(header[QLatin1String("rect")])});
-    const QJsonArray jsonRows = json.value(QLatin1String("rows")).toArray();
+    const QJsonArray jsonHeaders = json.value("headers").toArray();
+    for (const QJsonValue &header : jsonHeaders) {
+        headers.append({header["text"].toString(), header["section"].toInt(), header["visible"].toBool(),
+                        rectOf(header["rect"])});
+    }
+    const QJsonArray jsonRows = json.value("rows").toArray();
     for (const QJsonValue &jsonRow : jsonRows) {
         Row row;
-        row.depth = jsonRow[QLatin1String("depth")].toInt();
-        const QJsonArray texts = jsonRow[QLatin1String("texts")].toArray();
-        for (const QJsonValue &text : texts)
-            row.texts.append(text.toString());
-        const QJsonArray rects = jsonRow[QLatin1String("rects")].toArray();
-        for (const QJsonValue &rect : rects)
+        row.depth = jsonRow["depth"].toInt();
+        row.texts = jsonRow["texts"].toVariant().toStringList();
+        const QJsonArray rects = jsonRow["rects"].toArray();
+        for (const QJsonValue &rect : rects) {
             row.rects.append(rectOf(rect));
-        row.expanded = jsonRow[QLatin1String("expanded")].toBool();
-        row.selected = jsonRow[QLatin1String("selected")].toBool();
-        row.current = jsonRow[QLatin1String("current")].toBool();
+        }
+        row.expanded = jsonRow["expanded"].toBool();
+        row.selected = jsonRow["selected"].toBool();
+        row.current = jsonRow["current"].toBool();
         rows.append(row);
     }
 }
@@ -41,33 +38,36 @@ QStringList Table::visibleHeaders() const
 {
     QStringList texts;
     for (const Header &header : headers) {
-        if (header.visible)
+        if (header.visible) {
             texts.append(header.text);
+        }
     }
     return texts;
 }
 
 int Table::section(const QString &header) const
 {
-    const auto found =
-        std::find_if(headers.begin(), headers.end(), [&](const Header &each) { return each.text == header; });
-    return found == headers.end() ? -1 : found->section;
+    for (const Header &each : headers) {
+        if (each.text == header) {
+            return each.section;
+        }
+    }
+    return -1;
 }
 
 QRect Table::headerRect(const QString &header) const
 {
-    const auto found = std::find_if(headers.begin(), headers.end(),
-                                    [&](const Header &each) { return each.text == header && each.visible; });
-    return found == headers.end() ? QRect() : found->rect;
+    for (const Header &each : headers) {
+        if (each.text == header && each.visible) {
+            return each.rect;
+        }
+    }
+    return {};
 }
 
-int Table::find(const QString &header, const QString &text, int from) const
+int Table::find(const QString &header, const QString &text) const
 {
-    for (int row = from; row < rows.size(); ++row) {
-        if (this->text(row, header) == text)
-            return row;
-    }
-    return -1;
+    return column(header).indexOf(text);
 }
 
 QString Table::text(int row, const QString &header) const
@@ -77,24 +77,30 @@ QString Table::text(int row, const QString &header) const
 
 QStringList Table::column(const QString &header) const
 {
+    const int index = section(header);
     QStringList texts;
-    for (int row = 0; row < rows.size(); ++row)
-        texts.append(text(row, header));
+    for (const Row &row : rows) {
+        texts.append(row.texts.value(index));
+    }
     return texts;
 }
 
 int Table::parentOf(int row) const
 {
     int parent = row - 1;
-    while (parent >= 0 && rows.at(parent).depth >= rows.at(row).depth)
+    while (parent >= 0 && rows.at(parent).depth >= rows.at(row).depth) {
         --parent;
+    }
     return parent;
 }
 
 QRect Table::rowRect(int row) const
 {
     const QVector<QRect> rects = rows.value(row).rects;
-    const auto shown =
-        std::find_if(rects.begin(), rects.end(), [](const QRect &rect) { return !rect.isEmpty(); });
-    return shown == rects.end() ? QRect() : *shown;
+    for (const QRect &rect : rects) {
+        if (!rect.isEmpty()) {
+            return rect;
+        }
+    }
+    return {};
 }

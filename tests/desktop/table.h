@@ -10,7 +10,7 @@
 /// The screen rectangle that the probe wrote as [x, y, width, height]; an empty one for anything else.
 QRect rectOf(const QJsonValue &value);
 
-/// An item view of the running program, as it was when the probe was asked.
+/// A snapshot of an item view of the running program.
 struct Table
 {
     struct Header
@@ -24,8 +24,8 @@ struct Table
     struct Row
     {
         int depth = 0;        ///< 0 for rows at the top
-        QStringList texts;    ///< by section, hidden columns too
-        QVector<QRect> rects; ///< by section, empty for what is not on the screen; none if the row isn't
+        QStringList texts;    ///< by section, including hidden columns
+        QVector<QRect> rects; ///< by section, empty for cells off the screen; none if the whole row is
         bool expanded = false;
         bool selected = false;
         bool current = false;
@@ -33,20 +33,18 @@ struct Table
 
     explicit Table(const QJsonObject &json);
 
-    QStringList visibleHeaders() const;       ///< in their shown order
+    QStringList visibleHeaders() const;       ///< in visual order
     int section(const QString &header) const; ///< -1 if there is none
     QRect headerRect(const QString &header) const;
-
-    /// Index of the first row with this text in this column, from `from` on; -1 if there is none.
-    int find(const QString &header, const QString &text, int from = 0) const;
+    /// Index of the first row with this text in this column; -1 if there is none.
+    int find(const QString &header, const QString &text) const;
     QString text(int row, const QString &header) const;
     QStringList column(const QString &header) const; ///< from the first row to the last
-    int parentOf(int row) const;                     ///< -1 for rows at the top
-    /// A cell of the row that is on the screen; empty if the row isn't.
-    QRect rowRect(int row) const;
+    int parentOf(int row) const;                     ///< negative for rows at the top
+    QRect rowRect(int row) const; ///< a cell of the row that is on the screen; empty if none is
 
-    QVector<Header> headers; ///< in their shown order
-    QVector<Row> rows;       ///< in their shown order, children after their parent
+    QVector<Header> headers; ///< in visual order
+    QVector<Row> rows;       ///< in visual order, children after their parent
     QRect viewport;
     int sortSection = -1;
     bool sortDescending = false;

@@ -10,60 +10,62 @@
 
 struct _XDisplay;
 
-/// A client of an X server that acts as the user's hands and eyes: key and mouse events through the XTEST
-/// extension, which reach programs as those of real devices do, and pictures of the screen. Each call
-/// returns once the server has taken the events.
+/// A client of an X server that stands in for the user: it sends key and mouse events through the XTEST
+/// extension, which programs can't tell from those of real devices, and takes pictures of the screen. Each
+/// call returns once the server has processed the events.
 class XClient
 {
 public:
     XClient() = default;
-    ~XClient();
+    ~XClient() { close(); }
     XClient(const XClient &) = delete;
     XClient &operator=(const XClient &) = delete;
 
-    /// Connects; false if the server can't be reached or has no XTEST.
+    /// Connects; false if the server can't be reached or lacks XTEST.
     bool open(const QString &display);
     void close();
 
-    /// Whether a window manager is at work: one that starts may announce itself and still miss a window
-    /// that appears at that moment, so this shows it a window and looks whether it is taken up. Ask again
-    /// until it is true; then the window is gone again.
+    /// Whether a window manager is running. A window manager that is starting may announce itself and still
+    /// miss a window that appears at that moment, so this maps a window and checks whether it gets managed.
+    /// Call it until it returns true; the window is then destroyed.
     bool hasWindowManager();
 
     void moveTo(const QPoint &point);
     /// Mouse buttons: 1 left, 2 middle, 3 right, 4 wheel up, 5 wheel down.
-    void press(int button);
-    void release(int button);
+    void press(int button) { sendButton(button, true); }
+    void release(int button) { sendButton(button, false); }
     void click(int button = 1);
 
-    /// Presses and releases a key, by its X name, under modifiers: "ctrl+q", "Return", "shift+F10".
-    /// False if the keyboard has no such key.
+    /// Presses and releases a key, by its X name, with modifiers: "ctrl+q", "Return", "shift+F10". False if
+    /// the keyboard has no such key.
     bool key(const QString &combination);
-    /// Types characters that a US keyboard has. False at the first other one.
+    /// Types characters of a US keyboard. False at the first other one.
     bool type(const QString &text);
 
-    /// Asks the window manager, as a pager or task bar does. Ids as X and QWidget::winId() have them.
+    /// Requests to the window manager, as from a pager or task bar. Window ids are those of X and
+    /// QWidget::winId().
     void resizeWindow(unsigned long id, const QSize &size);
     void closeWindow(unsigned long id);
     void toggleMaximized(unsigned long id);
 
-    /// Where a window lies on the screen, without its frame; an empty one if there is no such window.
+    /// The position of a window on the screen, without its frame; empty if there is no such window.
     QRect windowRect(unsigned long id) const;
 
     /// Sends a window one of the probe's marks (tests/support/probe/inputmarks.h).
     void mark(unsigned long id, int number);
 
-    /// The whole screen; a null image if it couldn't be read.
+    /// The whole screen; a null image if it can't be read.
     QImage screenshot() const;
 
 private:
     bool hasRootProperty(const char *name) const;
     bool typeKeysym(unsigned long keysym);
     void sendKey(unsigned long keysym, bool down);
-    void sendToWindowManager(unsigned long id, const char *message, const long (&data)[5]);
+    void sendButton(int button, bool down);
+    void sendMessage(unsigned long id, const char *type, const long (&data)[5], bool toWindowManager = true);
 
-    _XDisplay *m_display = nullptr;
-    unsigned long m_shown = 0; ///< the window shown to the window manager, 0 if there is none
+    _XDisplay *display = nullptr;
+    unsigned long mapped = 0; ///< the window that hasWindowManager() has mapped, or 0
 };
 
 #endif
