@@ -11,16 +11,16 @@ namespace {
 
 QString procFolder(int pid)
 {
-    return QStringLiteral("/proc/%1").arg(pid);
+    return QString("/proc/%1").arg(pid);
 }
 
 bool isStopped(int pid)
 {
-    QFile file(procFolder(pid) + QStringLiteral("/stat"));
+    QFile file(procFolder(pid) + "/stat");
     return file.open(QIODevice::ReadOnly) && file.readAll().contains(") T ");
 }
 
-// Numbers of every length, among them 0 and the largest.
+/// Numbers of every length, among them 0 and the largest.
 std::uint64_t anyNumber(QRandomGenerator &random)
 {
     return random.generate64() >> random.bounded(64);
@@ -71,56 +71,58 @@ standin::Interface interface(int number, QRandomGenerator &random)
 
 Churn::~Churn()
 {
-    m_samples.clear();
-    if (m_user < 0)
+    samples.clear();
+    if (user < 0) {
         return;
+    }
     // What has been stopped would not end by itself.
-    const QStringList folders = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+    const QStringList folders = QDir("/proc").entryList(QDir::Dirs);
     for (const QString &folder : folders) {
         const int pid = folder.toInt();
-        if (pid > 0 && QFileInfo(procFolder(pid)).ownerId() == uint(m_user) && isStopped(pid))
+        if (pid > 0 && QFileInfo(procFolder(pid)).ownerId() == uint(user) && isStopped(pid)) {
             ::kill(pid, SIGKILL);
+        }
     }
 }
 
 bool Churn::owns(int pid) const
 {
-    return m_user >= 0 && pid > 0 &&
-           (m_started.contains(pid) || QFileInfo(procFolder(pid)).ownerId() == uint(m_user));
+    return user >= 0 && pid > 0 &&
+           (started.contains(pid) || QFileInfo(procFolder(pid)).ownerId() == uint(user));
 }
 
 bool Churn::has(SampleProcess::What what) const
 {
-    return std::any_of(m_samples.begin(), m_samples.end(),
-                       [=](const Sample &each) { return each.what == what; });
+    return std::any_of(samples.begin(), samples.end(), [=](const Sample &each) { return each.what == what; });
 }
 
-// The program may have ended some.
+/// The program may have ended some.
 void Churn::forgetEnded()
 {
     const auto ended = [](const Sample &each) { return each.process->pid() == 0; };
-    m_samples.erase(std::remove_if(m_samples.begin(), m_samples.end(), ended), m_samples.end());
+    samples.erase(std::remove_if(samples.begin(), samples.end(), ended), samples.end());
 }
 
 void Churn::end(int pid)
 {
     const auto isIt = [=](const Sample &each) { return each.process->pid() == pid; };
-    m_samples.erase(std::remove_if(m_samples.begin(), m_samples.end(), isIt), m_samples.end());
+    samples.erase(std::remove_if(samples.begin(), samples.end(), isIt), samples.end());
 }
 
 QString Churn::startOne(QRandomGenerator &random)
 {
     SampleProcess::What what = SampleProcess::Sleeping;
-    if (oneIn(3, random) && !has(SampleProcess::Parent))
+    if (oneIn(3, random) && !has(SampleProcess::Parent)) {
         what = SampleProcess::Parent;
-    else if (oneIn(3, random) && !has(SampleProcess::Heir))
+    } else if (oneIn(3, random) && !has(SampleProcess::Heir)) {
         what = SampleProcess::Heir;
+    }
     auto process = std::make_unique<SampleProcess>(
-        QStringLiteral("m%1").arg(random.bounded(1000), 3, 10, QLatin1Char('0')), what, m_user);
+        QString("m%1").arg(random.bounded(1000), 3, 10, QLatin1Char('0')), what, user);
     const int pid = process->pid();
-    m_started.insert(pid);
-    m_samples.push_back({what, std::move(process)});
-    return QStringLiteral("starts %1").arg(pid);
+    started.insert(pid);
+    samples.push_back({what, std::move(process)});
+    return QString("starts %1").arg(pid);
 }
 
 QString Churn::changeProcesses(QRandomGenerator &random)
@@ -135,16 +137,17 @@ QString Churn::changeProcesses(QRandomGenerator &random)
 
     forgetEnded();
     const int what = random.bounded(6);
-    if (m_samples.size() < fewest || (what < 2 && m_samples.size() < most))
+    if (samples.size() < fewest || (what < 2 && samples.size() < most)) {
         return startOne(random);
-    const std::size_t which = random.generate() % m_samples.size();
-    const int pid = m_samples[which].process->pid();
-    if (what < 3) {
-        m_samples.erase(m_samples.begin() + long(which));
-        return QStringLiteral("ends %1").arg(pid);
     }
-    m_samples[which].process->sendSignal(signs[what - 3].signal);
-    return QStringLiteral("%1 %2").arg(QLatin1String(signs[what - 3].name)).arg(pid);
+    const std::size_t which = random.generate() % samples.size();
+    const int pid = samples[which].process->pid();
+    if (what < 3) {
+        samples.erase(samples.begin() + long(which));
+        return QString("ends %1").arg(pid);
+    }
+    samples[which].process->sendSignal(signs[what - 3].signal);
+    return QString("%1 %2").arg(QLatin1String(signs[what - 3].name)).arg(pid);
 }
 
 standin::Machine Churn::machine(QRandomGenerator &random)
@@ -159,12 +162,14 @@ standin::Machine Churn::machine(QRandomGenerator &random)
     const std::uint64_t memory = anyNumber(random);
     made.memory = standin::Memory{memory, memory / 4, memory / 8, memory / 2};
     made.mounts.emplace();
-    for (int number = random.bounded(25); number > 0; --number)
+    for (int number = random.bounded(25); number > 0; --number) {
         made.mounts->push_back(mount(number, random));
+    }
     made.mountListFails = oneIn(20, random);
     made.interfaces.emplace();
-    for (int number = random.bounded(12); number > 0; --number)
+    for (int number = random.bounded(12); number > 0; --number) {
         made.interfaces->push_back(interface(number, random));
+    }
     made.interfaceListFails = oneIn(20, random);
     return made;
 }

@@ -29,7 +29,7 @@ void readFileIfChanged();
 template <typename Function>
 Function *nextCall(const char *name)
 {
-    void *const address = dlsym(RTLD_NEXT, name);
+    void *address = dlsym(RTLD_NEXT, name);
     if (!address) {
         std::fprintf(stderr, "gtopstandin: no %s in libgtop\n", name);
         std::abort();

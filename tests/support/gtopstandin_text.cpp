@@ -11,7 +11,7 @@
 namespace standin {
 namespace {
 
-// The words of each kind of line: one table each, for writing and for reading.
+/// The words of each kind of line: one table each, for writing and for reading.
 template <typename Visitor>
 void visitFields(Visitor &visit, Cpu &cpu)
 {
@@ -96,7 +96,7 @@ void visitFields(Visitor &visit, ListState &list)
     visit("fails", list.fails);
 }
 
-const char *const emptyWord = "%-";
+const char *emptyWord = "%-";
 
 std::string encoded(const std::string &bytes)
 {
@@ -117,17 +117,19 @@ std::string encoded(const std::string &bytes)
 template <typename Number>
 void parseNumber(const std::string &word, Number &number, int base = 10)
 {
-    const char *const end = word.data() + word.size();
+    const char *end = word.data() + word.size();
     const auto result = std::from_chars(word.data(), end, number, base);
-    if (result.ec != std::errc() || result.ptr != end)
+    if (result.ec != std::errc() || result.ptr != end) {
         throw std::runtime_error("not a number in range: " + word);
+    }
 }
 
 std::string decoded(const std::string &word)
 {
     std::string bytes;
-    if (word == emptyWord)
+    if (word == emptyWord) {
         return bytes;
+    }
     for (std::size_t i = 0; i < word.size(); ++i) {
         if (word[i] != '%') {
             bytes += word[i];
@@ -172,8 +174,9 @@ class Reader
 public:
     explicit Reader(std::istringstream &rest)
     {
-        for (std::string name, word; rest >> name >> word;)
+        for (std::string name, word; rest >> name >> word;) {
             m_words[name] = word;
+        }
     }
 
     void operator()(const char *name, std::string &bytes)
@@ -191,8 +194,9 @@ public:
     }
     void requireAllTaken() const
     {
-        if (!m_words.empty())
+        if (!m_words.empty()) {
             throw std::runtime_error("no such field: " + m_words.begin()->first);
+        }
     }
 
 private:
@@ -200,8 +204,9 @@ private:
     void take(const char *name, Use use)
     {
         const auto found = m_words.find(name);
-        if (found == m_words.end())
+        if (found == m_words.end()) {
             return;
+        }
         use(found->second);
         m_words.erase(found);
     }
@@ -221,8 +226,9 @@ Record recordOf(std::istringstream &rest)
 template <typename List>
 typename List::value_type &appended(std::optional<List> &list, typename List::value_type record)
 {
-    if (!list)
+    if (!list) {
         list.emplace();
+    }
     list->push_back(std::move(record));
     return list->back();
 }
@@ -231,8 +237,9 @@ void readLine(const std::string &line, Machine &machine)
 {
     std::istringstream rest(line);
     std::string kind;
-    if (!(rest >> kind) || kind[0] == '#')
+    if (!(rest >> kind) || kind[0] == '#') {
         return;
+    }
     if (kind == "cpus") {
         machine.cpus.emplace();
     } else if (kind == "cpu") {
@@ -254,8 +261,9 @@ void readLine(const std::string &line, Machine &machine)
     } else if (kind == "others") {
         machine.mostOfOthers = recordOf<OthersLimit>(rest).most;
     } else if (kind == "process") {
-        if (!machine.processes)
+        if (!machine.processes) {
             machine.processes.emplace();
+        }
         machine.processes->insert(recordOf<std::pair<int, Process>>(rest));
     } else {
         throw std::runtime_error("no such kind of line: " + kind);
@@ -269,28 +277,34 @@ std::string toText(const Machine &machine)
     std::string text;
     if (machine.cpus) {
         text += "cpus\n";
-        for (const Cpu &cpu : *machine.cpus)
+        for (const Cpu &cpu : *machine.cpus) {
             text += lineOf("cpu", cpu);
+        }
     }
-    if (machine.memory)
+    if (machine.memory) {
         text += lineOf("mem", *machine.memory);
+    }
     if (machine.mounts) {
         text += lineOf("mounts", ListState{machine.mountListFails});
-        for (const Mount &mount : *machine.mounts)
+        for (const Mount &mount : *machine.mounts) {
             text += lineOf("mount", mount);
+        }
     }
     if (machine.interfaces) {
         text += lineOf("nets", ListState{machine.interfaceListFails});
-        for (const Interface &net : *machine.interfaces)
+        for (const Interface &net : *machine.interfaces) {
             text += lineOf("net", net);
+        }
     }
     if (machine.processes) {
         text += "processes\n";
-        for (const auto &[pid, process] : *machine.processes)
+        for (const auto &[pid, process] : *machine.processes) {
             text += lineOf("process", std::pair<int, Process>(pid, process));
+        }
     }
-    if (machine.mostOfOthers >= 0)
+    if (machine.mostOfOthers >= 0) {
         text += lineOf("others", OthersLimit{machine.mostOfOthers});
+    }
     return text;
 }
 
@@ -314,8 +328,9 @@ void save(const Machine &machine, const std::string &path)
     std::ofstream file(beside, std::ios::binary | std::ios::trunc);
     file << toText(machine);
     file.close();
-    if (!file || std::rename(beside.c_str(), path.c_str()) != 0)
+    if (!file || std::rename(beside.c_str(), path.c_str()) != 0) {
         throw std::runtime_error("can't write " + path);
+    }
 }
 
 } // namespace standin

@@ -16,7 +16,7 @@ namespace {
 
 bool isRefused(pid_t pid)
 {
-    static const char *const guarded = std::getenv("ZSM_GUARD");
+    static const char *guarded = std::getenv("ZSM_GUARD");
     return pid == getpid() || (guarded && std::string(guarded) == "all");
 }
 

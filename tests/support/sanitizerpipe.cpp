@@ -17,12 +17,13 @@ bool isOfSanitizer(const void *code)
     return dladdr(code, &found) != 0 && found.dli_fname && std::strstr(found.dli_fname, "libubsan");
 }
 
-// A test may change the limit meanwhile: then its value stays.
+/// A test may change the limit meanwhile: then its value stays.
 void restoreLimit(const rlimit &before, const rlimit &raised)
 {
     rlimit found = {};
-    if (prlimit(0, RLIMIT_NOFILE, &before, &found) == 0 && found.rlim_cur != raised.rlim_cur)
+    if (prlimit(0, RLIMIT_NOFILE, &before, &found) == 0 && found.rlim_cur != raised.rlim_cur) {
         prlimit(0, RLIMIT_NOFILE, &found, nullptr);
+    }
 }
 
 } // namespace
@@ -33,11 +34,13 @@ extern "C" int pipe(int ends[2]) noexcept
     const int result = real(ends);
     rlimit before = {};
     const bool takenAway = result != 0 && errno == EMFILE && isOfSanitizer(__builtin_return_address(0));
-    if (!takenAway || getrlimit(RLIMIT_NOFILE, &before) != 0)
+    if (!takenAway || getrlimit(RLIMIT_NOFILE, &before) != 0) {
         return result;
+    }
     const rlimit raised{before.rlim_max, before.rlim_max};
-    if (prlimit(0, RLIMIT_NOFILE, &raised, &before) != 0)
+    if (prlimit(0, RLIMIT_NOFILE, &raised, &before) != 0) {
         return -1;
+    }
     const int again = real(ends);
     restoreLimit(before, raised);
     return again;

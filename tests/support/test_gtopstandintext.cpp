@@ -116,7 +116,7 @@ void TestGtopStandinText::aLineThatCannotBeReadIsNamed()
 void TestGtopStandinText::savingReplacesTheFileInOneStep()
 {
     QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("machine"));
+    const QString path = directory.filePath("machine");
     standin::save(fullMachine(), path.toStdString());
     QFile opened(path);
     QVERIFY(opened.open(QIODevice::ReadOnly));
@@ -125,7 +125,7 @@ void TestGtopStandinText::savingReplacesTheFileInOneStep()
     QCOMPARE(QFileInfo(path).size(), 0);
     bool failed = false;
     try {
-        standin::save({}, directory.filePath(QStringLiteral("no/such")).toStdString());
+        standin::save({}, directory.filePath("no/such").toStdString());
     } catch (const std::runtime_error &) {
         failed = true;
     }

@@ -16,10 +16,12 @@ namespace {
 
 QHeaderView *headerOf(QAbstractItemView *view)
 {
-    if (const auto *tree = qobject_cast<QTreeView *>(view))
+    if (const auto *tree = qobject_cast<QTreeView *>(view)) {
         return tree->header();
-    if (const auto *table = qobject_cast<QTableView *>(view))
+    }
+    if (const auto *table = qobject_cast<QTableView *>(view)) {
         return table->horizontalHeader();
+    }
     return nullptr;
 }
 
@@ -32,16 +34,15 @@ QJsonArray describeSections(const QHeaderView *header)
         const bool hidden = header->isSectionHidden(section);
         const QRect rect(header->sectionViewportPosition(section), top, header->sectionSize(section),
                          header->height());
-        sections.append(QJsonObject{
-            {QStringLiteral("section"), section},
-            {QStringLiteral("text"), header->model()->headerData(section, Qt::Horizontal).toString()},
-            {QStringLiteral("visible"), !hidden && header->isVisible()},
-            {QStringLiteral("rect"), globalRect(header->viewport(), rect)}});
+        sections.append(QJsonObject{{"section", section},
+                                    {"text", header->model()->headerData(section, Qt::Horizontal).toString()},
+                                    {"visible", !hidden && header->isVisible()},
+                                    {"rect", globalRect(header->viewport(), rect)}});
     }
     return sections;
 }
 
-// One row of the view; rows are told depth first, each before its children.
+/// One row of the view; rows are told depth first, each before its children.
 class RowTeller
 {
 public:
@@ -73,23 +74,26 @@ private:
         for (int y = 0; y < m_view->viewport()->height(); y += step) {
             const QModelIndex index = m_view->indexAt(QPoint(m_view->viewport()->width() / 2, y));
             const QModelIndex first = index.isValid() ? index : m_view->indexAt(QPoint(1, y));
-            if (first.isValid())
+            if (first.isValid()) {
                 m_shown.insert(first.sibling(first.row(), 0));
+            }
         }
     }
 
     void pushChildren(const QModelIndex &parent, std::vector<QModelIndex> &left) const
     {
-        const QAbstractItemModel *const model = m_view->model();
-        for (int row = model->rowCount(parent) - 1; row >= 0; --row)
+        const QAbstractItemModel *model = m_view->model();
+        for (int row = model->rowCount(parent) - 1; row >= 0; --row) {
             left.push_back(model->index(row, 0, parent));
+        }
     }
 
     static int depth(QModelIndex index)
     {
         int result = 0;
-        while ((index = index.parent()).isValid())
+        while ((index = index.parent()).isValid()) {
             ++result;
+        }
         return result;
     }
 
@@ -104,13 +108,14 @@ private:
             const QRect rect = shown ? m_view->visualRect(cell) & m_view->viewport()->rect() : QRect();
             rects.append(rect.isEmpty() ? QJsonValue() : QJsonValue(globalRect(m_view->viewport(), rect)));
         }
-        QJsonObject row{{QStringLiteral("depth"), depth(index)},
-                        {QStringLiteral("texts"), texts},
-                        {QStringLiteral("expanded"), m_tree && m_tree->isExpanded(index)},
-                        {QStringLiteral("selected"), m_selection->isSelected(index)},
-                        {QStringLiteral("current"), isCurrentRow(index)}};
-        if (shown)
-            row[QStringLiteral("rects")] = rects;
+        QJsonObject row{{"depth", depth(index)},
+                        {"texts", texts},
+                        {"expanded", m_tree && m_tree->isExpanded(index)},
+                        {"selected", m_selection->isSelected(index)},
+                        {"current", isCurrentRow(index)}};
+        if (shown) {
+            row["rects"] = rects;
+        }
         return row;
     }
 
@@ -131,28 +136,30 @@ private:
 QJsonObject describeView(QAbstractItemView *view)
 {
     QJsonObject json = describeWidget(view);
-    if (const QHeaderView *const header = headerOf(view)) {
-        json[QStringLiteral("headers")] = describeSections(header);
-        json[QStringLiteral("sortSection")] = header->sortIndicatorSection();
-        json[QStringLiteral("sortDescending")] = header->sortIndicatorOrder() == Qt::DescendingOrder;
-        json[QStringLiteral("sortShown")] = header->isSortIndicatorShown();
+    if (const QHeaderView *header = headerOf(view)) {
+        json["headers"] = describeSections(header);
+        json["sortSection"] = header->sortIndicatorSection();
+        json["sortDescending"] = header->sortIndicatorOrder() == Qt::DescendingOrder;
+        json["sortShown"] = header->isSortIndicatorShown();
     }
-    json[QStringLiteral("viewport")] = globalRect(view->viewport(), view->viewport()->rect());
-    json[QStringLiteral("verticalScroll")] = view->verticalScrollBar()->value();
-    json[QStringLiteral("verticalScrollMaximum")] = view->verticalScrollBar()->maximum();
-    json[QStringLiteral("rows")] = view->model() ? RowTeller(view).rows() : QJsonArray();
+    json["viewport"] = globalRect(view->viewport(), view->viewport()->rect());
+    json["verticalScroll"] = view->verticalScrollBar()->value();
+    json["verticalScrollMaximum"] = view->verticalScrollBar()->maximum();
+    json["rows"] = view->model() ? RowTeller(view).rows() : QJsonArray();
     return json;
 }
 
 QJsonObject describeSelected(const QAbstractItemView *view)
 {
-    const QItemSelectionModel *const selection = view->selectionModel();
-    if (!selection || !selection->hasSelection())
+    const QItemSelectionModel *selection = view->selectionModel();
+    if (!selection || !selection->hasSelection()) {
         return {};
+    }
     QModelIndex index = selection->currentIndex();
-    while (const auto *proxy = qobject_cast<const QAbstractProxyModel *>(index.model()))
+    while (const auto *proxy = qobject_cast<const QAbstractProxyModel *>(index.model())) {
         index = proxy->mapToSource(index);
-    return index.isValid() ? QJsonObject{{QStringLiteral("id"), double(index.internalId())}} : QJsonObject();
+    }
+    return index.isValid() ? QJsonObject{{"id", double(index.internalId())}} : QJsonObject();
 }
 
 } // namespace probe
