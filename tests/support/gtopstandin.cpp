@@ -16,24 +16,15 @@
 #include <sstream>
 #include <stdexcept>
 #include <thread>
+#include <tuple>
 
 namespace standin {
 namespace {
 
-struct FileState
-{
-    ino_t inode = 0;
-    off_t size = -1;
-    timespec time = {};
+/// Inode, size, and time of the last change in seconds and nanoseconds.
+using FileState = std::tuple<ino_t, off_t, time_t, long>;
 
-    bool operator==(const FileState &other) const
-    {
-        return inode == other.inode && size == other.size && time.tv_sec == other.time.tv_sec &&
-               time.tv_nsec == other.time.tv_nsec;
-    }
-};
-
-/// libgtop's server record tells the index of the last CPU; the real one comes back with the real CPUs.
+/// Sets the index of the last CPU in libgtop's server record; without a value, restores the real one.
 void setLastCpu(std::optional<int> last)
 {
     static std::optional<int> real;
@@ -99,7 +90,7 @@ void readFileIfChanged()
     if (!path || stat(path, &status) != 0) {
         return;
     }
-    const FileState now{status.st_ino, status.st_size, status.st_mtim};
+    const FileState now{status.st_ino, status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
     if (now == last) {
         return;
     }
@@ -165,7 +156,7 @@ STANDIN_CALL glibtop_mountentry *glibtop_get_mountlist(glibtop_mountlist *buf, i
         return nullptr;
     }
     const std::vector<Mount> &mounts = *machine().mounts;
-    // One entry more than is told: an empty list is an array too, not null.
+    // One more entry than reported, so that an empty list is an array, not null.
     auto *entries =
         static_cast<glibtop_mountentry *>(g_malloc0_n(mounts.size() + 1, sizeof(glibtop_mountentry)));
     for (std::size_t i = 0; i < mounts.size(); ++i) {

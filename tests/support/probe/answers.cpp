@@ -18,54 +18,33 @@
 namespace probe {
 namespace {
 
-bool isA(const QWidget *widget, const QByteArray &className)
-{
-    for (const QMetaObject *meta = widget->metaObject(); meta; meta = meta->superClass()) {
-        if (className == meta->className()) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// All widgets, each after its parent and siblings in their order: QApplication's own list has no order.
-QWidgetList allWidgets()
-{
-    QWidgetList widgets;
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        widgets.append(window);
-        const QList<QWidget *> children = window->findChildren<QWidget *>();
-        for (QWidget *child : children) {
-            if (child->window() == window) {
-                widgets.append(child);
-            }
-        }
-    }
-    return widgets;
-}
-
-QWidgetList visibleWidgets(const QByteArray &className)
+/// All widgets that meet the condition, each after its parent and siblings in their order, which
+/// QApplication::allWidgets() does not keep.
+template <typename Condition>
+QWidgetList widgetsThat(Condition isMet)
 {
     QWidgetList found;
-    const QWidgetList widgets = allWidgets();
-    for (QWidget *widget : widgets) {
-        if (widget->isVisible() && isA(widget, className)) {
-            found.append(widget);
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        for (QWidget *each : QWidgetList{window} + window->findChildren<QWidget *>()) {
+            if (each->window() == window && isMet(each)) {
+                found.append(each);
+            }
         }
     }
     return found;
 }
 
+QWidgetList visibleWidgets(const QByteArray &className)
+{
+    return widgetsThat(
+        [&](const QWidget *each) { return each->isVisible() && each->inherits(className.constData()); });
+}
+
 QWidget *findWidget(const QString &name)
 {
-    const QWidgetList widgets = allWidgets();
-    for (QWidget *widget : widgets) {
-        if (!name.isEmpty() && widget->objectName() == name) {
-            return widget;
-        }
-    }
-    return visibleWidgets(name.toLatin1()).value(0);
+    const QWidgetList named =
+        widgetsThat([&](const QWidget *each) { return !name.isEmpty() && each->objectName() == name; });
+    return named.isEmpty() ? visibleWidgets(name.toLatin1()).value(0) : named.first();
 }
 
 QJsonObject error(const QString &text)
@@ -84,13 +63,8 @@ QJsonObject list(const QString &key, const QWidgetList &widgets, QJsonObject (*d
 
 QJsonObject windows(const QString &)
 {
-    QWidgetList visible;
-    const QWidgetList topLevels = QApplication::topLevelWidgets();
-    for (QWidget *window : topLevels) {
-        if (window->isVisible()) {
-            visible.append(window);
-        }
-    }
+    const QWidgetList visible =
+        widgetsThat([](const QWidget *each) { return each->isWindow() && each->isVisible(); });
     return list("windows", visible, describeWindow);
 }
 
@@ -107,13 +81,7 @@ QJsonObject widgetsOfClass(const QString &className)
 
 QJsonObject tree(const QString &)
 {
-    QWidgetList named;
-    const QWidgetList widgets = allWidgets();
-    for (QWidget *each : widgets) {
-        if (!each->objectName().isEmpty()) {
-            named.append(each);
-        }
-    }
+    const QWidgetList named = widgetsThat([](const QWidget *each) { return !each->objectName().isEmpty(); });
     return list("widgets", named, describeWidget);
 }
 
@@ -135,12 +103,11 @@ QJsonObject state(const QString &)
     const QWidget *modal = QApplication::activeModalWidget();
     const auto *tabs = qobject_cast<QTabWidget *>(visibleWidgets("QTabWidget").value(0));
     QJsonArray menus;
-    const QWidgetList open = visibleWidgets("QMenu");
-    for (const QWidget *each : open) {
+    for (const QWidget *each : visibleWidgets("QMenu")) {
         menus.append(qobject_cast<const QMenu *>(each)->title());
     }
     QJsonObject json{{"mark", InputMarks::latest()},
-                     {"popup", popup ? QString::fromLatin1(popup->metaObject()->className()) : QString()},
+                     {"popup", popup ? popup->metaObject()->className() : QString()},
                      {"menus", menus},
                      {"modal", modal != nullptr},
                      {"title", modal ? modal->windowTitle() : QString()}};
@@ -201,9 +168,8 @@ QJsonObject dialog(const QString &)
         return {};
     }
     QJsonObject json = describeWindow(modal);
-    const QList<QAbstractButton *> all = modal->findChildren<QAbstractButton *>();
     QJsonArray buttons;
-    for (const QAbstractButton *button : all) {
+    for (const QAbstractButton *button : modal->findChildren<QAbstractButton *>()) {
         if (button->isVisible()) {
             buttons.append(describeWidget(button));
         }
@@ -238,10 +204,10 @@ const Command commands[] = {{"windows", windows},   {"widget", widget},   {"widg
 
 QJsonObject answer(const QString &line)
 {
-    const QString name = line.section(QLatin1Char(' '), 0, 0);
-    const QString argument = line.section(QLatin1Char(' '), 1);
+    const QString name = line.section(' ', 0, 0);
+    const QString argument = line.section(' ', 1);
     for (const Command &command : commands) {
-        if (name == QLatin1String(command.name)) {
+        if (name == command.name) {
             return command.run(argument);
         }
     }

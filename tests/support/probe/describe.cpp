@@ -19,14 +19,10 @@
 namespace probe {
 namespace {
 
-/// Properties that are told when the widget has them.
-const char *const toldProperties[] = {"text",    "title",   "currentText",  "informativeText", "value",
-                                      "minimum", "maximum", "currentIndex", "checked",         "default"};
-
-QString name(const QObject *object)
-{
-    return object ? object->objectName() : QString();
-}
+/// The properties of a widget that are described if the widget has them.
+const char *const describedProperties[] = {
+    "enabled", "visible", "focus",           "toolTip",      "text",    "title",   "currentText",
+    "value",   "minimum", "informativeText", "currentIndex", "maximum", "checked", "default"};
 
 void addAccessible(const QWidget *widget, QJsonObject &json)
 {
@@ -62,18 +58,24 @@ QJsonArray comboItems(const QComboBox *combo)
     return items;
 }
 
-QJsonObject describeAction(const QAction *action, const QJsonArray &rect)
+/// The entries of a menu or menu bar.
+template <typename Menu>
+QJsonArray describeActions(const Menu *menu)
 {
-    return {{"text", action->text()},
-            {"shortcut", action->shortcut().toString()},
-            {"enabled", action->isEnabled()},
-            {"visible", action->isVisible()},
-            {"separator", action->isSeparator()},
-            {"checkable", action->isCheckable()},
-            {"checked", action->isChecked()},
-            {"icon", !action->icon().isNull()},
-            {"submenu", action->menu() != nullptr},
-            {"rect", rect}};
+    QJsonArray actions;
+    for (QAction *action : menu->actions()) {
+        actions.append(QJsonObject{{"text", action->text()},
+                                   {"shortcut", action->shortcut().toString()},
+                                   {"enabled", action->isEnabled()},
+                                   {"visible", action->isVisible()},
+                                   {"separator", action->isSeparator()},
+                                   {"checkable", action->isCheckable()},
+                                   {"checked", action->isChecked()},
+                                   {"icon", !action->icon().isNull()},
+                                   {"submenu", action->menu() != nullptr},
+                                   {"rect", globalRect(menu, menu->actionGeometry(action))}});
+    }
+    return actions;
 }
 
 } // namespace
@@ -90,18 +92,14 @@ QJsonArray globalRect(const QWidget *widget, const QRect &rect)
 
 QJsonObject describeWidget(const QWidget *widget)
 {
-    QJsonObject json{{"class", QString::fromLatin1(widget->metaObject()->className())},
+    QJsonObject json{{"class", widget->metaObject()->className()},
                      {"name", widget->objectName()},
-                     {"enabled", widget->isEnabled()},
-                     {"visible", widget->isVisible()},
-                     {"focus", widget->hasFocus()},
                      {"rect", globalRect(widget, widget->rect())},
-                     {"sizeHint", rectJson(QRect(QPoint(), widget->sizeHint()))},
-                     {"toolTip", widget->toolTip()}};
-    for (const char *property : toldProperties) {
+                     {"sizeHint", rectJson(QRect(QPoint(), widget->sizeHint()))}};
+    for (const char *property : describedProperties) {
         const QVariant value = widget->property(property);
         if (value.isValid()) {
-            json[QLatin1String(property)] = QJsonValue::fromVariant(value);
+            json[property] = QJsonValue::fromVariant(value);
         }
     }
     if (widget->hasHeightForWidth()) {
@@ -114,7 +112,7 @@ QJsonObject describeWidget(const QWidget *widget)
         json["items"] = comboItems(combo);
     }
     if (const auto *label = qobject_cast<const QLabel *>(widget)) {
-        json["buddy"] = name(label->buddy());
+        json["buddy"] = label->buddy() ? label->buddy()->objectName() : QString();
     }
     addAccessible(widget, json);
     return json;
@@ -138,22 +136,14 @@ QJsonObject describeWindow(const QWidget *window)
 QJsonObject describeMenu(const QMenu *menu)
 {
     QJsonObject json = describeWindow(menu);
-    QJsonArray actions;
-    for (QAction *action : menu->actions()) {
-        actions.append(describeAction(action, globalRect(menu, menu->actionGeometry(action))));
-    }
     json["title"] = menu->title();
-    json["actions"] = actions;
+    json["actions"] = describeActions(menu);
     return json;
 }
 
 QJsonArray describeMenuBar(const QMenuBar *bar)
 {
-    QJsonArray actions;
-    for (QAction *action : bar->actions()) {
-        actions.append(describeAction(action, globalRect(bar, bar->actionGeometry(action))));
-    }
-    return actions;
+    return describeActions(bar);
 }
 
 } // namespace probe

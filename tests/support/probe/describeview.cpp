@@ -27,12 +27,11 @@ QHeaderView *headerOf(QAbstractItemView *view)
 
 QJsonArray describeSections(const QHeaderView *header)
 {
-    const int top = 0;
     QJsonArray sections;
     for (int place = 0; place < header->count(); ++place) {
         const int section = header->logicalIndex(place);
         const bool hidden = header->isSectionHidden(section);
-        const QRect rect(header->sectionViewportPosition(section), top, header->sectionSize(section),
+        const QRect rect(header->sectionViewportPosition(section), 0, header->sectionSize(section),
                          header->height());
         sections.append(QJsonObject{{"section", section},
                                     {"text", header->model()->headerData(section, Qt::Horizontal).toString()},
@@ -42,12 +41,12 @@ QJsonArray describeSections(const QHeaderView *header)
     return sections;
 }
 
-/// One row of the view; rows are told depth first, each before its children.
-class RowTeller
+/// Describes the rows of a view, depth first, each before its children.
+class RowDescriber
 {
 public:
-    explicit RowTeller(QAbstractItemView *view)
-        : m_view(view), m_tree(qobject_cast<QTreeView *>(view)), m_selection(view->selectionModel())
+    explicit RowDescriber(QAbstractItemView *itemView)
+        : view(itemView), tree(qobject_cast<QTreeView *>(itemView)), selection(itemView->selectionModel())
     {
         collectShownRows();
     }
@@ -55,8 +54,8 @@ public:
     QJsonArray rows() const
     {
         QJsonArray result;
-        std::vector<QModelIndex> left; // a stack of its own: the tree may be deeper than ours
-        pushChildren(m_view->rootIndex(), left);
+        std::vector<QModelIndex> left; // instead of recursion: the tree can be deeper than the call stack
+        pushChildren(view->rootIndex(), left);
         while (!left.empty()) {
             const QModelIndex index = left.back();
             left.pop_back();
@@ -67,22 +66,22 @@ public:
     }
 
 private:
-    // Only for rows on the screen: finding the place of a row costs a walk through all rows.
+    /// Rectangles are looked up only for rows on the screen: each lookup walks through all rows.
     void collectShownRows()
     {
         const int step = 4;
-        for (int y = 0; y < m_view->viewport()->height(); y += step) {
-            const QModelIndex index = m_view->indexAt(QPoint(m_view->viewport()->width() / 2, y));
-            const QModelIndex first = index.isValid() ? index : m_view->indexAt(QPoint(1, y));
+        for (int y = 0; y < view->viewport()->height(); y += step) {
+            const QModelIndex index = view->indexAt(QPoint(view->viewport()->width() / 2, y));
+            const QModelIndex first = index.isValid() ? index : view->indexAt(QPoint(1, y));
             if (first.isValid()) {
-                m_shown.insert(first.sibling(first.row(), 0));
+                shownRows.insert(first.sibling(first.row(), 0));
             }
         }
     }
 
     void pushChildren(const QModelIndex &parent, std::vector<QModelIndex> &left) const
     {
-        const QAbstractItemModel *model = m_view->model();
+        const QAbstractItemModel *model = view->model();
         for (int row = model->rowCount(parent) - 1; row >= 0; --row) {
             left.push_back(model->index(row, 0, parent));
         }
@@ -99,19 +98,19 @@ private:
 
     QJsonObject rowJson(const QModelIndex &index) const
     {
-        const bool shown = m_shown.contains(index);
+        const bool shown = shownRows.contains(index);
         QJsonArray texts;
         QJsonArray rects;
-        for (int column = 0; column < m_view->model()->columnCount(index.parent()); ++column) {
+        for (int column = 0; column < view->model()->columnCount(index.parent()); ++column) {
             const QModelIndex cell = index.sibling(index.row(), column);
             texts.append(cell.data().toString());
-            const QRect rect = shown ? m_view->visualRect(cell) & m_view->viewport()->rect() : QRect();
-            rects.append(rect.isEmpty() ? QJsonValue() : QJsonValue(globalRect(m_view->viewport(), rect)));
+            const QRect rect = shown ? view->visualRect(cell) & view->viewport()->rect() : QRect();
+            rects.append(rect.isEmpty() ? QJsonValue() : QJsonValue(globalRect(view->viewport(), rect)));
         }
         QJsonObject row{{"depth", depth(index)},
                         {"texts", texts},
-                        {"expanded", m_tree && m_tree->isExpanded(index)},
-                        {"selected", m_selection->isSelected(index)},
+                        {"expanded", tree && tree->isExpanded(index)},
+                        {"selected", selection->isSelected(index)},
                         {"current", isCurrentRow(index)}};
         if (shown) {
             row["rects"] = rects;
@@ -121,14 +120,14 @@ private:
 
     bool isCurrentRow(const QModelIndex &index) const
     {
-        const QModelIndex current = m_selection->currentIndex();
+        const QModelIndex current = selection->currentIndex();
         return current.isValid() && current.sibling(current.row(), 0) == index;
     }
 
-    QAbstractItemView *m_view;
-    QTreeView *m_tree;
-    QItemSelectionModel *m_selection;
-    QSet<QModelIndex> m_shown;
+    QAbstractItemView *view;
+    QTreeView *tree;
+    QItemSelectionModel *selection;
+    QSet<QModelIndex> shownRows;
 };
 
 } // namespace
@@ -145,7 +144,7 @@ QJsonObject describeView(QAbstractItemView *view)
     json["viewport"] = globalRect(view->viewport(), view->viewport()->rect());
     json["verticalScroll"] = view->verticalScrollBar()->value();
     json["verticalScrollMaximum"] = view->verticalScrollBar()->maximum();
-    json["rows"] = view->model() ? RowTeller(view).rows() : QJsonArray();
+    json["rows"] = view->model() ? RowDescriber(view).rows() : QJsonArray();
     return json;
 }
 
