@@ -20,7 +20,7 @@ bool isStopped(int pid)
     return file.open(QIODevice::ReadOnly) && file.readAll().contains(") T ");
 }
 
-/// Numbers of every length, among them 0 and the largest.
+/// A number of any length, 0 and the maximum included.
 std::uint64_t anyNumber(QRandomGenerator &random)
 {
     return random.generate64() >> random.bounded(64);
@@ -56,15 +56,10 @@ standin::Mount mount(int number, QRandomGenerator &random)
 standin::Interface interface(int number, QRandomGenerator &random)
 {
     static const char *const names[] = {"eth", "lo", "wlan", "\xc3\xa9&", "a-name-that-takes-much-room-"};
-    standin::Interface made;
-    made.name = anyOf(names, random) + std::to_string(number);
-    made.address = random.generate();
-    made.mask = random.generate();
-    made.bytesIn = anyNumber(random);
-    made.bytesOut = anyNumber(random);
-    made.errors = anyNumber(random);
-    made.fails = oneIn(10, random);
-    return made;
+    const std::string name = anyOf(names, random) + std::to_string(number);
+    const std::uint32_t address = random.generate();
+    const std::uint32_t mask = random.generate();
+    return {name, address, mask, anyNumber(random), anyNumber(random), anyNumber(random), oneIn(10, random)};
 }
 
 } // namespace
@@ -75,9 +70,8 @@ Churn::~Churn()
     if (user < 0) {
         return;
     }
-    // What has been stopped would not end by itself.
-    const QStringList folders = QDir("/proc").entryList(QDir::Dirs);
-    for (const QString &folder : folders) {
+    // Stopped children of the samples would not exit by themselves.
+    for (const QString &folder : QDir("/proc").entryList(QDir::Dirs)) {
         const int pid = folder.toInt();
         if (pid > 0 && QFileInfo(procFolder(pid)).ownerId() == uint(user) && isStopped(pid)) {
             ::kill(pid, SIGKILL);
@@ -94,13 +88,6 @@ bool Churn::owns(int pid) const
 bool Churn::has(SampleProcess::What what) const
 {
     return std::any_of(samples.begin(), samples.end(), [=](const Sample &each) { return each.what == what; });
-}
-
-/// The program may have ended some.
-void Churn::forgetEnded()
-{
-    const auto ended = [](const Sample &each) { return each.process->pid() == 0; };
-    samples.erase(std::remove_if(samples.begin(), samples.end(), ended), samples.end());
 }
 
 void Churn::end(int pid)
@@ -127,15 +114,12 @@ QString Churn::startOne(QRandomGenerator &random)
 
 QString Churn::changeProcesses(QRandomGenerator &random)
 {
-    static const struct
-    {
-        int signal;
-        const char *name;
-    } signs[] = {{SIGUSR1, "renames"}, {SIGSTOP, "stops"}, {SIGCONT, "continues"}};
+    const std::pair<int, const char *> signs[] = {
+        {SIGUSR1, "renames"}, {SIGSTOP, "stops"}, {SIGCONT, "continues"}};
     const std::size_t fewest = 4;
     const std::size_t most = 12;
 
-    forgetEnded();
+    end(0); // forgets those that the program has killed
     const int what = random.bounded(6);
     if (samples.size() < fewest || (what < 2 && samples.size() < most)) {
         return startOne(random);
@@ -146,8 +130,9 @@ QString Churn::changeProcesses(QRandomGenerator &random)
         samples.erase(samples.begin() + long(which));
         return QString("ends %1").arg(pid);
     }
-    samples[which].process->sendSignal(signs[what - 3].signal);
-    return QString("%1 %2").arg(QLatin1String(signs[what - 3].name)).arg(pid);
+    const auto &[signal, name] = signs[what - 3];
+    samples[which].process->sendSignal(signal);
+    return QString("%1 %2").arg(name).arg(pid);
 }
 
 standin::Machine Churn::machine(QRandomGenerator &random)

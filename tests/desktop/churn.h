@@ -34,7 +34,6 @@ public:
 private:
     QString startOne(QRandomGenerator &random);
     bool has(SampleProcess::What what) const;
-    void forgetEnded();
 
     struct Sample
     {

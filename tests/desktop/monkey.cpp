@@ -2,7 +2,6 @@
 #include "tests/desktop/monkey.h"
 
 #include <QJsonArray>
-#include <QtTest>
 
 #include <numeric>
 
@@ -221,19 +220,4 @@ void Monkey::drag(const QPoint &from, const QPoint &to)
 {
     note(QString("from %1,%2 to %3,%4").arg(from.x()).arg(from.y()).arg(to.x()).arg(to.y()));
     session.drag(from, to);
-}
-
-void Monkey::changeProcesses()
-{
-    note(churn.changeProcesses(random));
-}
-
-void Monkey::changeMachine()
-{
-    session.setMachine(Churn::machine(random));
-}
-
-void Monkey::wait()
-{
-    QTest::qWait(random.bounded(500));
 }

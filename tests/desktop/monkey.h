@@ -7,6 +7,7 @@
 
 #include <QMap>
 #include <QRandomGenerator>
+#include <QTest>
 
 /// A user who does everything that the program allows, in random order, by real key and mouse events, while
 /// the look of the desktop and the machine change. Never quits the program, and confirms an action on a
@@ -49,7 +50,7 @@ private:
     QRect shownView();
     QRect listOnPage();
     QRect header();
-    QRect forbidden();
+    QRect forbidden() { return rectOf(session.menuEntry("File").value("rect")); }
 
     void clickAt(const QPoint &point, int button = 1);
     void clickIn(const QRect &rect, int button = 1);
@@ -61,9 +62,9 @@ private:
     void clickTab();
     void openMenu();
     void lookIntoFileMenu();
-    void openContextMenu();
+    void openContextMenu() { clickIn(listOnPage(), 3); }
     void clickRow();
-    void wheelInWindow();
+    void wheelInWindow() { turnWheel(shownView()); }
     void clickHeader();
     void dragHeader();
     void clickChooser();
@@ -75,17 +76,17 @@ private:
     void changeFont();
     void clickAnywhere();
     // What happens around the program.
-    void changeProcesses();
-    void changeMachine();
-    void wait();
+    void changeProcesses() { note(churn.changeProcesses(random)); }
+    void changeMachine() { session.setMachine(Churn::machine(random)); }
+    void wait() { QTest::qWait(random.bounded(500)); }
 
     // Actions in menus, lists and dialogs (monkey_open.cpp).
     QJsonObject anyEntry(bool aboutProcess = false);
     void clickOn(const QJsonObject &entry);
-    void clickEntry();
+    void clickEntry() { clickOn(anyEntry()); }
     void hoverEntry();
     void pressMenuKey();
-    void clickProcessEntry();
+    void clickProcessEntry() { clickOn(anyEntry(true)); }
     void clickBesideMenu();
     void clickItem();
     bool asksAboutProcess() const;

@@ -21,16 +21,6 @@ QJsonObject Monkey::anyEntry(bool aboutProcess)
     return entries.isEmpty() ? QJsonObject() : entries.at(random.bounded(entries.size()));
 }
 
-void Monkey::clickEntry()
-{
-    clickOn(anyEntry());
-}
-
-void Monkey::clickProcessEntry()
-{
-    clickOn(anyEntry(true));
-}
-
 void Monkey::clickOn(const QJsonObject &entry)
 {
     note(entry.value("text").toString());

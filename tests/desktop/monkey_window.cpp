@@ -3,7 +3,6 @@
 #include "tests/desktop/monkey.h"
 
 #include <QJsonArray>
-#include <QtTest>
 
 namespace {
 
@@ -11,7 +10,7 @@ const int margin = 4; ///< of the window, where a click could hit its frame
 
 } // namespace
 
-/// The part of the window that is on the screen. A click beside it would open the window manager's menus.
+/// The part of the window that is on the screen. A click outside of it would open the window manager's menus.
 QRect Monkey::shownView()
 {
     const QRect window = rectOf(state.value("window"));
@@ -47,20 +46,10 @@ void Monkey::lookIntoFileMenu()
     });
 }
 
-QRect Monkey::forbidden()
-{
-    return rectOf(session.menuEntry("File").value("rect"));
-}
-
 QRect Monkey::listOnPage()
 {
     const QRect tree = rectOfWidget("treeView");
     return (tree.isEmpty() ? rectOfWidget("tableFS") : tree) & shownView();
-}
-
-void Monkey::openContextMenu()
-{
-    clickIn(listOnPage(), 3);
 }
 
 void Monkey::clickRow()
@@ -71,11 +60,6 @@ void Monkey::clickRow()
     if (oneIn(6)) {
         session.x().click(1);
     }
-}
-
-void Monkey::wheelInWindow()
-{
-    turnWheel(shownView());
 }
 
 QRect Monkey::header()

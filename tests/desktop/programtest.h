@@ -29,6 +29,12 @@ protected:
         startProgram(options);
     }
 
+    bool clickMenus(const QStringList &way)
+    {
+        return std::all_of(way.begin(), way.end(),
+                           [&](const QString &menu) { return session->clickMenu(menu); });
+    }
+
     /// After a failed test function: prints why and saves a picture of the screen.
     void reportFailure()
     {
@@ -36,6 +42,12 @@ protected:
             qWarning("%s", qPrintable(session->error()));
             session->savePicture(QString("failed-") + QTest::currentTestFunction());
         }
+    }
+
+    void reportFailureAndCloseAll()
+    {
+        reportFailure();
+        QVERIFY(page->dismissAll());
     }
 
     void verifyQuitsCleanly()
@@ -70,9 +82,12 @@ protected:
         });
     }
 
-    void closeDialogByFrame()
+    /// False if there is no dialog.
+    bool closeDialogByFrame()
     {
-        session->x().closeWindow(static_cast<unsigned long>(session->dialog().value("id").toDouble()));
+        const auto id = static_cast<unsigned long>(session->dialog().value("id").toDouble());
+        session->x().closeWindow(id);
+        return id != 0;
     }
 
     bool isChecked(const char *menuEntry) { return session->menuEntry(menuEntry).value("checked").toBool(); }

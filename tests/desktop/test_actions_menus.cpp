@@ -9,7 +9,7 @@ class TestActionsMenus : public ProgramTest
 
 private Q_SLOTS:
     void initTestCase() { startWithProcessInterval(1); }
-    void cleanup();
+    void cleanup() { reportFailureAndCloseAll(); }
     void cleanupTestCase() { verifyQuitsCleanly(); }
     void menuBarHasItsEntries_data();
     void menuBarHasItsEntries();
@@ -27,12 +27,6 @@ private:
     bool waitForMenuTexts(const QStringList &texts);
     QString shortcut(const char *entry) { return session->menuEntry(entry).value("shortcut").toString(); }
 };
-
-void TestActionsMenus::cleanup()
-{
-    reportFailure();
-    QVERIFY(page->dismissAll());
-}
 
 bool TestActionsMenus::isTree()
 {
@@ -61,9 +55,7 @@ void TestActionsMenus::menuBarHasItsEntries()
 {
     QFETCH(QStringList, way);
     QFETCH(QStringList, entries);
-    for (const QString &menu : way) {
-        QVERIFY(session->clickMenu(menu));
-    }
+    QVERIFY(clickMenus(way));
     QVERIFY(waitForMenuTexts(entries));
     if (entries.contains("Exit")) {
         QCOMPARE(shortcut("Exit"), QString("Ctrl+Q"));
@@ -194,8 +186,7 @@ void TestActionsMenus::myAndAllProcessesAreExclusive()
 
 void TestActionsMenus::aboutBoxTellsVersionAndPurpose()
 {
-    QVERIFY(session->clickMenu("Help"));
-    QVERIFY(session->clickMenu("About"));
+    QVERIFY(clickMenus({"Help", "About"}));
     QVERIFY(session->waitFor([&] { return !session->dialog().isEmpty(); }));
     const QString text = session->dialog().value("text").toString();
     QVERIFY2(QRegularExpression("\\d+\\.\\d+").match(text).hasMatch(), qPrintable(text));

@@ -10,7 +10,7 @@ class TestActionsRefused : public ProgramTest
 
 private Q_SLOTS:
     void initTestCase();
-    void cleanup();
+    void cleanup() { reportFailureAndCloseAll(); }
     void cleanupTestCase();
     void signalToAProcessOfAnotherUserIsReported_data();
     void signalToAProcessOfAnotherUserIsReported();
@@ -43,12 +43,6 @@ void TestActionsRefused::initTestCase()
     // Sorted by user: ids without a name come first, in the part of the full list that does not move.
     options.settings = "[General]\nproc_sort_column=3\n[interval]\nprocs=1\n[column]\nNice=true\n";
     startProgram(options);
-}
-
-void TestActionsRefused::cleanup()
-{
-    reportFailure();
-    QVERIFY(page->dismissAll());
 }
 
 void TestActionsRefused::cleanupTestCase()

@@ -38,7 +38,7 @@ class TestActionsSignals : public ProgramTest
 
 private Q_SLOTS:
     void initTestCase() { startWithProcessInterval(1); }
-    void cleanup();
+    void cleanup() { reportFailureAndCloseAll(); }
     void cleanupTestCase() { verifyQuitsCleanly(); }
     void everyWayAsksAndSendsTheSignal_data();
     void everyWayAsksAndSendsTheSignal();
@@ -55,12 +55,6 @@ private:
     bool ask(Way way, const Command &command, int pid);
     bool confirm(Way way, const Command &command, int pid) { return ask(way, command, pid) && clickOk(); }
 };
-
-void TestActionsSignals::cleanup()
-{
-    reportFailure();
-    QVERIFY(page->dismissAll());
-}
 
 bool TestActionsSignals::trigger(Way way, const Command &command, int pid)
 {
@@ -140,16 +134,15 @@ void TestActionsSignals::onlyOkSendsASignal()
     QFETCH(Command, command);
     const SampleProcess process = sample("no");
     QVERIFY(isListed(process));
-    const auto press = [&](const char *key) { return [=] { session->key(key); }; };
-    const std::pair<const char *, std::function<void()>> refusals[] = {
-        {"Return", press("Return")},
-        {"Escape", press("Escape")},
-        {"space", press("space")},
-        {"Cancel", [&] { session->clickButton("Cancel"); }},
-        {"close button of the frame", [&] { closeDialogByFrame(); }}};
+    const std::pair<const char *, std::function<bool()>> refusals[] = {
+        {"Return", [&] { return session->key("Return"); }},
+        {"Escape", [&] { return session->key("Escape"); }},
+        {"space", [&] { return session->key("space"); }},
+        {"Cancel", [&] { return session->clickButton("Cancel"); }},
+        {"close button", [&] { return closeDialogByFrame(); }}};
     for (const auto &[name, refuse] : refusals) {
         QVERIFY2(ask(Shortcut, command, process.pid()), name);
-        refuse();
+        QVERIFY2(refuse(), name);
         QVERIFY2(page->waitForNoDialog(), name);
     }
     QVERIFY(process.sendSignal(SIGUSR1));

@@ -50,8 +50,7 @@ void TestDialogsInterval::cleanup()
 
 bool TestDialogsInterval::open(const QString &entry)
 {
-    return session->clickMenu("Edit") && session->clickMenu("Update interval") && session->clickMenu(entry) &&
-           page->waitForDialog("Interval changing");
+    return clickMenus({"Edit", "Update interval", entry}) && page->waitForDialog("Interval changing");
 }
 
 /// Texts of the dialog and of the window behind it.
@@ -104,7 +103,7 @@ void TestDialogsInterval::everyPageHasItsDialog_data()
     addRow("Network interval", "Network page", "100000");
 }
 
-/// A stored value outside of the slider's range is shown as it is; the slider stands at its end.
+/// A stored value outside of the slider's range is shown unchanged; the slider is at its end.
 void TestDialogsInterval::everyPageHasItsDialog()
 {
     QFETCH(QString, entry);
@@ -132,7 +131,7 @@ void TestDialogsInterval::okIsDisabledUntilTheSliderIsDragged()
     QVERIFY(labels().contains("4"));
 }
 
-/// Keys move the slider like the mouse, so the dialog can be used by keyboard alone.
+/// The slider is set down in advance, so the toolkit reports steps by key as moves too, which enables OK.
 void TestDialogsInterval::keyboardReachesTheSliderAndOk()
 {
     QVERIFY(open("Process interval"));

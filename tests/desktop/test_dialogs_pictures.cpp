@@ -194,9 +194,7 @@ void TestDialogsPictures::drawOtherDialogs(int pid)
         {"dialog-about", {"Help", "About"}}};
     for (const auto &[name, way] : dialogs) {
         QVERIFY(page->select(pid));
-        for (const QString &entry : way) {
-            QVERIFY2(session->clickMenu(entry), qPrintable(entry));
-        }
+        QVERIFY2(clickMenus(way), name);
         QVERIFY(session->waitFor([&] { return !session->dialog().isEmpty(); }));
         drawBox(name);
     }

@@ -95,12 +95,9 @@ struct Machine
 /// Number of calls since resetCalls(), whether answered by the stand-in or by libgtop.
 struct Calls
 {
-    unsigned cpu = 0;
     unsigned memory = 0;
     unsigned mountList = 0;
-    unsigned usage = 0;
     unsigned interfaceList = 0;
-    unsigned interfaceLoad = 0;
     unsigned processList = 0;
     unsigned processData = 0; ///< all calls about one process together
 };

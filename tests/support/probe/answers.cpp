@@ -79,12 +79,6 @@ QJsonObject widgetsOfClass(const QString &className)
     return list("widgets", visibleWidgets(className.toLatin1()), describeWidget);
 }
 
-QJsonObject tree(const QString &)
-{
-    const QWidgetList named = widgetsThat([](const QWidget *each) { return !each->objectName().isEmpty(); });
-    return list("widgets", named, describeWidget);
-}
-
 QJsonObject table(const QString &name)
 {
     auto *view = qobject_cast<QAbstractItemView *>(findWidget(name));
@@ -177,15 +171,8 @@ QJsonObject dialog(const QString &)
     json["buttons"] = buttons;
     if (const auto *box = qobject_cast<QMessageBox *>(modal)) {
         json["icon"] = int(box->icon());
-        json["escapeButton"] = box->escapeButton() ? box->escapeButton()->text() : QString();
     }
     return json;
-}
-
-QJsonObject focus(const QString &)
-{
-    const QWidget *focused = QApplication::focusWidget();
-    return focused ? describeWidget(focused) : QJsonObject();
 }
 
 struct Command
@@ -194,11 +181,10 @@ struct Command
     QJsonObject (*run)(const QString &argument);
 };
 
-const Command commands[] = {{"windows", windows},   {"widget", widget},   {"widgets", widgetsOfClass},
-                            {"tree", tree},         {"table", table},     {"menu", menu},
-                            {"selected", selected}, {"state", state},     {"dialog", dialog},
-                            {"focus", focus},       {"palette", palette}, {"font", font},
-                            {"hoard", hoard}};
+const Command commands[] = {{"windows", windows}, {"widget", widget}, {"widgets", widgetsOfClass},
+                            {"table", table},     {"menu", menu},     {"selected", selected},
+                            {"state", state},     {"dialog", dialog}, {"palette", palette},
+                            {"font", font},       {"hoard", hoard}};
 
 } // namespace
 

@@ -11,13 +11,11 @@ namespace probe {
 ///   windows        all visible top-level windows, including popups
 ///   widget NAME    the widget of that object name or, if there is none, the first visible one of that class
 ///   widgets CLASS  all visible widgets of that class or a subclass
-///   tree           all named widgets
 ///   table NAME     an item view, found like `widget`, with headers and rows
 ///   menu           the entries of the menu bar, and the open menus, the innermost last
 ///   selected NAME  {"id": the internal id of the selected row of an item view in its model}; {} if none
 ///   state          a summary: what is open, the current page and the latest mark (inputmarks.h)
 ///   dialog         the active modal dialog with its buttons; {} if there is none
-///   focus          the widget that has the focus; {} if there is none
 /// These two act like the settings of a desktop:
 ///   palette COLOR  derives the program's palette from that button color, "#rrggbb"
 ///   font SIZE      sets the size of the program's font, in points

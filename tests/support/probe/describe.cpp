@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -20,9 +19,9 @@ namespace probe {
 namespace {
 
 /// The properties of a widget that are described if the widget has them.
-const char *const describedProperties[] = {
-    "enabled", "visible", "focus",           "toolTip",      "text",    "title",   "currentText",
-    "value",   "minimum", "informativeText", "currentIndex", "maximum", "checked", "default"};
+const char *const describedProperties[] = {"enabled",      "visible",     "focus",   "text",
+                                           "title",        "currentText", "value",   "minimum",
+                                           "currentIndex", "maximum",     "checked", "default"};
 
 void addAccessible(const QWidget *widget, QJsonObject &json)
 {
@@ -72,7 +71,6 @@ QJsonArray describeActions(const Menu *menu)
                                    {"checkable", action->isCheckable()},
                                    {"checked", action->isChecked()},
                                    {"icon", !action->icon().isNull()},
-                                   {"submenu", action->menu() != nullptr},
                                    {"rect", globalRect(menu, menu->actionGeometry(action))}});
     }
     return actions;
@@ -110,9 +108,6 @@ QJsonObject describeWidget(const QWidget *widget)
     }
     if (const auto *combo = qobject_cast<const QComboBox *>(widget)) {
         json["items"] = comboItems(combo);
-    }
-    if (const auto *label = qobject_cast<const QLabel *>(widget)) {
-        json["buddy"] = label->buddy() ? label->buddy()->objectName() : QString();
     }
     addAccessible(widget, json);
     return json;

@@ -5,7 +5,6 @@
 #include <QAbstractProxyModel>
 #include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QScrollBar>
 #include <QTableView>
 #include <QTreeView>
 
@@ -30,12 +29,11 @@ QJsonArray describeSections(const QHeaderView *header)
     QJsonArray sections;
     for (int place = 0; place < header->count(); ++place) {
         const int section = header->logicalIndex(place);
-        const bool hidden = header->isSectionHidden(section);
         const QRect rect(header->sectionViewportPosition(section), 0, header->sectionSize(section),
                          header->height());
         sections.append(QJsonObject{{"section", section},
                                     {"text", header->model()->headerData(section, Qt::Horizontal).toString()},
-                                    {"visible", !hidden && header->isVisible()},
+                                    {"visible", header->isVisible() && !header->isSectionHidden(section)},
                                     {"rect", globalRect(header->viewport(), rect)}});
     }
     return sections;
@@ -139,11 +137,8 @@ QJsonObject describeView(QAbstractItemView *view)
         json["headers"] = describeSections(header);
         json["sortSection"] = header->sortIndicatorSection();
         json["sortDescending"] = header->sortIndicatorOrder() == Qt::DescendingOrder;
-        json["sortShown"] = header->isSortIndicatorShown();
     }
     json["viewport"] = globalRect(view->viewport(), view->viewport()->rect());
-    json["verticalScroll"] = view->verticalScrollBar()->value();
-    json["verticalScrollMaximum"] = view->verticalScrollBar()->maximum();
     json["rows"] = view->model() ? RowDescriber(view).rows() : QJsonArray();
     return json;
 }
