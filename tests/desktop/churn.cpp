@@ -11,16 +11,16 @@ namespace {
 
 QString procFolder(int pid)
 {
-    return QStringLiteral("/proc/%1").arg(pid);
+    return QString("/proc/%1").arg(pid);
 }
 
 bool isStopped(int pid)
 {
-    QFile file(procFolder(pid) + QStringLiteral("/stat"));
+    QFile file(procFolder(pid) + "/stat");
     return file.open(QIODevice::ReadOnly) && file.readAll().contains(") T ");
 }
 
-// Numbers of every length, among them 0 and the largest.
+/// A number of any length, 0 and the maximum included.
 std::uint64_t anyNumber(QRandomGenerator &random)
 {
     return random.generate64() >> random.bounded(64);
@@ -56,95 +56,83 @@ standin::Mount mount(int number, QRandomGenerator &random)
 standin::Interface interface(int number, QRandomGenerator &random)
 {
     static const char *const names[] = {"eth", "lo", "wlan", "\xc3\xa9&", "a-name-that-takes-much-room-"};
-    standin::Interface made;
-    made.name = anyOf(names, random) + std::to_string(number);
-    made.address = random.generate();
-    made.mask = random.generate();
-    made.bytesIn = anyNumber(random);
-    made.bytesOut = anyNumber(random);
-    made.errors = anyNumber(random);
-    made.fails = oneIn(10, random);
-    return made;
+    const std::string name = anyOf(names, random) + std::to_string(number);
+    const std::uint32_t address = random.generate();
+    const std::uint32_t mask = random.generate();
+    return {name, address, mask, anyNumber(random), anyNumber(random), anyNumber(random), oneIn(10, random)};
 }
 
 } // namespace
 
 Churn::~Churn()
 {
-    m_samples.clear();
-    if (m_user < 0)
+    samples.clear();
+    if (user < 0) {
         return;
-    // What has been stopped would not end by itself.
-    const QStringList folders = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
-    for (const QString &folder : folders) {
+    }
+    // Stopped children of the samples would not exit by themselves.
+    for (const QString &folder : QDir("/proc").entryList(QDir::Dirs)) {
         const int pid = folder.toInt();
-        if (pid > 0 && QFileInfo(procFolder(pid)).ownerId() == uint(m_user) && isStopped(pid))
+        if (pid > 0 && QFileInfo(procFolder(pid)).ownerId() == uint(user) && isStopped(pid)) {
             ::kill(pid, SIGKILL);
+        }
     }
 }
 
 bool Churn::owns(int pid) const
 {
-    return m_user >= 0 && pid > 0 &&
-           (m_started.contains(pid) || QFileInfo(procFolder(pid)).ownerId() == uint(m_user));
+    return user >= 0 && pid > 0 &&
+           (started.contains(pid) || QFileInfo(procFolder(pid)).ownerId() == uint(user));
 }
 
 bool Churn::has(SampleProcess::What what) const
 {
-    return std::any_of(m_samples.begin(), m_samples.end(),
-                       [=](const Sample &each) { return each.what == what; });
-}
-
-// The program may have ended some.
-void Churn::forgetEnded()
-{
-    const auto ended = [](const Sample &each) { return each.process->pid() == 0; };
-    m_samples.erase(std::remove_if(m_samples.begin(), m_samples.end(), ended), m_samples.end());
+    return std::any_of(samples.begin(), samples.end(), [=](const Sample &each) { return each.what == what; });
 }
 
 void Churn::end(int pid)
 {
     const auto isIt = [=](const Sample &each) { return each.process->pid() == pid; };
-    m_samples.erase(std::remove_if(m_samples.begin(), m_samples.end(), isIt), m_samples.end());
+    samples.erase(std::remove_if(samples.begin(), samples.end(), isIt), samples.end());
 }
 
 QString Churn::startOne(QRandomGenerator &random)
 {
     SampleProcess::What what = SampleProcess::Sleeping;
-    if (oneIn(3, random) && !has(SampleProcess::Parent))
+    if (oneIn(3, random) && !has(SampleProcess::Parent)) {
         what = SampleProcess::Parent;
-    else if (oneIn(3, random) && !has(SampleProcess::Heir))
+    } else if (oneIn(3, random) && !has(SampleProcess::Heir)) {
         what = SampleProcess::Heir;
+    }
     auto process = std::make_unique<SampleProcess>(
-        QStringLiteral("m%1").arg(random.bounded(1000), 3, 10, QLatin1Char('0')), what, m_user);
+        QString("m%1").arg(random.bounded(1000), 3, 10, QLatin1Char('0')), what, user);
     const int pid = process->pid();
-    m_started.insert(pid);
-    m_samples.push_back({what, std::move(process)});
-    return QStringLiteral("starts %1").arg(pid);
+    started.insert(pid);
+    samples.push_back({what, std::move(process)});
+    return QString("starts %1").arg(pid);
 }
 
 QString Churn::changeProcesses(QRandomGenerator &random)
 {
-    static const struct
-    {
-        int signal;
-        const char *name;
-    } signs[] = {{SIGUSR1, "renames"}, {SIGSTOP, "stops"}, {SIGCONT, "continues"}};
+    const std::pair<int, const char *> signs[] = {
+        {SIGUSR1, "renames"}, {SIGSTOP, "stops"}, {SIGCONT, "continues"}};
     const std::size_t fewest = 4;
     const std::size_t most = 12;
 
-    forgetEnded();
+    end(0); // forgets those that the program has killed
     const int what = random.bounded(6);
-    if (m_samples.size() < fewest || (what < 2 && m_samples.size() < most))
+    if (samples.size() < fewest || (what < 2 && samples.size() < most)) {
         return startOne(random);
-    const std::size_t which = random.generate() % m_samples.size();
-    const int pid = m_samples[which].process->pid();
-    if (what < 3) {
-        m_samples.erase(m_samples.begin() + long(which));
-        return QStringLiteral("ends %1").arg(pid);
     }
-    m_samples[which].process->sendSignal(signs[what - 3].signal);
-    return QStringLiteral("%1 %2").arg(QLatin1String(signs[what - 3].name)).arg(pid);
+    const std::size_t which = random.generate() % samples.size();
+    const int pid = samples[which].process->pid();
+    if (what < 3) {
+        samples.erase(samples.begin() + long(which));
+        return QString("ends %1").arg(pid);
+    }
+    const auto &[signal, name] = signs[what - 3];
+    samples[which].process->sendSignal(signal);
+    return QString("%1 %2").arg(name).arg(pid);
 }
 
 standin::Machine Churn::machine(QRandomGenerator &random)
@@ -159,12 +147,14 @@ standin::Machine Churn::machine(QRandomGenerator &random)
     const std::uint64_t memory = anyNumber(random);
     made.memory = standin::Memory{memory, memory / 4, memory / 8, memory / 2};
     made.mounts.emplace();
-    for (int number = random.bounded(25); number > 0; --number)
+    for (int number = random.bounded(25); number > 0; --number) {
         made.mounts->push_back(mount(number, random));
+    }
     made.mountListFails = oneIn(20, random);
     made.interfaces.emplace();
-    for (int number = random.bounded(12); number > 0; --number)
+    for (int number = random.bounded(12); number > 0; --number) {
         made.interfaces->push_back(interface(number, random));
+    }
     made.interfaceListFails = oneIn(20, random);
     return made;
 }

@@ -11,30 +11,29 @@
 #include <memory>
 #include <vector>
 
-/// What happens around the program while a user works with it: processes of the test come, go, stop, take
-/// other names and other parents, and a made-up machine has other mounts, interfaces and figures each time.
+/// Changes the machine while a user works with the program: processes of the test start, exit, stop, rename
+/// themselves and are reparented, and each made-up machine has other mounts, interfaces and figures.
 class Churn
 {
 public:
-    /// The processes belong to that user; -1: to the user of the test.
-    explicit Churn(int user) : m_user(user) {}
+    /// The user who owns the processes; -1: the user of the test.
+    explicit Churn(int userId) : user(userId) {}
     ~Churn();
     Churn(const Churn &) = delete;
     Churn &operator=(const Churn &) = delete;
 
-    /// Does one thing to the processes; tells what.
+    /// Does one thing to the processes; returns its description.
     QString changeProcesses(QRandomGenerator &random);
-    /// Ends that one, if it is a child of the test.
+    /// Kills the process if it is a child of the test.
     void end(int pid);
-    /// Whether the process is or was one of the test's, and of no user but its own.
+    /// Whether the process is or was one of the test's; false if the test has no user of its own.
     bool owns(int pid) const;
-    /// A machine of four CPUs with processes of the real one.
+    /// A random machine of four CPUs, with the processes of the real one.
     static standin::Machine machine(QRandomGenerator &random);
 
 private:
     QString startOne(QRandomGenerator &random);
     bool has(SampleProcess::What what) const;
-    void forgetEnded();
 
     struct Sample
     {
@@ -42,9 +41,9 @@ private:
         std::unique_ptr<SampleProcess> process;
     };
 
-    int m_user;
-    std::vector<Sample> m_samples;
-    QSet<int> m_started;
+    int user;
+    std::vector<Sample> samples;
+    QSet<int> started;
 };
 
 #endif

@@ -7,32 +7,30 @@
 
 #include <QMap>
 #include <QRandomGenerator>
+#include <QTest>
 
-/// A user who does everything that the program lets one do, in no order: by real key and mouse events, with
-/// the look of the desktop and the machine around changing under the program. Never ends the program, and
-/// confirms an action on a process only if it is one of the test's.
+/// A user who does everything that the program allows, in random order, by real key and mouse events, while
+/// the look of the desktop and the machine change. Never quits the program, and confirms an action on a
+/// process only if the process is one of the test's.
 ///
-/// What it does next depends on the seed, the number of the action and what the program shows.
+/// The next action depends on the seed, the number of the action and what the program shows.
 class Monkey
 {
 public:
-    Monkey(DesktopSession &session, Churn &churn, quint32 seed);
+    Monkey(DesktopSession &desktop, Churn &processChurn, quint32 seedOfRun);
 
-    /// Does one thing and waits for the program to have taken it. False if the program doesn't answer.
+    /// Does one thing and waits until the program has processed it. False if the program doesn't answer.
     bool act();
     /// Closes what is open; false if that fails.
     bool comeToRest();
 
-    QMap<QString, int> counts() const { return m_counts; }   ///< of actions by their kind, done or not
-    QMap<QString, int> dialogs() const { return m_dialogs; } ///< how often each was opened, by title
-    QStringList lastActions() const { return m_last; }       ///< the latest last
-
-    /// Notes something beside the last action.
-    void note(const QString &text);
+    QMap<QString, int> counts() const { return kindCounts; }    ///< actions by their kind, effective or not
+    QMap<QString, int> dialogs() const { return dialogCounts; } ///< how often each was opened, by title
+    QStringList lastActions() const { return log; }             ///< oldest first
 
 private:
     /// Where input goes to.
-    enum Place { Window = 1, Menu = 2, List = 4, Dialog = 8 };
+    enum Place { Window = 1, Menu = 2, List = 4, Dialog = 8, AnyPlace = 15 };
     /// Pages of the window, as bits.
     enum Pages { System = 1, Processes = 2, FileSystems = 4, Network = 8, AnyPage = 15 };
     struct Kind;
@@ -41,20 +39,18 @@ private:
     bool look();
     void lookAtDialog();
     Place place() const;
-    QString title() const { return m_state.value(QLatin1String("title")).toString(); }
+    QString title() const { return state.value("title").toString(); }
+    unsigned long windowId() const { return static_cast<unsigned long>(state.value("id").toDouble()); }
     const Kind &choose();
-    template <std::size_t count>
-    QString anyOf(const char *const (&texts)[count])
-    {
-        return QLatin1String(texts[m_random.bounded(int(count))]);
-    }
-    bool oneIn(int chances) { return m_random.bounded(chances) == 0; }
+    void note(const QString &text);
+    QString anyOf(const char *words);
+    bool oneIn(int chances) { return random.bounded(chances) == 0; }
     QPoint pointIn(const QRect &rect);
     QRect rectOfWidget(const QString &name);
     QRect shownView();
     QRect listOnPage();
     QRect header();
-    QRect forbidden();
+    QRect forbidden() { return rectOf(session.menuEntry("File").value("rect")); }
 
     void clickAt(const QPoint &point, int button = 1);
     void clickIn(const QRect &rect, int button = 1);
@@ -62,22 +58,16 @@ private:
     void turnWheel(const QRect &rect);
     void drag(const QPoint &from, const QPoint &to);
 
-    // monkey_window.cpp
+    // Actions in the window (monkey_window.cpp).
     void clickTab();
-    void pressTabKey();
     void openMenu();
-    void openMenuByKey();
     void lookIntoFileMenu();
-    void pressShortcut();
-    void openContextMenu();
-    void openContextMenuByKey();
+    void openContextMenu() { clickIn(listOnPage(), 3); }
     void clickRow();
-    void pressRowKey();
-    void wheelInList();
+    void wheelInWindow() { turnWheel(shownView()); }
     void clickHeader();
     void dragHeader();
     void clickChooser();
-    void pressChooserKey();
     void dragSplitter();
     void resizeWindow();
     void maximise();
@@ -85,22 +75,20 @@ private:
     void changePalette();
     void changeFont();
     void clickAnywhere();
-    void pressAnyKey();
     // What happens around the program.
-    void changeProcesses();
-    void changeMachine();
-    void wait();
+    void changeProcesses() { note(churn.changeProcesses(random)); }
+    void changeMachine() { session.setMachine(Churn::machine(random)); }
+    void wait() { QTest::qWait(random.bounded(500)); }
 
-    // monkey_open.cpp
-    QJsonObject anyEntry(bool (*isMeant)(const QString &text));
+    // Actions in menus, lists and dialogs (monkey_open.cpp).
+    QJsonObject anyEntry(bool aboutProcess = false);
     void clickOn(const QJsonObject &entry);
-    void clickEntry();
+    void clickEntry() { clickOn(anyEntry()); }
     void hoverEntry();
     void pressMenuKey();
-    void clickProcessEntry();
+    void clickProcessEntry() { clickOn(anyEntry(true)); }
     void clickBesideMenu();
     void clickItem();
-    void pressItemKey();
     bool asksAboutProcess() const;
     bool mayConfirm();
     void endProcessAskedAbout();
@@ -110,17 +98,17 @@ private:
     void clickInDialog();
     void closeDialog();
 
-    DesktopSession &m_session;
-    Churn &m_churn;
-    const quint32 m_seed;
-    quint32 m_number = 0;
-    QRandomGenerator m_random;
-    QJsonObject m_state;
-    int m_askedAbout = -1;      ///< the process that the open box is about
-    bool m_isOfTheTest = false; ///< that process
-    QMap<QString, int> m_counts;
-    QMap<QString, int> m_dialogs;
-    QStringList m_last;
+    DesktopSession &session;
+    Churn &churn;
+    const quint32 seed;
+    quint32 number = 0;
+    QRandomGenerator random;
+    QJsonObject state;
+    int askedAbout = -1;      ///< pid that the open box is about
+    bool isOfTheTest = false; ///< that process
+    QMap<QString, int> kindCounts;
+    QMap<QString, int> dialogCounts;
+    QStringList log;
 };
 
 #endif

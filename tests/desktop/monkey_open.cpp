@@ -4,167 +4,146 @@
 
 #include <QJsonArray>
 
-namespace {
-
-bool isAnyEntry(const QString &)
-{
-    return true;
-}
-
-bool isAboutProcess(const QString &entry)
-{
-    return entry.endsWith(QLatin1String(" process")) || entry.contains(QLatin1String("priority"));
-}
-
-} // namespace
-
-// Of the open menus, but not "Exit".
-QJsonObject Monkey::anyEntry(bool (*isMeant)(const QString &text))
+/// A random visible entry of the open menus, but never "Exit".
+QJsonObject Monkey::anyEntry(bool aboutProcess)
 {
     QVector<QJsonObject> entries;
-    const QJsonArray menus = m_session.probe(QStringLiteral("menu")).value(QLatin1String("menus")).toArray();
-    for (const QJsonValue &menu : menus) {
-        const QJsonArray actions = menu[QLatin1String("actions")].toArray();
-        for (const QJsonValue &action : actions) {
-            if (action[QLatin1String("visible")].toBool() && !action[QLatin1String("separator")].toBool() &&
-                action[QLatin1String("shortcut")].toString() != QLatin1String("Ctrl+Q") &&
-                isMeant(action[QLatin1String("text")].toString()))
+    for (const QJsonValue &menu : session.probe("menu").value("menus").toArray()) {
+        for (const QJsonValue &action : menu["actions"].toArray()) {
+            const QString text = action["text"].toString();
+            if (action["visible"].toBool() && !action["separator"].toBool() &&
+                action["shortcut"].toString() != "Ctrl+Q" &&
+                (!aboutProcess || text.endsWith(" process") || text.contains("priority"))) {
                 entries.append(action.toObject());
+            }
         }
     }
-    return entries.isEmpty() ? QJsonObject() : entries.at(m_random.bounded(entries.size()));
-}
-
-void Monkey::clickEntry()
-{
-    clickOn(anyEntry(isAnyEntry));
-}
-
-void Monkey::clickProcessEntry()
-{
-    clickOn(anyEntry(isAboutProcess));
+    return entries.isEmpty() ? QJsonObject() : entries.at(random.bounded(entries.size()));
 }
 
 void Monkey::clickOn(const QJsonObject &entry)
 {
-    note(entry.value(QLatin1String("text")).toString());
-    clickIn(rectOf(entry.value(QLatin1String("rect"))));
+    note(entry.value("text").toString());
+    clickIn(rectOf(entry.value("rect")));
 }
 
 void Monkey::hoverEntry()
 {
-    const QJsonObject entry = anyEntry(isAnyEntry);
-    note(entry.value(QLatin1String("text")).toString());
-    if (!entry.isEmpty())
-        m_session.x().moveTo(pointIn(rectOf(entry.value(QLatin1String("rect")))));
+    const QJsonObject entry = anyEntry();
+    note(entry.value("text").toString());
+    if (!entry.isEmpty()) {
+        session.x().moveTo(pointIn(rectOf(entry.value("rect"))));
+    }
 }
 
-// Left and Right lead into the "File" menu, where the entry "Exit" is the first.
+/// Left and Right can lead into the "File" menu, whose first entry is "Exit".
 void Monkey::pressMenuKey()
 {
-    static const char *const keys[] = {"Up",   "Down", "Down",   "Down",   "Left",   "Right",
-                                       "Home", "End",  "Return", "Return", "Escape", "space"};
-    const QJsonArray menus = m_state.value(QLatin1String("menus")).toArray();
-    press(menus.contains(QStringLiteral("&File")) ? QStringLiteral("Escape") : anyOf(keys));
+    const bool isInFileMenu = state.value("menus").toArray().contains("&File");
+    press(isInFileMenu ? "Escape"
+                       : anyOf("Up Down Down Down Left Right Home End Return Return Escape space"));
 }
 
 void Monkey::clickBesideMenu()
 {
     const QPoint point = pointIn(shownView());
-    const QJsonArray menus = m_state.value(QLatin1String("menus")).toArray();
-    if (!menus.contains(QStringLiteral("&File")) && !forbidden().contains(point))
+    if (!state.value("menus").toArray().contains("&File") && !forbidden().contains(point)) {
         clickAt(point, oneIn(4) ? 3 : 1);
+    }
 }
 
 void Monkey::clickItem()
 {
-    const QJsonArray windows =
-        m_session.probe(QStringLiteral("windows")).value(QLatin1String("windows")).toArray();
-    for (const QJsonValue &window : windows) {
-        if (window[QLatin1String("class")] != m_state.value(QLatin1String("popup")))
+    for (const QJsonValue &window : session.probe("windows").value("windows").toArray()) {
+        if (window["class"] != state.value("popup")) {
             continue;
-        const QRect rect = rectOf(window[QLatin1String("rect")]);
-        if (oneIn(3))
+        }
+        const QRect rect = rectOf(window["rect"]);
+        if (oneIn(3)) {
             turnWheel(rect);
-        else
+        } else {
             clickIn(rect);
+        }
     }
 }
 
-void Monkey::pressItemKey()
-{
-    static const char *const keys[] = {"Up",  "Down",   "Home",   "End",    "Page_Up", "Page_Down",
-                                       "End", "Return", "Return", "Escape", "Tab",     "e"};
-    press(anyOf(keys));
-}
-
-// A box whose OK acts on a process.
+/// Whether OK in the open box acts on a process.
 bool Monkey::asksAboutProcess() const
 {
-    return title().startsWith(QLatin1String("Process ")) || title() == QLatin1String("Change priority");
+    return title().startsWith("Process ") || title() == "Change priority";
 }
 
 bool Monkey::mayConfirm()
 {
-    if (!asksAboutProcess())
+    if (!asksAboutProcess()) {
         return true;
-    note(QStringLiteral("about %1").arg(m_askedAbout));
-    return m_isOfTheTest;
+    }
+    note(QString("about %1").arg(askedAbout));
+    return isOfTheTest;
 }
 
 void Monkey::endProcessAskedAbout()
 {
-    if (asksAboutProcess())
-        m_churn.end(m_askedAbout);
+    if (asksAboutProcess()) {
+        churn.end(askedAbout);
+    }
 }
 
 void Monkey::clickButton()
 {
-    const QJsonArray buttons = m_session.dialog().value(QLatin1String("buttons")).toArray();
-    if (buttons.isEmpty())
+    const QJsonArray buttons = session.dialog().value("buttons").toArray();
+    if (buttons.isEmpty()) {
         return;
-    const QJsonValue button = buttons.at(m_random.bounded(buttons.size()));
-    const QString text = button[QLatin1String("text")].toString();
+    }
+    const QJsonValue button = buttons.at(random.bounded(buttons.size()));
+    const QString text = button["text"].toString();
     note(text);
-    if (!text.contains(QLatin1String("Cancel")) && !mayConfirm())
-        return;
-    if (asksAboutProcess() && !text.contains(QLatin1String("Cancel")))
-        ++m_dialogs[title() + QStringLiteral(", OK clicked")];
-    clickIn(rectOf(button[QLatin1String("rect")]));
+    if (!text.contains("Cancel")) {
+        if (!mayConfirm()) {
+            return;
+        }
+        if (asksAboutProcess()) {
+            ++dialogCounts[title() + ", OK clicked"];
+        }
+    }
+    clickIn(rectOf(button["rect"]));
 }
 
 void Monkey::pressDialogKey()
 {
-    static const char *const keys[] = {"Return", "space", "Tab",  "Tab",     "shift+Tab", "Left", "Right",
-                                       "Home",   "End",   "Down", "Page_Up", "Escape",    "F1",   "alt+o"};
-    const QString keysToPress = anyOf(keys);
-    press(mayConfirm() ? keysToPress : QStringLiteral("Escape"));
+    const QString keys =
+        anyOf("Return space Tab Tab shift+Tab Left Right Home End Down Page_Up Escape F1 alt+o");
+    press(mayConfirm() ? keys : "Escape");
 }
 
 void Monkey::moveSlider()
 {
-    const QRect slider = rectOfWidget(QStringLiteral("QSlider"));
-    if (slider.isEmpty())
+    const QRect slider = rectOfWidget("QSlider");
+    if (slider.isEmpty()) {
         return;
-    if (oneIn(3))
+    }
+    if (oneIn(3)) {
         turnWheel(slider);
-    else if (oneIn(2))
+    } else if (oneIn(2)) {
         clickIn(slider);
-    else
+    } else {
         drag(pointIn(slider), pointIn(slider));
+    }
 }
 
-// Not in the box about the toolkit, which leads to pages of the web.
+/// Not in the box about the toolkit, whose links open a browser.
 void Monkey::clickInDialog()
 {
-    const QJsonObject dialog = m_session.dialog();
-    if (dialog.value(QLatin1String("title")) != QLatin1String("About Qt") && mayConfirm())
-        clickIn(rectOf(dialog.value(QLatin1String("rect"))), oneIn(3) ? 3 : 1);
+    const QJsonObject dialog = session.dialog();
+    if (dialog.value("title") != "About Qt" && mayConfirm()) {
+        clickIn(rectOf(dialog.value("rect")), oneIn(3) ? 3 : 1);
+    }
 }
 
 void Monkey::closeDialog()
 {
-    const QJsonObject dialog = m_session.dialog();
-    if (!dialog.isEmpty())
-        m_session.x().closeWindow(static_cast<unsigned long>(dialog.value(QLatin1String("id")).toDouble()));
+    const QJsonObject dialog = session.dialog();
+    if (!dialog.isEmpty()) {
+        session.x().closeWindow(static_cast<unsigned long>(dialog.value("id").toDouble()));
+    }
 }

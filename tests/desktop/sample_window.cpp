@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A small window on which the desktop driver and the probe are tried.
+// A small window for the tests of the desktop driver and the probe.
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,17 +25,17 @@ class SampleWindow : public QMainWindow
 
 public:
     SampleWindow()
-        : m_tabs(new QTabWidget(this)), m_memory(new QLabel(this)), m_answer(new QLabel(this)),
-          m_tree(new QTreeView), m_model(new QStandardItemModel(this))
+        : tabs(new QTabWidget(this)), memoryLabel(new QLabel(this)), answerLabel(new QLabel(this)),
+          tree(new QTreeView), model(new QStandardItemModel(this))
     {
-        setWindowTitle(QStringLiteral("Sample"));
-        setCentralWidget(m_tabs);
-        m_tabs->addTab(firstPage(), QStringLiteral("First"));
-        m_tabs->addTab(m_tree, QStringLiteral("&Second"));
+        setWindowTitle("Sample");
+        setCentralWidget(tabs);
+        tabs->addTab(firstPage(), "First");
+        tabs->addTab(tree, "&Second");
         fillTree();
         addMenus();
         readMemory();
-        auto *const timer = new QTimer(this);
+        auto *timer = new QTimer(this);
         connect(timer, SIGNAL(timeout()), SLOT(readMemory()));
         timer->start(100);
     }
@@ -43,86 +43,86 @@ public:
 private Q_SLOTS:
     void ask()
     {
-        const auto answer = QMessageBox::question(this, QStringLiteral("Question"), QStringLiteral("Go on?"),
+        const auto answer = QMessageBox::question(this, "Question", "Go on?",
                                                   QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel);
-        m_answer->setText(answer == QMessageBox::Ok ? QStringLiteral("ok") : QStringLiteral("cancelled"));
+        answerLabel->setText(answer == QMessageBox::Ok ? "ok" : "cancelled");
     }
 
     void popup()
     {
         QMenu menu(this);
-        menu.addAction(QStringLiteral("&Inspect"))->setCheckable(true);
+        menu.addAction("&Inspect")->setCheckable(true);
         menu.addSeparator();
-        menu.addAction(QStringLiteral("Never"))->setEnabled(false);
-        QAction *const chosen = menu.exec(QCursor::pos());
-        m_answer->setText(chosen ? chosen->text() : QStringLiteral("nothing"));
+        menu.addAction("Never")->setEnabled(false);
+        QAction *chosen = menu.exec(QCursor::pos());
+        answerLabel->setText(chosen ? chosen->text() : "nothing");
     }
 
     void readMemory()
     {
         glibtop_mem memory;
         glibtop_get_mem(&memory);
-        m_memory->setText(QString::number(memory.total));
+        memoryLabel->setText(QString::number(memory.total));
     }
 
 private:
     QWidget *firstPage()
     {
-        auto *const page = new QWidget;
-        auto *const layout = new QVBoxLayout(page);
-        auto *const button = new QPushButton(QStringLiteral("&Ask"));
-        button->setObjectName(QStringLiteral("ask"));
-        m_memory->setObjectName(QStringLiteral("memory"));
-        m_answer->setObjectName(QStringLiteral("answer"));
+        auto *page = new QWidget;
+        auto *layout = new QVBoxLayout(page);
+        auto *button = new QPushButton("&Ask");
+        button->setObjectName("ask");
+        memoryLabel->setObjectName("memory");
+        answerLabel->setObjectName("answer");
         layout->addWidget(button);
-        auto *const edit = new QLineEdit;
-        edit->setObjectName(QStringLiteral("edit"));
+        auto *edit = new QLineEdit;
+        edit->setObjectName("edit");
         layout->addWidget(edit);
-        layout->addWidget(m_memory);
-        layout->addWidget(m_answer);
+        layout->addWidget(memoryLabel);
+        layout->addWidget(answerLabel);
         connect(button, SIGNAL(clicked()), SLOT(ask()));
         return page;
     }
 
     void fillTree()
     {
-        m_model->setHorizontalHeaderLabels(
-            {QStringLiteral("Name"), QStringLiteral("Size"), QStringLiteral("Hidden")});
+        model->setHorizontalHeaderLabels({"Name", "Size", "Hidden"});
         for (int i = 0; i < 200; ++i) {
-            auto *const item = new QStandardItem(QStringLiteral("row %1").arg(i, 3, 10, QLatin1Char('0')));
-            m_model->appendRow({item, new QStandardItem(QString::number(i * i)), new QStandardItem});
+            auto *item = new QStandardItem(QString("row %1").arg(i, 3, 10, QLatin1Char('0')));
+            model->appendRow({item, new QStandardItem(QString::number(i * i)), new QStandardItem});
         }
-        m_model->item(0)->appendRow(new QStandardItem(QStringLiteral("child")));
-        m_tree->setObjectName(QStringLiteral("tree"));
-        m_tree->setModel(m_model);
-        m_tree->setSortingEnabled(true);
-        m_tree->sortByColumn(0, Qt::AscendingOrder);
-        m_tree->setColumnHidden(2, true);
-        m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
-        connect(m_tree, SIGNAL(customContextMenuRequested(QPoint)), SLOT(popup()));
+        model->item(0)->appendRow(new QStandardItem("child"));
+        tree->setObjectName("tree");
+        tree->setModel(model);
+        tree->setSortingEnabled(true);
+        tree->sortByColumn(0, Qt::AscendingOrder);
+        tree->setColumnHidden(2, true);
+        tree->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(tree, SIGNAL(customContextMenuRequested(QPoint)), SLOT(popup()));
     }
 
     void addMenus()
     {
-        QMenu *const file = menuBar()->addMenu(QStringLiteral("&File"));
-        QAction *const exit = file->addAction(QStringLiteral("E&xit"));
-        exit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
+        QMenu *file = menuBar()->addMenu("&File");
+        QAction *exit = file->addAction("E&xit");
+        exit->setShortcut(QKeySequence("Ctrl+Q"));
         qApp->connect(exit, SIGNAL(triggered(bool)), SLOT(quit()));
-        statusBar()->addPermanentWidget(m_answer);
+        statusBar()->addPermanentWidget(answerLabel);
     }
 
-    QTabWidget *m_tabs;
-    QLabel *m_memory;
-    QLabel *m_answer;
-    QTreeView *m_tree;
-    QStandardItemModel *m_model;
+    QTabWidget *tabs;
+    QLabel *memoryLabel;
+    QLabel *answerLabel;
+    QTreeView *tree;
+    QStandardItemModel *model;
 };
 
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
-    for (int i = 1; i < argc; ++i)
+    for (int i = 1; i < argc; ++i) {
         std::cout << argv[i] << std::endl;
+    }
     SampleWindow window;
     window.show();
     return QApplication::exec();

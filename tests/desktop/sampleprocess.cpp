@@ -7,22 +7,23 @@
 #include <unistd.h>
 
 SampleProcess::SampleProcess(const QString &name, What what, int user)
-    : m_name(QStringLiteral("%1%2").arg(name).arg(getpid() % 1000000))
+    : fullName(QString("%1%2").arg(name).arg(getpid() % 1000000))
 {
-    static const char *const words[] = {"sleep", "busy", "parent", "heir"};
-    QStringList arguments{m_name, QLatin1String(words[what])};
-    if (user >= 0)
+    const QStringList words = {"sleep", "busy", "parent", "heir"};
+    QStringList arguments{fullName, words[what]};
+    if (user >= 0) {
         arguments.append(QString::number(user));
-    m_process.start(QStringLiteral(SAMPLE_PROCESS), arguments);
-    while (!m_process.canReadLine() && m_process.waitForReadyRead()) {
     }
-    m_ready = m_process.canReadLine();
+    process.start(SAMPLE_PROCESS, arguments);
+    while (!process.canReadLine() && process.waitForReadyRead()) {
+    }
+    ready = process.canReadLine();
 }
 
 SampleProcess::~SampleProcess()
 {
-    m_process.kill();
-    m_process.waitForFinished();
+    process.kill();
+    process.waitForFinished();
 }
 
 bool SampleProcess::sendSignal(int signal) const
@@ -32,15 +33,16 @@ bool SampleProcess::sendSignal(int signal) const
 
 int SampleProcess::endedBy() const
 {
-    const bool ended = m_process.state() == QProcess::NotRunning;
-    return ended && m_process.exitStatus() == QProcess::CrashExit ? m_process.exitCode() : 0;
+    const bool ended = process.state() == QProcess::NotRunning;
+    return ended && process.exitStatus() == QProcess::CrashExit ? process.exitCode() : 0;
 }
 
 char SampleProcess::state() const
 {
-    QFile file(QStringLiteral("/proc/%1/stat").arg(pid()));
-    if (pid() <= 0 || !file.open(QIODevice::ReadOnly))
+    QFile file(QString("/proc/%1/stat").arg(pid()));
+    if (pid() <= 0 || !file.open(QIODevice::ReadOnly)) {
         return 0;
+    }
     const QByteArray line = file.readAll();
     const int afterName = line.lastIndexOf(") ");
     return afterName < 0 ? char(0) : line.at(afterName + 2);

@@ -5,34 +5,34 @@
 #include <QProcess>
 #include <QString>
 
-/// A child of the test, to be found in the process list under a name of its own. Ended with the object.
+/// A child of the test with a unique name, to be found in the process list. Killed by the destructor.
 class SampleProcess
 {
 public:
-    /// A Parent always has children that have just been started, an Heir always such that have just become
-    /// its own.
+    /// A Parent always has children that have just been started, an Heir children that have just been
+    /// reparented to it.
     enum What { Sleeping, Busy, Parent, Heir };
 
-    /// `name` has up to 4 characters; the rest makes it unlike that of any other test that runs.
-    /// With a user id other than -1 the child changes to that user, which only root may.
+    /// `name` has up to 4 characters; a suffix makes it unique among the tests that run.
+    /// With a user id other than -1 the child changes to that user, which needs root.
     explicit SampleProcess(const QString &name, What what = Sleeping, int user = -1);
     ~SampleProcess();
     SampleProcess(const SampleProcess &) = delete;
     SampleProcess &operator=(const SampleProcess &) = delete;
 
-    bool isReady() const { return m_ready; } ///< it has its name and user
-    QString name() const { return m_name; }
-    QString renamed() const { return m_name + QLatin1Char('n'); } ///< its name after SIGUSR1
-    int pid() const { return static_cast<int>(m_process.processId()); }
-    QString childName() const { return m_name + QLatin1Char('c'); } ///< that of what these two start
+    bool isReady() const { return ready; } ///< it has its name and user
+    QString name() const { return fullName; }
+    QString renamed() const { return fullName + 'n'; }   ///< its name after SIGUSR1
+    QString childName() const { return fullName + 'c'; } ///< of the children of a Parent or Heir
+    int pid() const { return static_cast<int>(process.processId()); }
     bool sendSignal(int signal) const;
-    int endedBy() const; ///< the signal that has ended it; 0 if it runs or has ended otherwise
-    char state() const;  ///< the kernel's letter: S sleeping, R running, T stopped, Z ended; 0 if it is gone
+    int endedBy() const; ///< the signal that has killed it; 0 if it runs or has exited
+    char state() const;  ///< the kernel's letter: S sleeping, R running, T stopped, Z zombie; 0 if it is gone
 
 private:
-    QProcess m_process;
-    QString m_name;
-    bool m_ready = false;
+    QProcess process;
+    QString fullName;
+    bool ready = false;
 };
 
 #endif

@@ -1,240 +1,196 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/processespage.h"
-#include "tests/desktop/sampleprocess.h"
+#include "tests/desktop/programtest.h"
 
-#include <QJsonArray>
-#include <QtTest>
-
-#include <algorithm>
 #include <csignal>
 
-class TestActionsMenus : public QObject
+class TestActionsMenus : public ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
-    void cleanupTestCase();
-    void theMenuBarHasItsEntries();
-    void theProcessMenuIsThereOnItsPageAlone();
-    void theProcessMenuShowsItsActionsAndShortcuts();
-    void aStoppedProcessCanBeContinuedAndNoOther();
-    void onEmptySpaceTheContextMenuHasNoProcess();
-    void ctrlFSwitchesTheTreeAndItsActions();
-    void theTreeIsExpandedAndCollapsed();
-    void ownAndAllProcessesExcludeOneAnother();
-    void helpAboutTellsVersionAndPurpose();
+    void initTestCase() { startWithProcessInterval(1); }
+    void cleanup() { reportFailureAndCloseAll(); }
+    void cleanupTestCase() { verifyQuitsCleanly(); }
+    void menuBarHasItsEntries_data();
+    void menuBarHasItsEntries();
+    void processMenuIsOnItsPageOnly();
+    void processMenuShowsItsActionsAndShortcuts();
+    void onlyAStoppedProcessCanBeContinued();
+    void contextMenuOnEmptySpaceHasNoProcessActions();
+    void ctrlFTogglesTheTreeAndItsActions();
+    void treeExpandsAndCollapses();
+    void myAndAllProcessesAreExclusive();
+    void aboutBoxTellsVersionAndPurpose();
 
 private:
-    bool isChecked(const char *entry);
     bool isTree();
-    QString shortcut(const char *entry);
-
-    std::unique_ptr<DesktopSession> m_session;
-    std::unique_ptr<ProcessesPage> m_page;
+    bool waitForMenuTexts(const QStringList &texts);
+    QString shortcut(const char *entry) { return session->menuEntry(entry).value("shortcut").toString(); }
 };
-
-void TestActionsMenus::initTestCase()
-{
-    SessionOptions options;
-    options.settings = "[interval]\nprocs=1\n";
-    m_session = std::make_unique<DesktopSession>(asTestUser(options));
-    m_page = std::make_unique<ProcessesPage>(*m_session);
-    QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
-}
-
-void TestActionsMenus::cleanup()
-{
-    if (QTest::currentTestFailed()) {
-        qWarning("%s", qPrintable(m_session->error()));
-        m_session->savePicture(QLatin1String("failed-") + QLatin1String(QTest::currentTestFunction()));
-    }
-    QVERIFY(m_page->dismissAll());
-}
-
-void TestActionsMenus::cleanupTestCase()
-{
-    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->standardError(), QByteArray());
-    QCOMPARE(m_session->exitCode(), 0);
-}
-
-bool TestActionsMenus::isChecked(const char *entry)
-{
-    return m_session->menuEntry(QLatin1String(entry)).value(QLatin1String("checked")).toBool();
-}
-
-QString TestActionsMenus::shortcut(const char *entry)
-{
-    return m_session->menuEntry(QLatin1String(entry)).value(QLatin1String("shortcut")).toString();
-}
 
 bool TestActionsMenus::isTree()
 {
-    const Table now = m_page->list();
+    const Table now = page->list();
     return std::any_of(now.rows.begin(), now.rows.end(), [](const Table::Row &row) { return row.depth > 0; });
 }
 
-void TestActionsMenus::theMenuBarHasItsEntries()
+bool TestActionsMenus::waitForMenuTexts(const QStringList &texts)
 {
-    const struct
-    {
-        const char *menu;
-        QStringList entries;
-    } menus[] = {{"File", {QStringLiteral("Exit")}},
-                 {"Edit", {QStringLiteral("Update interval"), QStringLiteral("Process")}},
-                 {"Help", {QStringLiteral("About"), QStringLiteral("About Qt")}}};
-    for (const auto &menu : menus) {
-        QVERIFY(m_session->clickMenu(QLatin1String(menu.menu)));
-        QVERIFY2(m_session->waitFor([&] { return m_session->menuTexts() == menu.entries; }), menu.menu);
-        if (menu.entries.contains(QStringLiteral("Exit")))
-            QCOMPARE(shortcut("Exit"), QStringLiteral("Ctrl+Q"));
-        QVERIFY(m_page->closeMenus());
-    }
-    QVERIFY(m_session->clickMenu(QStringLiteral("Edit")));
-    QVERIFY(m_session->clickMenu(QStringLiteral("Update interval")));
-    QVERIFY(m_session->waitFor([&] {
-        return m_session->menuTexts() ==
-               QStringList{QStringLiteral("General interval"), QStringLiteral("Process interval"),
-                           QStringLiteral("Filesystem interval"), QStringLiteral("Network interval")};
-    }));
+    return session->waitFor([&] { return session->menuTexts() == texts; });
 }
 
-void TestActionsMenus::theProcessMenuIsThereOnItsPageAlone()
+void TestActionsMenus::menuBarHasItsEntries_data()
 {
-    const QString update = QStringLiteral("Update interval");
-    for (const char *tab : {"System", "File systems", "Network", "Processes"}) {
-        QVERIFY(m_page->showPage(QLatin1String(tab)));
-        QVERIFY(m_session->clickMenu(QStringLiteral("Edit")));
-        const bool onPage = QLatin1String(tab) == QLatin1String("Processes");
-        const QStringList expected =
-            onPage ? QStringList{update, QStringLiteral("Process")} : QStringList{update};
-        QVERIFY2(m_session->waitFor([&] { return m_session->menuTexts() == expected; }), tab);
-        QVERIFY(m_page->closeMenus());
+    QTest::addColumn<QStringList>("way");
+    QTest::addColumn<QStringList>("entries");
+    QTest::newRow("File") << QStringList{"File"} << QStringList{"Exit"};
+    QTest::newRow("Edit") << QStringList{"Edit"} << QStringList{"Update interval", "Process"};
+    QTest::newRow("Update interval") << QStringList{"Edit", "Update interval"}
+                                     << QStringList{"General interval", "Process interval",
+                                                    "Filesystem interval", "Network interval"};
+    QTest::newRow("Help") << QStringList{"Help"} << QStringList{"About", "About Qt"};
+}
+
+void TestActionsMenus::menuBarHasItsEntries()
+{
+    QFETCH(QStringList, way);
+    QFETCH(QStringList, entries);
+    QVERIFY(clickMenus(way));
+    QVERIFY(waitForMenuTexts(entries));
+    if (entries.contains("Exit")) {
+        QCOMPARE(shortcut("Exit"), QString("Ctrl+Q"));
     }
 }
 
-void TestActionsMenus::theProcessMenuShowsItsActionsAndShortcuts()
+void TestActionsMenus::processMenuIsOnItsPageOnly()
 {
-    const SampleProcess sample(QStringLiteral("mnu"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady());
-    QVERIFY(m_page->waitForRow(sample.pid()));
-    QVERIFY(m_page->select(sample.pid()));
-    QVERIFY(m_page->openProcessMenu());
+    for (const QString tab : {"System", "File systems", "Network", "Processes"}) {
+        QVERIFY(page->showPage(tab));
+        QVERIFY(session->clickMenu("Edit"));
+        QStringList expected = {"Update interval"};
+        if (tab == "Processes") {
+            expected.append("Process");
+        }
+        QVERIFY2(waitForMenuTexts(expected), qPrintable(tab));
+        QVERIFY(page->closeMenus());
+    }
+}
+
+void TestActionsMenus::processMenuShowsItsActionsAndShortcuts()
+{
+    const SampleProcess process = sample("mnu");
+    QVERIFY(isListed(process));
+    QVERIFY(page->select(process.pid()));
+    QVERIFY(page->openProcessMenu());
     const std::pair<const char *, const char *> expected[] = {
         {"Tree view", "Ctrl+F"},    {"My processes", "Ctrl+M"},     {"All processes", "Ctrl+A"},
         {"Stop process", "Ctrl+S"}, {"Continue process", "Ctrl+C"}, {"Terminate process", "Ctrl+T"},
         {"Kill process", "Ctrl+K"}, {"Change priority...", ""}};
     QStringList entries;
-    for (const auto &each : expected) {
-        entries.append(QLatin1String(each.first));
-        QCOMPARE(shortcut(each.first), QLatin1String(each.second));
+    for (const auto &[entry, keys] : expected) {
+        entries.append(entry);
+        QCOMPARE(shortcut(entry), QString(keys));
     }
-    QCOMPARE(m_session->menuTexts(), entries);
-    QVERIFY(m_session->menuEntry(QStringLiteral("Stop process")).value(QLatin1String("icon")).toBool());
-    QVERIFY(m_session->menuEntry(QStringLiteral("Continue process")).value(QLatin1String("icon")).toBool());
+    QCOMPARE(session->menuTexts(), entries);
+    QVERIFY(session->menuEntry("Stop process").value("icon").toBool());
+    QVERIFY(session->menuEntry("Continue process").value("icon").toBool());
 }
 
-void TestActionsMenus::aStoppedProcessCanBeContinuedAndNoOther()
+void TestActionsMenus::onlyAStoppedProcessCanBeContinued()
 {
-    const SampleProcess sample(QStringLiteral("ena"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady());
+    const SampleProcess process = sample("ena");
+    QVERIFY(process.isReady());
     const auto isEnabled = [&](const char *entry) {
-        return m_session->menuEntry(QLatin1String(entry)).value(QLatin1String("enabled")).toBool();
+        return session->menuEntry(entry).value("enabled").toBool();
     };
     for (const bool stopped : {false, true}) {
-        QVERIFY(sample.sendSignal(stopped ? SIGSTOP : SIGCONT));
-        QVERIFY(m_page->waitForText(sample.pid(), "State",
-                                    stopped ? QStringLiteral("Stopped") : QStringLiteral("Sleeping")));
-        QVERIFY(m_page->openContextMenu(sample.pid()));
+        QVERIFY(process.sendSignal(stopped ? SIGSTOP : SIGCONT));
+        QVERIFY(page->waitForText(process.pid(), "State", stopped ? "Stopped" : "Sleeping"));
+        QVERIFY(page->openContextMenu(process.pid()));
         QCOMPARE(isEnabled("Stop process"), !stopped);
         QCOMPARE(isEnabled("Continue process"), stopped);
         QVERIFY(isEnabled("Terminate process") && isEnabled("Kill process"));
-        QVERIFY(m_page->closeMenus());
+        QVERIFY(page->closeMenus());
     }
 }
 
-// Ctrl with a click takes the selection away; the right button on no row selects none.
-void TestActionsMenus::onEmptySpaceTheContextMenuHasNoProcess()
+void TestActionsMenus::contextMenuOnEmptySpaceHasNoProcessActions()
 {
-    QVERIFY(m_session->key(QStringLiteral("ctrl+m"))); // a list made anew has no selection
-    QVERIFY(m_session->waitFor([&] {
-        const Table now = m_page->list();
+    QVERIFY(session->key("ctrl+m")); // resets the list, and with it the selection
+    QVERIFY(session->waitFor([&] {
+        const Table now = page->list();
         return !now.rows.isEmpty() && std::none_of(now.rows.begin(), now.rows.end(),
                                                    [](const Table::Row &row) { return row.selected; });
     }));
-    if (!m_page->list().rowRect(m_page->list().rows.size() - 1).isEmpty()) { // otherwise no space is empty
-        QVERIFY(m_page->openContextMenuOnEmptySpace());
-        QCOMPARE(m_session->menuTexts(),
-                 (QStringList{QStringLiteral("Tree view"), QStringLiteral("My processes"),
-                              QStringLiteral("All processes"), QStringLiteral("Visible columns")}));
+    if (page->list().rowRect(page->list().rows.size() - 1).isEmpty()) {
+        return; // the rows fill the view: there is no empty space
     }
+    QVERIFY(page->openContextMenuOnEmptySpace());
+    QCOMPARE(session->menuTexts(),
+             (QStringList{"Tree view", "My processes", "All processes", "Visible columns"}));
 }
 
-void TestActionsMenus::ctrlFSwitchesTheTreeAndItsActions()
+void TestActionsMenus::ctrlFTogglesTheTreeAndItsActions()
 {
-    const SampleProcess sample(QStringLiteral("tre"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady());
-    QVERIFY(m_page->waitForRow(sample.pid()));
+    const SampleProcess process = sample("tre");
+    QVERIFY(isListed(process));
     for (const bool tree : {true, false}) {
-        QVERIFY(m_session->key(QStringLiteral("ctrl+f")));
-        QVERIFY(m_page->waitForRow(sample.pid()));
-        QVERIFY(m_page->openProcessMenu());
+        QVERIFY(session->key("ctrl+f"));
+        QVERIFY(page->waitForRow(process.pid()));
+        QVERIFY(page->openProcessMenu());
         QCOMPARE(isChecked("Tree view"), tree);
-        QCOMPARE(m_session->menuTexts().contains(QStringLiteral("Expand all")), tree);
-        QCOMPARE(m_session->menuTexts().contains(QStringLiteral("Collapse all")), tree);
-        QVERIFY(m_page->closeMenus());
+        QCOMPARE(session->menuTexts().contains("Expand all"), tree);
+        QCOMPARE(session->menuTexts().contains("Collapse all"), tree);
+        QVERIFY(page->closeMenus());
     }
     QVERIFY(!isTree());
 }
 
-// The parent's children come and go; whether the parent is open is up to the user. Ends in the flat list.
-void TestActionsMenus::theTreeIsExpandedAndCollapsed()
+/// The children of the parent come and go; only the user expands or collapses it. Returns to the flat list.
+void TestActionsMenus::treeExpandsAndCollapses()
 {
-    const SampleProcess parent(QStringLiteral("par"), SampleProcess::Parent, testUser());
+    const SampleProcess parent = sample("par", SampleProcess::Parent);
     QVERIFY(parent.isReady());
-    QVERIFY(m_session->key(QStringLiteral("ctrl+f")));
+    QVERIFY(session->key("ctrl+f"));
     const auto isExpanded = [&] {
-        const Table now = m_page->list();
-        const int row = now.find(QStringLiteral("PID"), QString::number(parent.pid()));
-        return now.rows.value(row).expanded;
+        const Table now = page->list();
+        return now.rows.value(now.find("PID", QString::number(parent.pid()))).expanded;
     };
-    QVERIFY(m_session->waitFor([&] { return isTree() && isExpanded(); }));
-    QVERIFY(m_page->openProcessMenu());
-    QVERIFY(m_session->clickMenu(QStringLiteral("Collapse all")));
-    QVERIFY(m_session->waitFor([&] { return isTree() && !isExpanded(); }));
-    QVERIFY(m_page->openProcessMenu());
-    QVERIFY(m_session->clickMenu(QStringLiteral("Expand all")));
-    QVERIFY(m_session->waitFor([&] { return isExpanded(); }));
-    QVERIFY(m_session->key(QStringLiteral("ctrl+f")));
-    QVERIFY(m_session->waitFor([&] { return !m_page->list().rows.isEmpty() && !isTree(); }));
+    QVERIFY(session->waitFor([&] { return isTree() && isExpanded(); }));
+    QVERIFY(page->openProcessMenu());
+    QVERIFY(session->clickMenu("Collapse all"));
+    QVERIFY(session->waitFor([&] { return isTree() && !isExpanded(); }));
+    QVERIFY(page->openProcessMenu());
+    QVERIFY(session->clickMenu("Expand all"));
+    QVERIFY(session->waitFor(isExpanded));
+    QVERIFY(session->key("ctrl+f"));
+    QVERIFY(session->waitFor([&] { return !page->list().rows.isEmpty() && !isTree(); }));
 }
 
-void TestActionsMenus::ownAndAllProcessesExcludeOneAnother()
+void TestActionsMenus::myAndAllProcessesAreExclusive()
 {
     const int initPid = 1;
-    QVERIFY(m_page->openProcessMenu());
+    QVERIFY(page->openProcessMenu());
     QVERIFY(isChecked("My processes") && !isChecked("All processes"));
-    QVERIFY(m_session->clickMenu(QStringLiteral("All processes")));
-    QVERIFY(m_page->waitForRow(initPid));
-    QVERIFY(m_page->openProcessMenu());
+    QVERIFY(session->clickMenu("All processes"));
+    QVERIFY(page->waitForRow(initPid));
+    QVERIFY(page->openProcessMenu());
     QVERIFY(!isChecked("My processes") && isChecked("All processes"));
-    QVERIFY(m_session->clickMenu(QStringLiteral("My processes")));
-    if (testUser() >= 0)
-        QVERIFY(m_page->waitForNoRow(initPid));
-    QVERIFY(m_page->openProcessMenu());
+    QVERIFY(session->clickMenu("My processes"));
+    if (testUser() >= 0) {
+        QVERIFY(page->waitForNoRow(initPid));
+    }
+    QVERIFY(page->openProcessMenu());
     QVERIFY(isChecked("My processes") && !isChecked("All processes"));
 }
 
-void TestActionsMenus::helpAboutTellsVersionAndPurpose()
+void TestActionsMenus::aboutBoxTellsVersionAndPurpose()
 {
-    QVERIFY(m_session->clickMenu(QStringLiteral("Help")));
-    QVERIFY(m_session->clickMenu(QStringLiteral("About")));
-    QVERIFY(m_session->waitFor([&] { return !m_session->dialog().isEmpty(); }));
-    const QString text = m_session->dialog().value(QLatin1String("text")).toString();
-    QVERIFY2(QRegularExpression(QStringLiteral("\\d+\\.\\d+")).match(text).hasMatch(), qPrintable(text));
-    QVERIFY2(text.contains(QStringLiteral("ystem monitor")), qPrintable(text));
+    QVERIFY(clickMenus({"Help", "About"}));
+    QVERIFY(session->waitFor([&] { return !session->dialog().isEmpty(); }));
+    const QString text = session->dialog().value("text").toString();
+    QVERIFY2(QRegularExpression("\\d+\\.\\d+").match(text).hasMatch(), qPrintable(text));
+    QVERIFY2(text.contains("ystem monitor"), qPrintable(text));
 }
 
 QTEST_GUILESS_MAIN(TestActionsMenus)

@@ -1,190 +1,151 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/processespage.h"
-#include "tests/desktop/sampleprocess.h"
-
-#include <QJsonArray>
-#include <QtTest>
+#include "tests/desktop/programtest.h"
 
 #include <sys/resource.h>
-#include <unistd.h>
 
-// What the kernel refuses a user, and what it grants him: the priority of his own processes.
-class TestActionsRefused : public QObject
+/// What the kernel refuses a user, and what it grants: lowering the priority of the user's own processes.
+class TestActionsRefused : public ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void cleanup();
+    void cleanup() { reportFailureAndCloseAll(); }
     void cleanupTestCase();
-    void aSignalToAProcessOfAnotherUserIsReported_data();
-    void aSignalToAProcessOfAnotherUserIsReported();
-    void aPriorityCanBeLowered();
-    void aRefusedPriorityIsReported();
-    void anUnchangedPriorityIsNotSet();
-    void aPriorityThatIsCancelledIsNotSet();
+    void signalToAProcessOfAnotherUserIsReported_data();
+    void signalToAProcessOfAnotherUserIsReported();
+    void priorityCanBeLowered();
+    void refusedPriorityIsReported();
+    void unchangedPriorityIsNotSet();
+    void cancelledPriorityIsNotSet();
 
 private:
-    bool openPriorityDialog(int pid);
-    bool okIsEnabled();
+    bool openPriorityDialog(const SampleProcess &process);
+    bool pressInPriorityDialog(const QStringList &keys);
     bool acceptError(const QString &text);
-    std::unique_ptr<DesktopSession> m_session;
-    std::unique_ptr<ProcessesPage> m_page;
 };
 
 namespace {
 
-int niceOf(int pid)
+int niceOf(const SampleProcess &process)
 {
-    return getpriority(PRIO_PROCESS, static_cast<id_t>(pid));
+    return getpriority(PRIO_PROCESS, static_cast<id_t>(process.pid()));
 }
 
 } // namespace
 
 void TestActionsRefused::initTestCase()
 {
-    if (testUser() < 0)
+    if (testUser() < 0) {
         QSKIP("only root can start processes of two users");
-    SessionOptions options;
-    // By user: ids without a name come first, where the list of all processes stands still.
-    options.settings = "[General]\nproc_sort_column=3\n[interval]\nprocs=1\n[column]\nNice=true\n";
-    m_session = std::make_unique<DesktopSession>(asTestUser(options));
-    m_page = std::make_unique<ProcessesPage>(*m_session);
-    QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
-}
-
-void TestActionsRefused::cleanup()
-{
-    if (QTest::currentTestFailed()) {
-        qWarning("%s", qPrintable(m_session->error()));
-        m_session->savePicture(QLatin1String("failed-") + QLatin1String(QTest::currentTestFunction()));
     }
-    QVERIFY(m_page->dismissAll());
+    SessionOptions options;
+    // Sorted by user: ids without a name come first, in the part of the full list that does not move.
+    options.settings = "[General]\nproc_sort_column=3\n[interval]\nprocs=1\n[column]\nNice=true\n";
+    startProgram(options);
 }
 
 void TestActionsRefused::cleanupTestCase()
 {
-    if (!m_session)
-        return;
-    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->standardError(), QByteArray());
-    QCOMPARE(m_session->exitCode(), 0);
+    if (session) {
+        verifyQuitsCleanly();
+    }
 }
 
-// Accepts the error box after a look at it; nothing comes after it.
+/// Accepts the error box if it is the expected one and nothing follows it.
 bool TestActionsRefused::acceptError(const QString &text)
 {
     const int warningIcon = 2;
-    if (!m_page->waitForDialog(QStringLiteral("Error")))
+    if (!page->waitForDialog("Error")) {
         return false;
-    const QJsonObject box = m_session->dialog();
-    return box.value(QLatin1String("text")).toString() == text &&
-           box.value(QLatin1String("icon")).toInt() == warningIcon &&
-           m_session->clickButton(QStringLiteral("OK")) && m_page->waitForNoDialog();
+    }
+    const QJsonObject box = session->dialog();
+    return box.value("text").toString() == text && box.value("icon").toInt() == warningIcon && clickOk();
 }
 
-void TestActionsRefused::aSignalToAProcessOfAnotherUserIsReported_data()
+void TestActionsRefused::signalToAProcessOfAnotherUserIsReported_data()
 {
     QTest::addColumn<QString>("shortcut");
-    for (const char *shortcut : {"ctrl+s", "ctrl+t", "ctrl+k"})
-        QTest::newRow(shortcut) << QString::fromLatin1(shortcut);
+    for (const char *shortcut : {"ctrl+s", "ctrl+t", "ctrl+k"}) {
+        QTest::newRow(shortcut) << shortcut;
+    }
 }
 
-void TestActionsRefused::aSignalToAProcessOfAnotherUserIsReported()
+void TestActionsRefused::signalToAProcessOfAnotherUserIsReported()
 {
     QFETCH(QString, shortcut);
-    const int another = testUser() + 40000;
-    const SampleProcess foreign(QStringLiteral("for"), SampleProcess::Sleeping, another);
+    const int anotherUser = testUser() + 40000;
+    const SampleProcess foreign("for", SampleProcess::Sleeping, anotherUser);
     QVERIFY(foreign.isReady());
-    QVERIFY(m_session->key(QStringLiteral("ctrl+a")));
-    QVERIFY(m_page->waitForRow(foreign.pid()));
-    QVERIFY(m_page->select(foreign.pid()));
-    QVERIFY(m_session->key(shortcut));
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(acceptError(QStringLiteral("Unable send signal to process. Reason - Operation not permitted")));
+    QVERIFY(session->key("ctrl+a"));
+    QVERIFY(page->waitForRow(foreign.pid()));
+    QVERIFY(page->select(foreign.pid()));
+    QVERIFY(session->key(shortcut));
+    QVERIFY(session->clickButton("OK"));
+    QVERIFY(acceptError("Unable send signal to process. Reason - Operation not permitted"));
     QCOMPARE(foreign.state(), 'S');
-    QVERIFY(m_session->key(QStringLiteral("ctrl+m")));
-    QVERIFY(m_page->waitForNoRow(foreign.pid()));
+    QVERIFY(session->key("ctrl+m"));
+    QVERIFY(page->waitForNoRow(foreign.pid()));
 }
 
-bool TestActionsRefused::openPriorityDialog(int pid)
+bool TestActionsRefused::openPriorityDialog(const SampleProcess &process)
 {
-    return m_page->waitForRow(pid) && m_page->openContextMenu(pid) &&
-           m_session->clickMenu(QStringLiteral("Change priority...")) &&
-           m_page->waitForDialog(QStringLiteral("Change priority")) && !okIsEnabled();
+    return isListed(process) && page->openContextMenu(process.pid()) &&
+           session->clickMenu("Change priority...") && page->waitForDialog("Change priority") &&
+           !okIsEnabled();
 }
 
-bool TestActionsRefused::okIsEnabled()
+/// The slider has the focus as soon as the dialog is open; moving it enables OK.
+bool TestActionsRefused::pressInPriorityDialog(const QStringList &keys)
 {
-    const QJsonObject buttons = m_session->probe(QStringLiteral("widgets QPushButton"));
-    for (const QJsonValue &button : buttons.value(QLatin1String("widgets")).toArray()) {
-        if (button[QLatin1String("text")].toString().remove(QLatin1Char('&')) == QLatin1String("OK"))
-            return button[QLatin1String("enabled")].toBool();
-    }
-    return false;
+    const auto press = [&](const QString &key) { return session->key(key); };
+    return std::all_of(keys.begin(), keys.end(), press) && session->waitFor([&] { return okIsEnabled(); });
 }
 
-// The keyboard reaches the slider as soon as the dialog is open.
-void TestActionsRefused::aPriorityCanBeLowered()
+void TestActionsRefused::priorityCanBeLowered()
 {
-    const SampleProcess sample(QStringLiteral("nic"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady());
-    QCOMPARE(niceOf(sample.pid()), 0);
-    QVERIFY(openPriorityDialog(sample.pid()));
-    for (int step = 0; step < 3; ++step)
-        QVERIFY(m_session->key(QStringLiteral("Right")));
-    QVERIFY(m_session->waitFor([&] { return okIsEnabled(); }));
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_page->waitForNoDialog());
-    QVERIFY(m_session->waitFor([&] { return niceOf(sample.pid()) == 3; }));
-    QVERIFY(m_page->waitForText(sample.pid(), "Nice", QStringLiteral("3")));
+    const SampleProcess process = sample("nic");
+    QCOMPARE(niceOf(process), 0);
+    QVERIFY(openPriorityDialog(process));
+    QVERIFY(pressInPriorityDialog({"Right", "Right", "Right"}));
+    QVERIFY(clickOk());
+    QVERIFY(session->waitFor([&] { return niceOf(process) == 3; }));
+    QVERIFY(page->waitForText(process.pid(), "Nice", "3"));
 }
 
-void TestActionsRefused::aRefusedPriorityIsReported()
+void TestActionsRefused::refusedPriorityIsReported()
 {
-    const SampleProcess sample(QStringLiteral("ref"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady());
-    QVERIFY(openPriorityDialog(sample.pid()));
-    QVERIFY(m_session->key(QStringLiteral("Left")));
-    QVERIFY(m_session->waitFor([&] { return okIsEnabled(); }));
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(acceptError(QStringLiteral("Unable change priority. Reason - Permission denied")));
-    QCOMPARE(niceOf(sample.pid()), 0);
+    const SampleProcess process = sample("ref");
+    QVERIFY(openPriorityDialog(process));
+    QVERIFY(pressInPriorityDialog({"Left"}));
+    QVERIFY(session->clickButton("OK"));
+    QVERIFY(acceptError("Unable change priority. Reason - Permission denied"));
+    QCOMPARE(niceOf(process), 0);
 }
 
-// The process has gone: a call for it would be reported.
-void TestActionsRefused::anUnchangedPriorityIsNotSet()
+/// The process has exited: setting its priority would be reported as an error.
+void TestActionsRefused::unchangedPriorityIsNotSet()
 {
-    auto sample = std::make_unique<SampleProcess>(QStringLiteral("sam"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample->isReady());
-    QVERIFY(openPriorityDialog(sample->pid()));
-    QVERIFY(m_session->key(QStringLiteral("Right")));
-    QVERIFY(m_session->key(QStringLiteral("Left")));
-    QVERIFY(m_session->waitFor([&] { return okIsEnabled(); }));
-    const int pid = sample->pid();
-    sample.reset();
-    QVERIFY(m_page->waitForNoRow(pid));
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_page->waitForNoDialog());
-    const SampleProcess later(QStringLiteral("ltr"), SampleProcess::Sleeping, testUser());
-    QVERIFY(later.isReady());
-    QVERIFY(m_page->waitForRow(later.pid()));
-    QVERIFY(m_session->dialog().isEmpty());
+    std::optional<SampleProcess> process(std::in_place, "sam", SampleProcess::Sleeping, testUser());
+    QVERIFY(openPriorityDialog(*process));
+    QVERIFY(pressInPriorityDialog({"Right", "Left"}));
+    const int pid = process->pid();
+    process.reset();
+    QVERIFY(page->waitForNoRow(pid));
+    QVERIFY(clickOk());
+    QVERIFY(waitForRefresh());
+    QVERIFY(session->dialog().isEmpty());
 }
 
-void TestActionsRefused::aPriorityThatIsCancelledIsNotSet()
+void TestActionsRefused::cancelledPriorityIsNotSet()
 {
-    const SampleProcess sample(QStringLiteral("can"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady());
-    QVERIFY(openPriorityDialog(sample.pid()));
-    QVERIFY(m_session->key(QStringLiteral("Right")));
-    QVERIFY(m_session->waitFor([&] { return okIsEnabled(); }));
-    QVERIFY(m_session->key(QStringLiteral("Escape")));
-    QVERIFY(m_page->waitForNoDialog());
-    const SampleProcess later(QStringLiteral("ltr"), SampleProcess::Sleeping, testUser());
-    QVERIFY(later.isReady());
-    QVERIFY(m_page->waitForRow(later.pid()));
-    QCOMPARE(niceOf(sample.pid()), 0);
+    const SampleProcess process = sample("can");
+    QVERIFY(openPriorityDialog(process));
+    QVERIFY(pressInPriorityDialog({"Right"}));
+    QVERIFY(session->key("Escape"));
+    QVERIFY(page->waitForNoDialog());
+    QVERIFY(waitForRefresh());
+    QCOMPARE(niceOf(process), 0);
 }
 
 QTEST_GUILESS_MAIN(TestActionsRefused)

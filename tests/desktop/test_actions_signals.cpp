@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/processespage.h"
-#include "tests/desktop/sampleprocess.h"
+#include "tests/desktop/programtest.h"
 
-#include <QJsonArray>
-#include <QtTest>
-
-#include <algorithm>
 #include <csignal>
 
 namespace {
@@ -29,256 +24,214 @@ const Command killCommand = {"Kill process", "ctrl+k", "Process killing",
                              "Are you really want to kill process?\nProcess will no have ability to finish "
                              "normally.\nAll process data can be lost."};
 
-/// The ways of a user to a command.
+/// How a user triggers a command.
 enum Way { MenuBar, ContextMenu, Shortcut };
 
 } // namespace
 
-class TestActionsSignals : public QObject
+Q_DECLARE_METATYPE(Command)
+Q_DECLARE_METATYPE(Way)
+
+class TestActionsSignals : public ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
-    void cleanupTestCase();
+    void initTestCase() { startWithProcessInterval(1); }
+    void cleanup() { reportFailureAndCloseAll(); }
+    void cleanupTestCase() { verifyQuitsCleanly(); }
     void everyWayAsksAndSendsTheSignal_data();
     void everyWayAsksAndSendsTheSignal();
     void onlyOkSendsASignal_data();
     void onlyOkSendsASignal();
-    void aStoppedProcessStaysStoppedWhenOnlyCancelIsPressed();
-    void aShortcutActsOnTheRowThatIsHighlighted();
-    void whatTheBoxAskedAboutGetsTheSignal();
-    void whenItHasGoneTheBoxSaysSo();
-    void onOtherPagesTheShortcutsDoNothing();
+    void enterLeavesAStoppedProcessStopped();
+    void shortcutActsOnTheSelectedRow();
+    void signalGoesToTheProcessThatTheBoxNamed();
+    void exitOfTheProcessIsReported();
+    void shortcutsDoNothingOnOtherPages();
 
 private:
     bool trigger(Way way, const Command &command, int pid);
     bool ask(Way way, const Command &command, int pid);
-    bool confirm(Way way, const Command &command, int pid);
-    std::unique_ptr<DesktopSession> m_session;
-    std::unique_ptr<ProcessesPage> m_page;
+    bool confirm(Way way, const Command &command, int pid) { return ask(way, command, pid) && clickOk(); }
 };
-
-Q_DECLARE_METATYPE(Command)
-
-void TestActionsSignals::initTestCase()
-{
-    SessionOptions options;
-    options.settings = "[interval]\nprocs=1\n";
-    m_session = std::make_unique<DesktopSession>(asTestUser(options));
-    m_page = std::make_unique<ProcessesPage>(*m_session);
-    QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
-}
-
-void TestActionsSignals::cleanup()
-{
-    if (QTest::currentTestFailed()) {
-        qWarning("%s", qPrintable(m_session->error()));
-        m_session->savePicture(QLatin1String("failed-") + QLatin1String(QTest::currentTestFunction()));
-    }
-    QVERIFY(m_page->dismissAll());
-}
-
-void TestActionsSignals::cleanupTestCase()
-{
-    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->standardError(), QByteArray());
-    QCOMPARE(m_session->exitCode(), 0);
-}
 
 bool TestActionsSignals::trigger(Way way, const Command &command, int pid)
 {
-    const QString entry = QLatin1String(command.entry);
     switch (way) {
     case MenuBar:
-        return m_page->select(pid) && m_page->openProcessMenu() && m_session->clickMenu(entry);
+        return page->select(pid) && page->openProcessMenu() && session->clickMenu(command.entry);
     case ContextMenu:
-        return m_page->openContextMenu(pid) && m_session->clickMenu(entry);
+        return page->openContextMenu(pid) && session->clickMenu(command.entry);
     case Shortcut:
         break;
     }
-    return m_page->select(pid) && m_session->key(QLatin1String(command.shortcut));
+    return page->select(pid) && session->key(command.shortcut);
 }
 
-// The box is the required one, and Cancel its default.
+/// Triggers the command and checks the question: its title, its text, and that Cancel is the default.
 bool TestActionsSignals::ask(Way way, const Command &command, int pid)
 {
-    if (!trigger(way, command, pid) || !m_page->waitForDialog(QLatin1String(command.title)))
+    if (!trigger(way, command, pid) || !page->waitForDialog(command.title)) {
         return false;
-    const QJsonObject box = m_session->dialog();
+    }
+    const QJsonObject box = session->dialog();
     QMap<QString, bool> isDefault;
-    for (const QJsonValue &button : box.value(QLatin1String("buttons")).toArray())
-        isDefault[button[QLatin1String("text")].toString().remove(QLatin1Char('&'))] =
-            button[QLatin1String("default")].toBool();
-    return box.value(QLatin1String("text")).toString() == QLatin1String(command.text) &&
-           isDefault == QMap<QString, bool>{{QStringLiteral("Cancel"), true}, {QStringLiteral("OK"), false}};
-}
-
-bool TestActionsSignals::confirm(Way way, const Command &command, int pid)
-{
-    return ask(way, command, pid) && m_session->clickButton(QStringLiteral("OK")) &&
-           m_page->waitForNoDialog();
+    for (const QJsonValue &button : box.value("buttons").toArray()) {
+        isDefault[button["text"].toString().remove('&')] = button["default"].toBool();
+    }
+    return box.value("text").toString() == command.text &&
+           isDefault == QMap<QString, bool>{{"Cancel", true}, {"OK", false}};
 }
 
 void TestActionsSignals::everyWayAsksAndSendsTheSignal_data()
 {
-    QTest::addColumn<int>("way");
-    QTest::newRow("menu bar") << int(MenuBar);
-    QTest::newRow("context menu") << int(ContextMenu);
-    QTest::newRow("shortcut") << int(Shortcut);
+    QTest::addColumn<Way>("way");
+    QTest::newRow("menu bar") << MenuBar;
+    QTest::newRow("context menu") << ContextMenu;
+    QTest::newRow("shortcut") << Shortcut;
 }
 
-// The state is read back from the kernel and from the table.
+/// The state is read back from the kernel and from the table.
 void TestActionsSignals::everyWayAsksAndSendsTheSignal()
 {
-    QFETCH(int, way);
-    const Way by = Way(way);
-    const SampleProcess sample(QStringLiteral("sig"), SampleProcess::Sleeping, testUser());
-    const SampleProcess other(QStringLiteral("oth"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady() && other.isReady());
-    const int pid = sample.pid();
+    QFETCH(Way, way);
+    const SampleProcess process = sample("sig");
+    const SampleProcess other = sample("oth");
+    QVERIFY(process.isReady() && other.isReady());
+    const int pid = process.pid();
     const int otherPid = other.pid();
-    QVERIFY(m_page->waitForText(pid, "State", QStringLiteral("Sleeping")));
+    QVERIFY(page->waitForText(pid, "State", "Sleeping"));
 
-    QVERIFY(confirm(by, stopCommand, pid));
-    QVERIFY(m_page->waitForText(pid, "State", QStringLiteral("Stopped")));
-    QCOMPARE(sample.state(), 'T');
+    QVERIFY(confirm(way, stopCommand, pid));
+    QVERIFY(page->waitForText(pid, "State", "Stopped"));
+    QCOMPARE(process.state(), 'T');
 
-    QVERIFY(confirm(by, continueCommand, pid));
-    QVERIFY(m_page->waitForText(pid, "State", QStringLiteral("Sleeping")));
-    QCOMPARE(sample.state(), 'S');
+    QVERIFY(confirm(way, continueCommand, pid));
+    QVERIFY(page->waitForText(pid, "State", "Sleeping"));
+    QCOMPARE(process.state(), 'S');
 
-    QVERIFY(confirm(by, terminateCommand, pid));
-    QVERIFY(m_session->waitFor([&] { return sample.endedBy() == SIGTERM; }));
-    QVERIFY(m_page->waitForNoRow(pid));
+    QVERIFY(confirm(way, terminateCommand, pid));
+    QVERIFY(session->waitFor([&] { return process.endedBy() == SIGTERM; }));
+    QVERIFY(page->waitForNoRow(pid));
     QCOMPARE(other.state(), 'S');
 
-    QVERIFY(confirm(by, killCommand, otherPid));
-    QVERIFY(m_session->waitFor([&] { return other.endedBy() == SIGKILL; }));
+    QVERIFY(confirm(way, killCommand, otherPid));
+    QVERIFY(session->waitFor([&] { return other.endedBy() == SIGKILL; }));
 }
 
 void TestActionsSignals::onlyOkSendsASignal_data()
 {
     QTest::addColumn<Command>("command");
-    for (const Command &command : {stopCommand, terminateCommand, killCommand})
+    for (const Command &command : {stopCommand, terminateCommand, killCommand}) {
         QTest::newRow(command.entry) << command;
+    }
 }
 
-// A process that was stopped or ended could not take another name afterwards.
+/// A process that had been stopped or ended could not rename itself afterwards.
 void TestActionsSignals::onlyOkSendsASignal()
 {
     QFETCH(Command, command);
-    const SampleProcess sample(QStringLiteral("no"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady());
-    QVERIFY(m_page->waitForRow(sample.pid()));
-    for (const char *key : {"Return", "Escape", "space"}) {
-        QVERIFY2(ask(Shortcut, command, sample.pid()), key);
-        QVERIFY(m_session->key(QLatin1String(key)));
-        QVERIFY2(m_page->waitForNoDialog(), key);
+    const SampleProcess process = sample("no");
+    QVERIFY(isListed(process));
+    const std::pair<const char *, std::function<bool()>> refusals[] = {
+        {"Return", [&] { return session->key("Return"); }},
+        {"Escape", [&] { return session->key("Escape"); }},
+        {"space", [&] { return session->key("space"); }},
+        {"Cancel", [&] { return session->clickButton("Cancel"); }},
+        {"close button", [&] { return closeDialogByFrame(); }}};
+    for (const auto &[name, refuse] : refusals) {
+        QVERIFY2(ask(Shortcut, command, process.pid()), name);
+        QVERIFY2(refuse(), name);
+        QVERIFY2(page->waitForNoDialog(), name);
     }
-    QVERIFY(ask(Shortcut, command, sample.pid()));
-    QVERIFY(m_session->clickButton(QStringLiteral("Cancel")));
-    QVERIFY(m_page->waitForNoDialog());
-    QVERIFY(ask(Shortcut, command, sample.pid()));
-    m_session->x().closeWindow(
-        static_cast<unsigned long>(m_session->dialog().value(QLatin1String("id")).toDouble()));
-    QVERIFY(m_page->waitForNoDialog());
-    QVERIFY(sample.sendSignal(SIGUSR1));
-    QVERIFY(m_page->waitForText(sample.pid(), "Name", sample.renamed()));
-    QVERIFY(m_page->waitForText(sample.pid(), "State", QStringLiteral("Sleeping")));
+    QVERIFY(process.sendSignal(SIGUSR1));
+    QVERIFY(page->waitForText(process.pid(), "Name", process.renamed()));
+    QVERIFY(page->waitForText(process.pid(), "State", "Sleeping"));
 }
 
-void TestActionsSignals::aStoppedProcessStaysStoppedWhenOnlyCancelIsPressed()
+void TestActionsSignals::enterLeavesAStoppedProcessStopped()
 {
-    const SampleProcess sample(QStringLiteral("stp"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady() && sample.sendSignal(SIGSTOP));
-    QVERIFY(m_page->waitForText(sample.pid(), "State", QStringLiteral("Stopped")));
-    QVERIFY(ask(Shortcut, continueCommand, sample.pid()));
-    QVERIFY(m_session->key(QStringLiteral("Return")));
-    QVERIFY(m_page->waitForNoDialog());
-    const SampleProcess later(QStringLiteral("ltr"), SampleProcess::Sleeping, testUser());
-    QVERIFY(later.isReady());
-    QVERIFY(m_page->waitForRow(later.pid())); // a refresh has come
-    QCOMPARE(sample.state(), 'T');
-    QCOMPARE(m_page->text(sample.pid(), "State"), QStringLiteral("Stopped"));
+    const SampleProcess process = sample("stp");
+    QVERIFY(process.isReady() && process.sendSignal(SIGSTOP));
+    QVERIFY(page->waitForText(process.pid(), "State", "Stopped"));
+    QVERIFY(ask(Shortcut, continueCommand, process.pid()));
+    QVERIFY(session->key("Return"));
+    QVERIFY(page->waitForNoDialog());
+    QVERIFY(waitForRefresh());
+    QCOMPARE(process.state(), 'T');
+    QCOMPARE(page->text(process.pid(), "State"), QString("Stopped"));
 }
 
-void TestActionsSignals::aShortcutActsOnTheRowThatIsHighlighted()
+void TestActionsSignals::shortcutActsOnTheSelectedRow()
 {
-    const SampleProcess first(QStringLiteral("one"), SampleProcess::Sleeping, testUser());
-    const SampleProcess second(QStringLiteral("two"), SampleProcess::Sleeping, testUser());
+    const SampleProcess first = sample("one");
+    const SampleProcess second = sample("two");
     QVERIFY(first.isReady() && second.isReady());
-    QVERIFY(m_page->select(first.pid()));
-    QVERIFY(m_page->openProcessMenu()); // the process of the last menu
-    QVERIFY(m_page->closeMenus());
-    QVERIFY(m_page->select(second.pid()));
-    QVERIFY(m_session->key(QStringLiteral("ctrl+k")));
-    QVERIFY(m_page->waitForDialog(QStringLiteral("Process killing")));
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_session->waitFor([&] { return second.endedBy() == SIGKILL; }));
+    QVERIFY(page->select(first.pid()));
+    QVERIFY(page->openProcessMenu()); // the menu must not keep its process for later shortcuts
+    QVERIFY(page->closeMenus());
+    QVERIFY(page->select(second.pid()));
+    QVERIFY(session->key("ctrl+k"));
+    QVERIFY(page->waitForDialog("Process killing"));
+    QVERIFY(session->clickButton("OK"));
+    QVERIFY(session->waitFor([&] { return second.endedBy() == SIGKILL; }));
     QCOMPARE(first.state(), 'S');
 }
 
-// While the box is open the process asked about takes another name: its row is made anew, and with the old
-// one the selection has gone.
-void TestActionsSignals::whatTheBoxAskedAboutGetsTheSignal()
+/// While the box is open, the process renames itself: its row is replaced, which drops the selection.
+void TestActionsSignals::signalGoesToTheProcessThatTheBoxNamed()
 {
-    const SampleProcess sample(QStringLiteral("ask"), SampleProcess::Sleeping, testUser());
-    const SampleProcess bystander(QStringLiteral("by"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady() && bystander.isReady());
-    const int pid = sample.pid();
-    QVERIFY(m_page->waitForRow(pid));
-    QVERIFY(ask(Shortcut, killCommand, pid));
-    QVERIFY(sample.sendSignal(SIGUSR1));
-    QVERIFY(m_page->waitForText(pid, "Name", sample.renamed()));
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_session->waitFor([&] { return sample.endedBy() == SIGKILL; }));
+    const SampleProcess process = sample("ask");
+    const SampleProcess bystander = sample("by");
+    QVERIFY(bystander.isReady() && isListed(process));
+    QVERIFY(ask(Shortcut, killCommand, process.pid()));
+    QVERIFY(process.sendSignal(SIGUSR1));
+    QVERIFY(page->waitForText(process.pid(), "Name", process.renamed()));
+    QVERIFY(session->clickButton("OK"));
+    QVERIFY(session->waitFor([&] { return process.endedBy() == SIGKILL; }));
     QCOMPARE(bystander.state(), 'S');
 }
 
-void TestActionsSignals::whenItHasGoneTheBoxSaysSo()
+void TestActionsSignals::exitOfTheProcessIsReported()
 {
-    const SampleProcess bystander(QStringLiteral("by"), SampleProcess::Sleeping, testUser());
-    auto sample = std::make_unique<SampleProcess>(QStringLiteral("gon"), SampleProcess::Sleeping, testUser());
-    QVERIFY(bystander.isReady() && sample->isReady());
-    const int pid = sample->pid();
-    QVERIFY(m_page->waitForRow(pid));
+    const SampleProcess bystander = sample("by");
+    std::optional<SampleProcess> process(std::in_place, "gon", SampleProcess::Sleeping, testUser());
+    QVERIFY(bystander.isReady() && isListed(*process));
+    const int pid = process->pid();
     QVERIFY(ask(Shortcut, terminateCommand, pid));
-    sample.reset();
-    QVERIFY(m_page->waitForNoRow(pid));
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_page->waitForDialog(QStringLiteral("Error")));
-    QCOMPARE(m_session->dialog().value(QLatin1String("text")).toString(),
-             QStringLiteral("Unable send signal to process. Reason - No such process"));
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_page->waitForNoDialog());
+    process.reset();
+    QVERIFY(page->waitForNoRow(pid));
+    QVERIFY(session->clickButton("OK"));
+    QVERIFY(page->waitForDialog("Error"));
+    QCOMPARE(session->dialog().value("text").toString(),
+             QString("Unable send signal to process. Reason - No such process"));
+    QVERIFY(clickOk());
     QCOMPARE(bystander.state(), 'S');
 }
 
-// Ctrl+F would change the list, the other keys would ask. Back on the page the last key does ask.
-void TestActionsSignals::onOtherPagesTheShortcutsDoNothing()
+/// Ctrl+F and Ctrl+A would change the list, the others would ask.
+void TestActionsSignals::shortcutsDoNothingOnOtherPages()
 {
-    const SampleProcess sample(QStringLiteral("pag"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady());
-    QVERIFY(m_page->waitForRow(sample.pid()));
-    QVERIFY(m_page->select(sample.pid()));
+    const SampleProcess process = sample("pag");
+    QVERIFY(isListed(process));
+    QVERIFY(page->select(process.pid()));
     for (const char *tab : {"System", "File systems", "Network"}) {
-        QVERIFY(m_page->showPage(QLatin1String(tab)));
+        QVERIFY(page->showPage(tab));
         for (const char *key : {"ctrl+s", "ctrl+c", "ctrl+t", "ctrl+k", "ctrl+f", "ctrl+a"}) {
-            QVERIFY(m_session->key(QLatin1String(key)));
-            QVERIFY2(m_session->dialog().isEmpty(), key);
+            QVERIFY(session->key(key));
+            QVERIFY2(session->dialog().isEmpty(), key);
         }
     }
-    QVERIFY(m_page->showPage(QStringLiteral("Processes")));
-    QVERIFY(m_session->waitFor([&] { return m_page->isSelected(sample.pid()); }));
-    QVERIFY(m_session->dialog().isEmpty());
-    QVERIFY2(ask(MenuBar, killCommand, sample.pid()), "a tree or all processes would be shown otherwise");
-    QVERIFY(m_session->key(QStringLiteral("Escape")));
-    QVERIFY(m_page->waitForNoDialog());
-    QVERIFY(m_page->openProcessMenu());
-    QVERIFY(!m_session->menuEntry(QStringLiteral("Tree view")).value(QLatin1String("checked")).toBool());
-    QVERIFY(m_session->menuEntry(QStringLiteral("My processes")).value(QLatin1String("checked")).toBool());
+    QVERIFY(page->showPage("Processes"));
+    QVERIFY(session->waitFor([&] { return page->isSelected(process.pid()); }));
+    QVERIFY(session->dialog().isEmpty());
+    QVERIFY2(ask(MenuBar, killCommand, process.pid()), "the list is a tree or shows all processes");
+    QVERIFY(session->key("Escape"));
+    QVERIFY(page->waitForNoDialog());
+    QVERIFY(page->openProcessMenu());
+    QVERIFY(!isChecked("Tree view"));
+    QVERIFY(isChecked("My processes"));
 }
 
 QTEST_GUILESS_MAIN(TestActionsSignals)

@@ -1,112 +1,105 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/processespage.h"
-#include "tests/desktop/sampleprocess.h"
-
-#include <QtTest>
+#include "tests/desktop/programtest.h"
 
 #include <sys/resource.h>
 #include <unistd.h>
 
-#include <algorithm>
-
-// The running program's limit on file descriptors, lowered from outside.
-class TestDescriptorsTaken : public QObject
+/// Lowers the limit on the file descriptors of the running program from outside.
+class TestDescriptorsTaken : public ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void withNoneToSpareItGoesOnAndSavesItsSettings();
-    void withTooFewItKeepsWhatItShowsUntilThereAreMore();
+    void withNoneLeftItGoesOnAndSavesItsSettings();
+    void withTooFewItKeepsItsListUntilThereAreMore();
 
 private:
     bool limitDescriptors(rlim_t limit);
     rlim_t lowestUsefulLimit();
     bool waitForTicks();
     void verifyQuitsAndSaves();
-
-    std::unique_ptr<DesktopSession> m_session;
-    std::unique_ptr<ProcessesPage> m_page;
 };
 
 void TestDescriptorsTaken::init()
 {
     SessionOptions options;
     options.settings = "[interval]\nprocs=1\n";
-    m_session = std::make_unique<DesktopSession>(options);
-    m_page = std::make_unique<ProcessesPage>(*m_session);
-    QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
-    QVERIFY2(m_page->waitForRow(getpid()), qPrintable(m_session->error()));
+    session = std::make_unique<DesktopSession>(options);
+    page = std::make_unique<ProcessesPage>(*session);
+    QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
+    QVERIFY2(page->waitForRow(getpid()), qPrintable(session->error()));
 }
 
 bool TestDescriptorsTaken::limitDescriptors(rlim_t limit)
 {
-    rlimit now = {};
-    const auto pid = static_cast<pid_t>(m_session->pid());
-    if (prlimit(pid, RLIMIT_NOFILE, nullptr, &now) != 0)
+    rlimit limits = {};
+    const auto pid = static_cast<pid_t>(session->pid());
+    if (prlimit(pid, RLIMIT_NOFILE, nullptr, &limits) != 0) {
         return false;
-    now.rlim_cur = limit;
-    return prlimit(pid, RLIMIT_NOFILE, &now, nullptr) == 0;
+    }
+    limits.rlim_cur = limit;
+    return prlimit(pid, RLIMIT_NOFILE, &limits, nullptr) == 0;
 }
 
-// Just above the highest descriptor that is open, the kept-back ones among them.
+/// Just above the highest open descriptor, those that the program holds in reserve included.
 rlim_t TestDescriptorsTaken::lowestUsefulLimit()
 {
-    const QDir folder(QStringLiteral("/proc/%1/fd").arg(m_session->pid()));
-    const QStringList open = folder.entryList(QDir::Files | QDir::System);
+    const QDir folder(QString("/proc/%1/fd").arg(session->pid()));
     int highest = 0;
-    for (const QString &descriptor : open)
+    for (const QString &descriptor : folder.entryList(QDir::Files | QDir::System)) {
         highest = std::max(highest, descriptor.toInt());
+    }
     return static_cast<rlim_t>(highest) + 1;
 }
 
-// The program wakes up for nothing but its tick as long as nobody asks it anything.
+/// Counts wake-ups of the program: unless probed, it wakes up only for its tick.
 bool TestDescriptorsTaken::waitForTicks()
 {
     const auto wakeUps = [&] {
-        QFile file(QStringLiteral("/proc/%1/status").arg(m_session->pid()));
+        QFile file(QString("/proc/%1/status").arg(session->pid()));
         const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         const QByteArray key = "\nvoluntary_ctxt_switches:";
         return status.mid(status.indexOf(key) + key.size()).split('\n').value(0).trimmed().toLong();
     };
     const long before = wakeUps();
-    return m_session->waitFor([&] { return wakeUps() >= before + 3; });
+    return session->waitFor([&] { return wakeUps() >= before + 3; });
 }
 
 void TestDescriptorsTaken::verifyQuitsAndSaves()
 {
-    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->exitCode(), 0);
-    QFile file(m_session->settingsFile());
+    QVERIFY2(page->quit(), qPrintable(session->error()));
+    QCOMPARE(session->exitCode(), 0);
+    QFile file(session->settingsFile());
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray settings = file.readAll();
     QVERIFY2(settings.contains("procs=1") && settings.contains("nwt=3"), settings.constData());
 }
 
-void TestDescriptorsTaken::withNoneToSpareItGoesOnAndSavesItsSettings()
+void TestDescriptorsTaken::withNoneLeftItGoesOnAndSavesItsSettings()
 {
     QVERIFY(limitDescriptors(lowestUsefulLimit()));
-    QVERIFY(!m_session->probe(QStringLiteral("hoard")).contains(QLatin1String("error")));
-    const SampleProcess sample(QStringLiteral("desc"));
-    QVERIFY(sample.isReady());
-    QVERIFY2(m_page->waitForRow(sample.pid()), qPrintable(m_session->error()));
-    for (const char *page : {"System", "File systems", "Network", "Processes"})
-        QVERIFY2(m_page->showPage(QLatin1String(page)), qPrintable(m_session->error()));
+    QVERIFY(!session->probe("hoard").contains("error"));
+    const SampleProcess process("desc");
+    QVERIFY2(isListed(process), qPrintable(session->error()));
+    for (const char *tab : {"System", "File systems", "Network", "Processes"}) {
+        QVERIFY2(page->showPage(tab), qPrintable(session->error()));
+    }
     verifyQuitsAndSaves();
 }
 
-void TestDescriptorsTaken::withTooFewItKeepsWhatItShowsUntilThereAreMore()
+void TestDescriptorsTaken::withTooFewItKeepsItsListUntilThereAreMore()
 {
     const rlim_t enough = lowestUsefulLimit();
     QVERIFY(limitDescriptors(3));
-    const QStringList before = m_page->list().column(QStringLiteral("PID"));
+    const QStringList before = page->list().column("PID");
     QVERIFY(!before.isEmpty());
-    const SampleProcess sample(QStringLiteral("desc"));
-    QVERIFY(sample.isReady());
-    QVERIFY2(waitForTicks(), qPrintable(m_session->error()));
-    QCOMPARE(m_page->list().column(QStringLiteral("PID")), before);
+    const SampleProcess process("desc");
+    QVERIFY(process.isReady());
+    QVERIFY2(waitForTicks(), qPrintable(session->error()));
+    QCOMPARE(page->list().column("PID"), before);
     QVERIFY(limitDescriptors(enough));
-    QVERIFY2(m_page->waitForRow(sample.pid()), qPrintable(m_session->error()));
+    QVERIFY2(page->waitForRow(process.pid()), qPrintable(session->error()));
     verifyQuitsAndSaves();
 }
 

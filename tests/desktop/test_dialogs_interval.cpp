@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/processespage.h"
+#include "tests/desktop/programtest.h"
 
-#include <QJsonArray>
-#include <QtTest>
-
-#include <algorithm>
-
-// The interval dialog under the user's hands. The intervals of the settings file are so long that a page is
-// refreshed by a tick only once the dialog has changed its interval.
-class TestDialogsInterval : public QObject
+/// The interval dialogs. The settings file has intervals so long that a tick refreshes a page only after the
+/// dialog has changed its interval.
+class TestDialogsInterval : public ProgramTest
 {
     Q_OBJECT
 
@@ -18,156 +13,108 @@ private Q_SLOTS:
     void everyPageHasItsDialog_data();
     void everyPageHasItsDialog();
     void okIsDisabledUntilTheSliderIsDragged();
-    void theKeyboardReachesTheSliderAndOk();
-    void anAcceptedIntervalIsUsed();
-    void aCancelledIntervalIsNot();
-    void theNetworkDialogEmptiesTheGraphEvenIfCancelled();
+    void keyboardReachesTheSliderAndOk();
+    void acceptedIntervalIsUsed();
+    void cancelledIntervalIsNot();
+    void networkDialogClearsTheGraphEvenWhenCancelled();
 
 private:
-    bool open(const char *entry);
+    bool open(const QString &entry);
     QStringList labels();
-    bool okIsEnabled();
-    int sliderValue();
+    QJsonObject slider() { return session->widget("QSlider"); }
+    int sliderValue() { return slider().value("value").toInt(); }
     void dragSliderTo(int value);
-    bool aTickHasPassed();
-    QString graph();
-    void setFreeMemory(std::uint64_t bytes);
-    standin::Machine m_machine;
-    std::unique_ptr<DesktopSession> m_session;
-    std::unique_ptr<ProcessesPage> m_page;
+    bool waitForTick();
+    QString graph() { return session->widget("TimeHisto").value("accessibleDescription").toString(); }
+
+    standin::Machine machine;
 };
 
 void TestDialogsInterval::init()
 {
-    m_machine = standin::Machine{};
-    m_machine.memory = standin::Memory{8 << 20, 1 << 20, 0, 0};
-    m_machine.interfaces = std::vector<standin::Interface>(1);
-    m_machine.interfaces->front().name = "eth0";
+    machine = standin::Machine{};
+    machine.memory = standin::Memory{8 << 20, 1 << 20, 0, 0};
+    machine.interfaces = std::vector<standin::Interface>(1);
+    machine.interfaces->front().name = "eth0";
     SessionOptions options;
     options.settings = "[interval]\ngeneral=100000\nnet=100000\n";
-    options.machine = m_machine;
-    m_session = std::make_unique<DesktopSession>(asTestUser(options));
-    m_page = std::make_unique<ProcessesPage>(*m_session);
-    QVERIFY2(m_session->start(), qPrintable(m_session->error()));
+    options.machine = machine;
+    startProgram(options, {});
 }
 
 void TestDialogsInterval::cleanup()
 {
-    if (QTest::currentTestFailed()) {
-        qWarning("%s", qPrintable(m_session->error()));
-        m_session->savePicture(QLatin1String("failed-") + QLatin1String(QTest::currentTestFunction()));
-    }
-    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->standardError(), QByteArray());
-    QCOMPARE(m_session->exitCode(), 0);
+    reportFailure();
+    verifyQuitsCleanly();
 }
 
-bool TestDialogsInterval::open(const char *entry)
+bool TestDialogsInterval::open(const QString &entry)
 {
-    return m_session->clickMenu(QStringLiteral("Edit")) &&
-           m_session->clickMenu(QStringLiteral("Update interval")) &&
-           m_session->clickMenu(QLatin1String(entry)) &&
-           m_page->waitForDialog(QStringLiteral("Interval changing"));
+    return clickMenus({"Edit", "Update interval", entry}) && page->waitForDialog("Interval changing");
 }
 
-// Of the dialog and of the window behind it.
+/// Texts of the dialog and of the window behind it.
 QStringList TestDialogsInterval::labels()
 {
     QStringList texts;
-    const QJsonArray widgets =
-        m_session->probe(QStringLiteral("widgets QLabel")).value(QLatin1String("widgets")).toArray();
-    for (const QJsonValue &label : widgets)
-        texts.append(label[QLatin1String("text")].toString());
+    for (const QJsonValue &label : session->probe("widgets QLabel").value("widgets").toArray()) {
+        texts.append(label["text"].toString());
+    }
     return texts;
 }
 
-bool TestDialogsInterval::okIsEnabled()
-{
-    const QJsonArray buttons = m_session->dialog().value(QLatin1String("buttons")).toArray();
-    return std::any_of(buttons.begin(), buttons.end(), [](const QJsonValue &button) {
-        return button[QLatin1String("text")].toString().remove(QLatin1Char('&')) == QLatin1String("OK") &&
-               button[QLatin1String("enabled")].toBool();
-    });
-}
-
-int TestDialogsInterval::sliderValue()
-{
-    return m_session->widget(QStringLiteral("QSlider")).value(QLatin1String("value")).toInt();
-}
-
-// From the handle to where its middle is at the value; the handle needs about its half at each end.
+/// Half of the handle's width stays free at each end of the slider.
 void TestDialogsInterval::dragSliderTo(int value)
 {
-    const QRect rect = rectOf(m_session->widget(QStringLiteral("QSlider")).value(QLatin1String("rect")));
+    const QRect rect = rectOf(slider().value("rect"));
     const int halfHandle = 8;
     const int length = rect.width() - 2 * halfHandle;
     const auto place = [&](int at) {
         return QPoint(rect.left() + halfHandle + length * (at - 1) / 4, rect.center().y());
     };
-    m_session->drag(place(sliderValue()), place(value));
+    session->drag(place(sliderValue()), place(value));
 }
 
-// The processes are listed anew once in three ticks: a name that is new to the list tells of one.
-bool TestDialogsInterval::aTickHasPassed()
+/// The process list is refreshed every third tick: waits for a new process to appear in it.
+bool TestDialogsInterval::waitForTick()
 {
-    standin::Process process;
+    if (!machine.processes) {
+        machine.processes.emplace();
+    }
+    const int pid = 1000 + int(machine.processes->size());
+    standin::Process &process = (*machine.processes)[pid];
     process.name = "tick";
     process.uid = testUser();
-    if (!m_machine.processes)
-        m_machine.processes.emplace();
-    const int pid = 1000 + int(m_machine.processes->size());
-    (*m_machine.processes)[pid] = process;
-    m_session->setMachine(m_machine);
-    return m_session->waitFor(
-        [&] { return m_page->list().find(QStringLiteral("PID"), QString::number(pid)) >= 0; });
-}
-
-QString TestDialogsInterval::graph()
-{
-    return m_session->widget(QStringLiteral("TimeHisto"))
-        .value(QLatin1String("accessibleDescription"))
-        .toString();
-}
-
-void TestDialogsInterval::setFreeMemory(std::uint64_t bytes)
-{
-    m_machine.memory->free = bytes;
-    m_session->setMachine(m_machine);
+    session->setMachine(machine);
+    return page->waitForRow(pid);
 }
 
 void TestDialogsInterval::everyPageHasItsDialog_data()
 {
     QTest::addColumn<QString>("entry");
-    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("pageName");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("general") << "General interval"
-                             << "General page"
-                             << "100000";
-    QTest::newRow("processes") << "Process interval"
-                               << "Processes page"
-                               << "3";
-    QTest::newRow("file systems") << "Filesystem interval"
-                                  << "Filesystems page"
-                                  << "3";
-    QTest::newRow("network") << "Network interval"
-                             << "Network page"
-                             << "100000";
+    const auto addRow = [](const char *entry, const char *pageName, const char *shown) {
+        QTest::newRow(entry) << QString(entry) << QString(pageName) << QString(shown);
+    };
+    addRow("General interval", "General page", "100000");
+    addRow("Process interval", "Processes page", "3");
+    addRow("Filesystem interval", "Filesystems page", "3");
+    addRow("Network interval", "Network page", "100000");
 }
 
-// A stored value outside of the slider's range is told as it is; the slider stands at its end.
+/// A stored value outside of the slider's range is shown unchanged; the slider is at its end.
 void TestDialogsInterval::everyPageHasItsDialog()
 {
     QFETCH(QString, entry);
-    QFETCH(QString, page);
+    QFETCH(QString, pageName);
     QFETCH(QString, shown);
-    QVERIFY(open(qPrintable(entry)));
-    const QString text = QStringLiteral("You can set time interval (in secs)\n between updates for page ");
-    QVERIFY(labels().contains(text + page));
+    QVERIFY(open(entry));
+    QVERIFY(labels().contains("You can set time interval (in secs)\n between updates for page " + pageName));
     QVERIFY(labels().contains(shown));
-    QVERIFY(labels().contains(QStringLiteral("Interval")));
-    const QJsonObject slider = m_session->widget(QStringLiteral("QSlider"));
-    QCOMPARE(slider.value(QLatin1String("minimum")).toInt(), 1);
-    QCOMPARE(slider.value(QLatin1String("maximum")).toInt(), 5);
+    QVERIFY(labels().contains("Interval"));
+    QCOMPARE(slider().value("minimum").toInt(), 1);
+    QCOMPARE(slider().value("maximum").toInt(), 5);
     QCOMPARE(sliderValue(), std::min(shown.toInt(), 5));
     QVERIFY(!okIsEnabled());
 }
@@ -176,71 +123,71 @@ void TestDialogsInterval::okIsDisabledUntilTheSliderIsDragged()
 {
     QVERIFY(open("Process interval"));
     QVERIFY(!okIsEnabled());
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(!m_session->dialog().isEmpty());
+    QVERIFY(session->clickButton("OK"));
+    QVERIFY(!session->dialog().isEmpty());
     dragSliderTo(4);
-    QVERIFY(m_session->waitFor([&] { return okIsEnabled(); }));
+    QVERIFY(session->waitFor([&] { return okIsEnabled(); }));
     QCOMPARE(sliderValue(), 4);
-    QVERIFY(labels().contains(QStringLiteral("4")));
+    QVERIFY(labels().contains("4"));
 }
 
-// The toolkit tells the first steps of a slider that is held down as moves: the keyboard user's way in.
-void TestDialogsInterval::theKeyboardReachesTheSliderAndOk()
+/// The slider is set down in advance, so the toolkit reports steps by key as moves too, which enables OK.
+void TestDialogsInterval::keyboardReachesTheSliderAndOk()
 {
     QVERIFY(open("Process interval"));
-    QVERIFY(m_session->key(QStringLiteral("Left")));
-    QVERIFY(m_session->waitFor([&] { return sliderValue() == 2 && okIsEnabled(); }));
-    QVERIFY(m_session->key(QStringLiteral("Return")));
-    QVERIFY(m_page->waitForNoDialog());
+    QVERIFY(session->key("Left"));
+    QVERIFY(session->waitFor([&] { return sliderValue() == 2 && okIsEnabled(); }));
+    QVERIFY(session->key("Return"));
+    QVERIFY(page->waitForNoDialog());
     QVERIFY(open("Process interval"));
     QCOMPARE(sliderValue(), 2);
 }
 
-void TestDialogsInterval::anAcceptedIntervalIsUsed()
+void TestDialogsInterval::acceptedIntervalIsUsed()
 {
-    const QString before = m_session->text(QStringLiteral("lblMemFree"));
-    setFreeMemory(3 << 20);
+    const QString before = session->text("lblMemFree");
+    machine.memory->free = 3 << 20;
+    session->setMachine(machine);
     QVERIFY(open("General interval"));
     dragSliderTo(1);
-    QVERIFY(m_session->waitFor([&] { return okIsEnabled(); }));
-    QCOMPARE(m_session->text(QStringLiteral("lblMemFree")), before);
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_session->waitFor(
-        [&] { return m_session->text(QStringLiteral("lblMemFree")).startsWith(QStringLiteral("3.00 MB")); }));
-    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
-    QFile file(m_session->settingsFile());
+    QVERIFY(session->waitFor([&] { return okIsEnabled(); }));
+    QCOMPARE(session->text("lblMemFree"), before);
+    QVERIFY(session->clickButton("OK"));
+    QVERIFY(session->waitFor([&] { return session->text("lblMemFree").startsWith("3.00 MB"); }));
+    QVERIFY2(page->quit(), qPrintable(session->error()));
+    QFile file(session->settingsFile());
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readAll().contains("\ngeneral=1\n"));
-    QVERIFY(m_session->start());
+    QVERIFY(session->start());
 }
 
-void TestDialogsInterval::aCancelledIntervalIsNot()
+void TestDialogsInterval::cancelledIntervalIsNot()
 {
     QVERIFY(open("General interval"));
     dragSliderTo(1);
-    QVERIFY(m_session->waitFor([&] { return okIsEnabled(); }));
-    QVERIFY(m_session->clickButton(QStringLiteral("Cancel")));
-    QVERIFY(m_page->waitForNoDialog());
-    QVERIFY(m_page->showPage(QStringLiteral("Processes")));
-    QVERIFY(aTickHasPassed());
+    QVERIFY(session->waitFor([&] { return okIsEnabled(); }));
+    QVERIFY(session->clickButton("Cancel"));
+    QVERIFY(page->waitForNoDialog());
+    QVERIFY(page->showPage("Processes"));
+    QVERIFY(waitForTick());
     QVERIFY(open("General interval"));
-    QVERIFY(labels().contains(QStringLiteral("100000")));
+    QVERIFY(labels().contains("100000"));
     QCOMPARE(sliderValue(), 5);
 }
 
-// A change to the page takes a sample; no tick takes another.
-void TestDialogsInterval::theNetworkDialogEmptiesTheGraphEvenIfCancelled()
+/// Showing the page takes a sample; no tick takes another.
+void TestDialogsInterval::networkDialogClearsTheGraphEvenWhenCancelled()
 {
-    QVERIFY(m_page->showPage(QStringLiteral("Network")));
-    QVERIFY(m_session->waitFor([&] { return !graph().isEmpty(); }));
+    QVERIFY(page->showPage("Network"));
+    QVERIFY(session->waitFor([&] { return !graph().isEmpty(); }));
     QVERIFY(open("General interval"));
-    QVERIFY(m_session->clickButton(QStringLiteral("Cancel")));
-    QVERIFY(m_page->waitForNoDialog());
-    QVERIFY2(!graph().isEmpty(), "the dialogs of the other pages leave it");
+    QVERIFY(session->clickButton("Cancel"));
+    QVERIFY(page->waitForNoDialog());
+    QVERIFY2(!graph().isEmpty(), "the dialog of another page has cleared the graph");
     QVERIFY(open("Network interval"));
     QVERIFY(!graph().isEmpty());
-    QVERIFY(m_session->key(QStringLiteral("Escape")));
-    QVERIFY(m_session->waitFor([&] { return graph().isEmpty(); }));
+    QVERIFY(session->key("Escape"));
+    QVERIFY(session->waitFor([&] { return graph().isEmpty(); }));
 }
 
 QTEST_GUILESS_MAIN(TestDialogsInterval)

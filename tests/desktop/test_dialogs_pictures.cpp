@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/processespage.h"
-#include "tests/desktop/sampleprocess.h"
-
-#include <QJsonArray>
-#include <QtTest>
+#include "tests/desktop/programtest.h"
 
 #include <csignal>
 
 namespace {
 
-// The toolkit's only platform theme that reads the colors of widgets from a file.
-void takeDesktopColors(SessionOptions &options)
+/// "kde" is the toolkit's only platform theme that reads widget colors from a file.
+void useDesktopColors(SessionOptions &options)
 {
-    options.environment[QStringLiteral("QT_QPA_PLATFORMTHEME")] = QStringLiteral("kde");
-    options.environment[QStringLiteral("XDG_CURRENT_DESKTOP")] = QStringLiteral("KDE");
-    options.environment[QStringLiteral("KDE_SESSION_VERSION")] = QStringLiteral("5");
-    options.environment[QStringLiteral("QT_STYLE_OVERRIDE")] = QStringLiteral("fusion");
+    options.environment["QT_QPA_PLATFORMTHEME"] = "kde";
+    options.environment["XDG_CURRENT_DESKTOP"] = "KDE";
+    options.environment["KDE_SESSION_VERSION"] = "5";
+    options.environment["QT_STYLE_OVERRIDE"] = "fusion";
 }
 
 void writeDarkColors(const QString &home)
@@ -24,27 +20,28 @@ void writeDarkColors(const QString &home)
     const QByteArray foreground = "ForegroundNormal=235,235,235\nForegroundInactive=150,150,150\n"
                                   "ForegroundLink=100,160,255\nForegroundVisited=180,140,255\n";
     QByteArray text;
-    for (const char *group : {"Window", "View", "Button", "Tooltip"})
+    for (const char *group : {"Window", "View", "Button", "Tooltip"}) {
         text += "[Colors:" + QByteArray(group) + "]\n" + background + foreground;
+    }
     text += "[Colors:Selection]\nBackgroundNormal=60,110,180\n" + foreground;
-    QFile file(home + QStringLiteral("/.config/kdeglobals"));
+    QFile file(home + "/.config/kdeglobals");
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
 }
 
-// Text that may be wrapped asks for a height that goes with its width.
+/// The height that wrapped text needs depends on its width.
 bool hasRoom(const QJsonValue &widget)
 {
-    const QSize given = rectOf(widget[QLatin1String("rect")]).size();
-    const QSize wanted = rectOf(widget[QLatin1String("sizeHint")]).size();
-    const int wrapped = widget[QLatin1String("heightForWidth")].toInt(-1);
+    const QSize given = rectOf(widget["rect"]).size();
+    const QSize wanted = rectOf(widget["sizeHint"]).size();
+    const int wrapped = widget["heightForWidth"].toInt(-1);
     return wrapped >= 0 ? given.height() >= wrapped
                         : given.width() >= wanted.width() && given.height() >= wanted.height();
 }
 
 } // namespace
 
-// Every menu and dialog, drawn for a look at them; nothing in a dialog is cut off.
-class TestDialogsPictures : public QObject
+/// Saves a picture of every menu and dialog for inspection; checks that nothing in a dialog is cut off.
+class TestDialogsPictures : public ProgramTest
 {
     Q_OBJECT
 
@@ -53,17 +50,16 @@ private Q_SLOTS:
     void everyMenuAndDialogIsDrawn();
 
 private:
-    bool save(const char *name);
+    bool save(const QString &name) { return session->savePicture(name + suffix); }
     QString cutOff();
     void drawMenus(int pid);
-    void ask(const SampleProcess &sample, const char *key, const char *title);
+    void ask(int pid, const char *key, const char *title);
     void drawBox(const char *name);
-    void drawQuestions(const SampleProcess &sample);
+    void drawQuestions(const SampleProcess &process);
     void drawErrors();
     void drawOtherDialogs(int pid);
-    QString m_suffix;
-    std::unique_ptr<DesktopSession> m_session;
-    std::unique_ptr<ProcessesPage> m_page;
+
+    QString suffix;
 };
 
 void TestDialogsPictures::everyMenuAndDialogIsDrawn_data()
@@ -84,44 +80,34 @@ void TestDialogsPictures::everyMenuAndDialogIsDrawn()
     SessionOptions options;
     options.dpi = dpi;
     options.screen = screen;
-    m_suffix = dark ? QStringLiteral("-dark") : QStringLiteral("-%1dpi").arg(dpi);
-    if (dark)
-        takeDesktopColors(options);
-    m_session = std::make_unique<DesktopSession>(asTestUser(options));
-    m_page = std::make_unique<ProcessesPage>(*m_session);
-    QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
-    if (dark) { // the home is there now
-        QVERIFY(m_page->quit());
-        writeDarkColors(m_session->home());
-        QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
+    suffix = dark ? "-dark" : QString("-%1dpi").arg(dpi);
+    if (dark) {
+        useDesktopColors(options);
     }
-    const SampleProcess sample(QStringLiteral("pic"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample.isReady());
-    QVERIFY(m_page->waitForRow(sample.pid()));
-    drawMenus(sample.pid());
-    drawQuestions(sample);
+    startProgram(options);
+    if (dark) { // the home directory exists from the first start on
+        QVERIFY(page->quit());
+        writeDarkColors(session->home());
+        QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
+    }
+    const SampleProcess process = sample("pic");
+    QVERIFY(isListed(process));
+    drawMenus(process.pid());
+    drawQuestions(process);
     drawErrors();
-    drawOtherDialogs(sample.pid());
-    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->standardError(), QByteArray());
+    drawOtherDialogs(process.pid());
+    verifyQuitsCleanly();
 }
 
-bool TestDialogsPictures::save(const char *name)
-{
-    return m_session->savePicture(QLatin1String(name) + m_suffix);
-}
-
-// What has less room than it asks for in the open dialog; empty if nothing has.
+/// The text of a widget that has less room than it asks for in the open dialog; empty if there is none.
 QString TestDialogsPictures::cutOff()
 {
-    const QRect dialog = rectOf(m_session->dialog().value(QLatin1String("rect")));
-    for (const char *kind : {"QLabel", "QPushButton"}) {
-        const QJsonArray widgets = m_session->probe(QStringLiteral("widgets ") + QLatin1String(kind))
-                                       .value(QLatin1String("widgets"))
-                                       .toArray();
-        for (const QJsonValue &widget : widgets) {
-            if (dialog.contains(rectOf(widget[QLatin1String("rect")])) && !hasRoom(widget))
-                return widget[QLatin1String("text")].toString();
+    const QRect dialog = rectOf(session->dialog().value("rect"));
+    for (const char *command : {"widgets QLabel", "widgets QPushButton"}) {
+        for (const QJsonValue &widget : session->probe(command).value("widgets").toArray()) {
+            if (dialog.contains(rectOf(widget["rect"])) && !hasRoom(widget)) {
+                return widget["text"].toString();
+            }
         }
     }
     return {};
@@ -129,95 +115,88 @@ QString TestDialogsPictures::cutOff()
 
 void TestDialogsPictures::drawMenus(int pid)
 {
-    for (const char *menu : {"File", "Edit", "Help"}) {
-        QVERIFY(m_session->clickMenu(QLatin1String(menu)));
-        QVERIFY(m_session->waitFor([&] { return !m_session->menuTexts().isEmpty(); }));
-        if (QLatin1String(menu) == QLatin1String("Edit"))
-            QVERIFY(m_session->clickMenu(QStringLiteral("Update interval")));
-        QVERIFY(save(qPrintable(QStringLiteral("menu-") + QString::fromLatin1(menu).toLower())));
-        QVERIFY(m_page->closeMenus());
+    for (const QString menu : {"File", "Edit", "Help"}) {
+        QVERIFY(session->clickMenu(menu));
+        QVERIFY(session->waitFor([&] { return !session->menuTexts().isEmpty(); }));
+        if (menu == "Edit") {
+            QVERIFY(session->clickMenu("Update interval"));
+        }
+        QVERIFY(save("menu-" + menu.toLower()));
+        QVERIFY(page->closeMenus());
     }
-    QVERIFY(m_page->select(pid));
-    QVERIFY(m_page->openProcessMenu());
+    QVERIFY(page->select(pid));
+    QVERIFY(page->openProcessMenu());
     QVERIFY(save("menu-process"));
-    QVERIFY(m_page->closeMenus());
-    QVERIFY(m_page->openContextMenu(pid));
-    QVERIFY(m_session->clickMenu(QStringLiteral("Visible columns")));
-    QVERIFY(m_session->waitFor([&] { return m_session->menuTexts().value(0) == QLatin1String("Name"); }));
+    QVERIFY(page->closeMenus());
+    QVERIFY(page->openContextMenu(pid));
+    QVERIFY(session->clickMenu("Visible columns"));
+    QVERIFY(session->waitFor([&] { return session->menuTexts().value(0) == "Name"; }));
     QVERIFY(save("menu-context"));
-    QVERIFY(m_page->closeMenus());
+    QVERIFY(page->closeMenus());
 }
 
-void TestDialogsPictures::ask(const SampleProcess &sample, const char *key, const char *title)
+void TestDialogsPictures::ask(int pid, const char *key, const char *title)
 {
-    QVERIFY(m_page->select(sample.pid()));
-    QVERIFY(m_session->key(QLatin1String(key)));
-    QVERIFY(m_page->waitForDialog(QLatin1String(title)));
+    QVERIFY(page->select(pid));
+    QVERIFY(session->key(key));
+    QVERIFY(page->waitForDialog(title));
 }
 
 void TestDialogsPictures::drawBox(const char *name)
 {
     QVERIFY(save(name));
     QCOMPARE(cutOff(), QString());
-    QVERIFY(m_page->dismissAll());
+    QVERIFY(page->dismissAll());
 }
 
-void TestDialogsPictures::drawQuestions(const SampleProcess &sample)
+void TestDialogsPictures::drawQuestions(const SampleProcess &process)
 {
-    ask(sample, "ctrl+s", "Process stopping");
+    ask(process.pid(), "ctrl+s", "Process stopping");
     drawBox("dialog-stop");
-    ask(sample, "ctrl+t", "Process terminating");
+    ask(process.pid(), "ctrl+t", "Process terminating");
     drawBox("dialog-terminate");
-    ask(sample, "ctrl+k", "Process killing");
+    ask(process.pid(), "ctrl+k", "Process killing");
     drawBox("dialog-kill");
-    QVERIFY(sample.sendSignal(SIGSTOP));
-    QVERIFY(m_page->waitForText(sample.pid(), "State", QStringLiteral("Stopped")));
-    ask(sample, "ctrl+c", "Process resuming");
+    QVERIFY(process.sendSignal(SIGSTOP));
+    QVERIFY(page->waitForText(process.pid(), "State", "Stopped"));
+    ask(process.pid(), "ctrl+c", "Process resuming");
     drawBox("dialog-continue");
-    QVERIFY(sample.sendSignal(SIGCONT));
+    QVERIFY(process.sendSignal(SIGCONT));
 }
 
 void TestDialogsPictures::drawErrors()
 {
-    auto sample = std::make_unique<SampleProcess>(QStringLiteral("err"), SampleProcess::Sleeping, testUser());
-    QVERIFY(sample->isReady());
-    const int pid = sample->pid();
-    QVERIFY(m_page->waitForRow(pid));
+    std::optional<SampleProcess> process(std::in_place, "err", SampleProcess::Sleeping, testUser());
+    QVERIFY(isListed(*process));
+    const int pid = process->pid();
 
-    QVERIFY(m_page->openContextMenu(pid));
-    QVERIFY(m_session->clickMenu(QStringLiteral("Change priority...")));
-    QVERIFY(m_page->waitForDialog(QStringLiteral("Change priority")));
-    QVERIFY(m_session->key(QStringLiteral("Left"))); // a higher priority, which the kernel refuses
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_page->waitForDialog(QStringLiteral("Error")));
+    QVERIFY(page->openContextMenu(pid));
+    QVERIFY(session->clickMenu("Change priority..."));
+    QVERIFY(page->waitForDialog("Change priority"));
+    QVERIFY(session->key("Left")); // a higher priority, which the kernel refuses
+    QVERIFY(session->clickButton("OK"));
+    QVERIFY(page->waitForDialog("Error"));
     drawBox("dialog-error-priority");
 
-    ask(*sample, "ctrl+t", "Process terminating");
-    sample.reset();
-    QVERIFY(m_page->waitForNoRow(pid));
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_page->waitForDialog(QStringLiteral("Error")));
+    ask(pid, "ctrl+t", "Process terminating");
+    process.reset();
+    QVERIFY(page->waitForNoRow(pid));
+    QVERIFY(session->clickButton("OK"));
+    QVERIFY(page->waitForDialog("Error"));
     drawBox("dialog-error-signal");
 }
 
 void TestDialogsPictures::drawOtherDialogs(int pid)
 {
-    const struct
-    {
-        const char *name;
-        QStringList way;
-    } dialogs[] = {
-        {"dialog-interval",
-         {QStringLiteral("Edit"), QStringLiteral("Update interval"), QStringLiteral("Filesystem interval")}},
-        {"dialog-priority",
-         {QStringLiteral("Edit"), QStringLiteral("Process"), QStringLiteral("Change priority...")}},
-        {"dialog-about", {QStringLiteral("Help"), QStringLiteral("About")}}};
-    for (const auto &dialog : dialogs) {
-        QVERIFY(m_page->select(pid));
-        for (const QString &entry : dialog.way)
-            QVERIFY2(m_session->clickMenu(entry), qPrintable(entry));
-        QVERIFY(m_session->waitFor([&] { return !m_session->dialog().isEmpty(); }));
-        drawBox(dialog.name);
+    const std::pair<const char *, QStringList> dialogs[] = {
+        {"dialog-interval", {"Edit", "Update interval", "Filesystem interval"}},
+        {"dialog-priority", {"Edit", "Process", "Change priority..."}},
+        {"dialog-about", {"Help", "About"}}};
+    for (const auto &[name, way] : dialogs) {
+        QVERIFY(page->select(pid));
+        QVERIFY2(clickMenus(way), name);
+        QVERIFY(session->waitFor([&] { return !session->dialog().isEmpty(); }));
+        drawBox(name);
     }
 }
 

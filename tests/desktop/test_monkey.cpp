@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// ZSM_MONKEY_SEED and ZSM_MONKEY_ACTIONS choose another run of the monkey.
+// ZSM_MONKEY_SEED and ZSM_MONKEY_ACTIONS select another run of the monkey.
 #include "tests/desktop/monkey.h"
-#include "tests/desktop/processespage.h"
+#include "tests/desktop/programtest.h"
 
 #include <QDir>
 #include <QSettings>
-#include <QtTest>
 
 namespace {
+
+using Contents = QMap<QString, QStringList>;
 
 int numberFrom(const char *variable, int standard)
 {
@@ -16,9 +17,9 @@ int numberFrom(const char *variable, int standard)
     return given ? number : standard;
 }
 
-QString processFile(qint64 pid, const char *name)
+QString processFile(qint64 pid, const QString &name)
 {
-    return QStringLiteral("/proc/%1/%2").arg(pid).arg(QLatin1String(name));
+    return QString("/proc/%1/%2").arg(pid).arg(name);
 }
 
 int descriptorsOf(qint64 pid)
@@ -27,38 +28,29 @@ int descriptorsOf(qint64 pid)
     return folder.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
 }
 
-// The most memory that the process has had; in KiB.
+/// The largest resident set that the process has had, in KiB.
 int peakMemoryOf(qint64 pid)
 {
     QFile file(processFile(pid, "status"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    const QString text = QString::fromLatin1(file.readAll());
-    return text.section(QStringLiteral("VmHWM:"), 1).section(QStringLiteral("kB"), 0, 0).trimmed().toInt();
+    const QString text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return text.section("VmHWM:", 1).section("kB", 0, 0).trimmed().toInt();
 }
 
-// Without the network interval, which is read under another key than it is written.
-QMap<QString, QStringList> contentsOf(const QString &settingsFile)
+/// Without the network interval, which is read under another key than it is written. Of the geometry, only
+/// what another run keeps: the title bar of a maximised window can have another height, and with the default
+/// font the window can need more room than with the font of the last run.
+Contents comparableContents(const QString &settingsFile)
 {
     const QSettings settings(settingsFile, QSettings::IniFormat);
-    QMap<QString, QStringList> contents;
-    const QStringList keys = settings.allKeys();
-    for (const QString &key : keys)
+    Contents contents;
+    for (const QString &key : settings.allKeys()) {
         contents[key] = settings.value(key).toStringList();
-    contents.remove(QStringLiteral("interval/nwt"));
-    return contents;
-}
-
-// Of the geometry without what another run may have otherwise: the title bar of a maximised window need not
-// be as high as it was before, and with the usual font the window may need more room than it had with the
-// last one.
-QStringList comparable(const QString &key, QStringList fields)
-{
-    if (key == QLatin1String("geometry")) {
-        for (const int field : {4, 3, 2}) // height of the title bar, height, width
-            fields.removeAt(field);
     }
-    return fields;
+    contents.remove("interval/nwt");
+    for (const int field : {4, 3, 2}) { // height of the title bar, height, width
+        contents["geometry"].removeAt(field);
+    }
+    return contents;
 }
 
 QStringList sorted(QStringList texts)
@@ -69,24 +61,21 @@ QStringList sorted(QStringList texts)
 
 } // namespace
 
-class TestMonkey : public QObject
+class TestMonkey : public ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void cleanup();
-    void theProgramCanNotEndItself();
-    void theProgramOutlivesAUserWhoDoesEverything();
-    void itKeepsWhatTheUserSet();
+    void cleanup() { reportFailure(); }
+    void programCannotKillItself();
+    void programSurvivesAUserWhoDoesEverything();
+    void settingsOfTheUserAreKept();
 
 private:
-    bool everythingIsWell(Monkey &monkey, bool answered);
-    bool windowIsWhereItIsSaid();
+    bool everythingIsWell(const Monkey &monkey, bool answered);
+    bool windowIsWhereItSays();
     void reportFigures(const Monkey &monkey, quint32 seed, int actions, int descriptors);
-
-    std::unique_ptr<DesktopSession> m_session;
-    std::unique_ptr<ProcessesPage> m_page;
 };
 
 void TestMonkey::initTestCase()
@@ -95,111 +84,103 @@ void TestMonkey::initTestCase()
     SessionOptions options;
     options.settings = "[interval]\ngeneral=1\nprocs=1\nfs=1\nnet=1\n";
     options.machine = Churn::machine(random);
-    options.preload.append(QStringLiteral(ZSM_GUARD_OBJECT));
-    if (testUser() < 0)
-        options.environment[QStringLiteral("ZSM_GUARD")] = QStringLiteral("all");
-    m_session = std::make_unique<DesktopSession>(asTestUser(options));
-    m_page = std::make_unique<ProcessesPage>(*m_session);
-    QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
+    options.preload.append(ZSM_GUARD_OBJECT);
+    if (testUser() < 0) {
+        options.environment["ZSM_GUARD"] = "all";
+    }
+    startProgram(options);
 }
 
-void TestMonkey::cleanup()
+void TestMonkey::programCannotKillItself()
 {
-    if (QTest::currentTestFailed())
-        m_session->savePicture(QLatin1String("failed-") + QLatin1String(QTest::currentTestFunction()));
+    const int pid = int(session->pid());
+    QVERIFY(page->select(pid));
+    QCOMPARE(session->probe("selected treeView").value("id").toInt(), pid);
+    QVERIFY(session->key("ctrl+k"));
+    QVERIFY(page->waitForDialog("Process killing"));
+    QVERIFY(session->clickButton("OK"));
+    QVERIFY(page->waitForDialog("Error"));
+    QVERIFY(page->dismissAll());
 }
 
-void TestMonkey::theProgramCanNotEndItself()
-{
-    QVERIFY(m_page->select(int(m_session->pid())));
-    QCOMPARE(m_session->probe(QStringLiteral("selected treeView")).value(QLatin1String("id")).toInt(),
-             int(m_session->pid()));
-    QVERIFY(m_session->key(QStringLiteral("ctrl+k")));
-    QVERIFY(m_page->waitForDialog(QStringLiteral("Process killing")));
-    QVERIFY(m_session->clickButton(QStringLiteral("OK")));
-    QVERIFY(m_page->waitForDialog(QStringLiteral("Error")));
-    QVERIFY(m_page->dismissAll());
-}
-
-void TestMonkey::theProgramOutlivesAUserWhoDoesEverything()
+void TestMonkey::programSurvivesAUserWhoDoesEverything()
 {
     const auto seed = static_cast<quint32>(numberFrom("ZSM_MONKEY_SEED", 1));
     const int actions = numberFrom("ZSM_MONKEY_ACTIONS", 800);
     qInfo("seed %u, %d actions", seed, actions);
     Churn churn(testUser());
-    Monkey monkey(*m_session, churn, seed);
+    Monkey monkey(*session, churn, seed);
     int descriptorsAtFirst = 0;
     for (int action = 0; action < actions; ++action) {
         QVERIFY(everythingIsWell(monkey, monkey.act()));
         if (action == actions / 4) {
             QVERIFY(everythingIsWell(monkey, monkey.comeToRest()));
-            descriptorsAtFirst = descriptorsOf(m_session->pid());
+            descriptorsAtFirst = descriptorsOf(session->pid());
         }
     }
     QVERIFY(everythingIsWell(monkey, monkey.comeToRest()));
     reportFigures(monkey, seed, actions, descriptorsAtFirst);
     const int enoughForEveryKind = 5000;
     QVERIFY(actions < enoughForEveryKind || !monkey.counts().values().contains(0));
-    QVERIFY(descriptorsOf(m_session->pid()) <= descriptorsAtFirst);
+    QVERIFY(descriptorsOf(session->pid()) <= descriptorsAtFirst);
 }
 
-// Says what was done before if it isn't.
-bool TestMonkey::everythingIsWell(Monkey &monkey, bool answered)
+/// Prints what was done before if it isn't.
+bool TestMonkey::everythingIsWell(const Monkey &monkey, bool answered)
 {
-    const QByteArray said = m_session->standardError();
-    if (answered && said.isEmpty())
+    const QByteArray errors = session->standardError();
+    if (answered && errors.isEmpty()) {
         return true;
+    }
     qWarning("the last actions:\n   %s\n   %s; standard error:\n   %s",
-             qPrintable(monkey.lastActions().join(QLatin1String("\n   "))),
-             m_session->isRunning() ? "the program runs" : "the program has ended", said.constData());
+             qPrintable(monkey.lastActions().join("\n   ")),
+             session->isRunning() ? "the program runs" : "the program has exited", errors.constData());
     return false;
 }
 
 void TestMonkey::reportFigures(const Monkey &monkey, quint32 seed, int actions, int descriptors)
 {
     const QMap<QString, int> counts = monkey.counts();
-    for (auto each = counts.begin(); each != counts.end(); ++each)
+    for (auto each = counts.begin(); each != counts.end(); ++each) {
         qInfo("%5d %s", each.value(), qPrintable(each.key()));
+    }
     const QMap<QString, int> dialogs = monkey.dialogs();
-    for (auto each = dialogs.begin(); each != dialogs.end(); ++each)
+    for (auto each = dialogs.begin(); each != dialogs.end(); ++each) {
         qInfo("%5d dialogs \"%s\"", each.value(), qPrintable(each.key()));
+    }
     qInfo("seed %u: %d actions, peak memory %d KiB, descriptors %d then %d", seed, actions,
-          peakMemoryOf(m_session->pid()), descriptors, descriptorsOf(m_session->pid()));
+          peakMemoryOf(session->pid()), descriptors, descriptorsOf(session->pid()));
 }
 
-// The program learns of a move or a new size a little later than the screen.
-bool TestMonkey::windowIsWhereItIsSaid()
+/// The program learns of a move or a new size a little later than the screen shows it.
+bool TestMonkey::windowIsWhereItSays()
 {
-    const QJsonObject window = m_session->mainWindow();
-    const auto id = static_cast<unsigned long>(window.value(QLatin1String("id")).toDouble());
-    return m_session->x().windowRect(id) == rectOf(window.value(QLatin1String("rect")));
+    const QJsonObject window = session->mainWindow();
+    const auto id = static_cast<unsigned long>(window.value("id").toDouble());
+    return session->x().windowRect(id) == rectOf(window.value("rect"));
 }
 
-void TestMonkey::itKeepsWhatTheUserSet()
+void TestMonkey::settingsOfTheUserAreKept()
 {
-    QVERIFY(m_page->showPage(QStringLiteral("Processes")));
-    QVERIFY2(m_session->waitFor([&] { return windowIsWhereItIsSaid(); }), qPrintable(m_session->error()));
-    const Table before = m_page->list();
-    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->standardError(), QByteArray());
-    QCOMPARE(m_session->exitCode(), 0);
-    const QMap<QString, QStringList> kept = contentsOf(m_session->settingsFile());
-    QVERIFY(kept.contains(QStringLiteral("column/Name")));
+    QVERIFY(page->showPage("Processes"));
+    QVERIFY2(session->waitFor([&] { return windowIsWhereItSays(); }), qPrintable(session->error()));
+    const Table before = page->list();
+    verifyQuitsCleanly();
+    const Contents kept = comparableContents(session->settingsFile());
+    QVERIFY(kept.contains("column/Name"));
 
-    QVERIFY2(m_session->start({QStringLiteral("processes")}), qPrintable(m_session->error()));
-    const Table after = m_page->list();
+    QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
+    const Table after = page->list();
     QCOMPARE(sorted(after.visibleHeaders()), sorted(before.visibleHeaders())); // their order isn't kept
     QCOMPARE(after.sortSection, before.sortSection);
     QCOMPARE(after.sortDescending, before.sortDescending);
-    QVERIFY2(m_page->quit(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->standardError(), QByteArray());
-    QCOMPARE(m_session->exitCode(), 0);
-    const QMap<QString, QStringList> keptAgain = contentsOf(m_session->settingsFile());
+    verifyQuitsCleanly();
+    const Contents keptAgain = comparableContents(session->settingsFile());
     QCOMPARE(keptAgain.keys(), kept.keys());
-    for (const QString &key : kept.keys())
-        QVERIFY2(comparable(key, keptAgain[key]) == comparable(key, kept[key]),
-                 qPrintable(key + QStringLiteral(": ") + kept[key].join(QLatin1Char(' ')) +
-                            QStringLiteral(", then ") + keptAgain[key].join(QLatin1Char(' '))));
+    for (const QString &key : kept.keys()) {
+        QVERIFY2(keptAgain[key] == kept[key],
+                 qPrintable(key + ": " + kept[key].join(' ') + ", then " + keptAgain[key].join(' ')));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestMonkey)

@@ -16,8 +16,23 @@ extern "C" void countInterruption(int)
 {
     const int enough = 10;
     interruptions = interruptions + 1;
-    if (interruptions == enough)
+    if (interruptions == enough) {
         kill(stoppedProgram, SIGCONT);
+    }
+}
+
+SessionOptions sampleOptions()
+{
+    SessionOptions options;
+    options.program = SAMPLE_WINDOW;
+    options.environment.insert("QT_XCB_GL_INTEGRATION", "none");
+    return options;
+}
+
+/// Of a label, in pixels: grows with the font and the resolution.
+int textHeight(DesktopSession &session)
+{
+    return rectOf(session.widget("memory").value("sizeHint")).height();
 }
 
 } // namespace
@@ -28,409 +43,362 @@ class TestProbe : public QObject
 
 private Q_SLOTS:
     void init();
-    void windowsAreTold();
+    void windowIsDescribed();
     void widgetsAreFoundByNameAndByClass();
-    void anUnknownNameOrCommandGivesAnError();
-    void aSignalToTheTestCostsNoAnswer();
-    void tabsChangeByRealClicks();
-    void aTableTellsHeadersAndRows();
-    void aClickOnAHeaderSorts();
-    void aRowFarDownIsScrolledToAndClicked();
-    void aContextMenuIsReadAndUsed();
-    void theMenuBarIsReadAndUsed();
-    void aDialogIsReadAndAnsweredByMouse();
-    void aDialogIsAnsweredByKeyboard();
-    void keysReachTheWidgetThatHasTheFocus();
-    void theStandinAnswersAndChangesWhileTheProgramRuns();
-    void theWindowIsResized();
-    void theWindowIsMaximised();
-    void theStateIsToldInShort();
+    void badCommandGivesAnError_data();
+    void badCommandGivesAnError();
+    void signalToTheTestLosesNoAnswer();
+    void tableHasHeadersAndRows();
+    void clickOnAHeaderSorts();
+    void rowFarDownIsScrolledToAndClicked();
+    void contextMenuIsReadAndUsed();
+    void menuBarIsReadAndUsed();
+    void dialogIsReadAndAnsweredByMouseAndByKeyboard();
+    void keysReachTheWidgetWithTheFocus();
+    void standinChangesWhileTheProgramRuns();
+    void windowIsResizedAndMaximised();
+    void stateIsASummary();
     void keysDoNotOvertakeClicks();
-    void theSelectedRowIsTold();
+    void selectedRowHasItsId();
     void paletteAndFontChange();
-    void theScreenIsPhotographed();
-    void theProgramReadsTheRealMachineWithoutStandin();
-    void theResolutionOfTheScreenIsChosen();
-    void ctrlQEndsTheProgramAndItStartsAgain();
-    void closingTheWindowEndsTheProgram();
-    void aProgramWithoutWindowFailsWithAWord();
+    void screenshotHasTheWholeScreen();
+    void anotherSessionHasItsOwnScreenAndTheRealMachine();
+    void ctrlQAndTheCloseButtonEndTheProgram();
+    void programWithoutWindowFailsWithAMessage();
 
 private:
-    static SessionOptions sampleOptions();
-    std::unique_ptr<DesktopSession> m_session;
+    bool waitForText(const QString &widget, const QString &text);
+    bool waitForState(const QString &key, const QJsonValue &value);
+    bool waitForQuestion();
+    bool showTree();
+    QRect windowRect() { return rectOf(session->mainWindow().value("rect")); }
+    QJsonObject state() { return session->probe("state"); }
+    int tabAfterInput() { return session->stateAfterInput().value("tab").toInt(-1); }
+
+    std::unique_ptr<DesktopSession> session;
 };
 
-SessionOptions TestProbe::sampleOptions()
-{
-    SessionOptions options;
-    options.program = QStringLiteral(SAMPLE_WINDOW);
-    options.environment.insert(QStringLiteral("QT_XCB_GL_INTEGRATION"), QStringLiteral("none"));
-    return options;
-}
-
+/// One window for all test functions; it is left open with no dialog or menu.
 void TestProbe::init()
 {
-    if (!m_session) {
-        SessionOptions options = sampleOptions();
-        options.machine = standin::Machine{};
-        options.machine->memory = standin::Memory{4711, 0, 0, 0};
-        m_session = std::make_unique<DesktopSession>(options);
-        QVERIFY2(m_session->start({QStringLiteral("one"), QStringLiteral("two")}),
-                 qPrintable(m_session->error()));
+    if (session) {
+        return;
     }
+    SessionOptions options = sampleOptions();
+    options.machine = standin::Machine{};
+    options.machine->memory = standin::Memory{4711, 0, 0, 0};
+    session = std::make_unique<DesktopSession>(options);
+    QVERIFY2(session->start({"one", "two"}), qPrintable(session->error()));
 }
 
-void TestProbe::windowsAreTold()
+bool TestProbe::waitForText(const QString &widget, const QString &text)
 {
-    const QJsonObject window = m_session->mainWindow();
-    QCOMPARE(window.value(QLatin1String("title")).toString(), QStringLiteral("Sample"));
-    QCOMPARE(window.value(QLatin1String("class")).toString(), QStringLiteral("SampleWindow"));
-    QVERIFY(!window.value(QLatin1String("modal")).toBool());
-    QCOMPARE(m_session->standardOutput(), QByteArray("one\ntwo\n"));
-    QCOMPARE(m_session->exitCode(), -1);
+    return session->waitFor([&] { return session->text(widget) == text; });
+}
+
+bool TestProbe::waitForState(const QString &key, const QJsonValue &value)
+{
+    return session->waitFor([&] { return state().value(key) == value; });
+}
+
+/// Asks, and waits until the dialog has the focus.
+bool TestProbe::waitForQuestion()
+{
+    return session->clickTab("First") && session->clickWidget("ask") &&
+           session->waitFor([&] { return session->dialog().value("active").toBool(); });
+}
+
+bool TestProbe::showTree()
+{
+    return session->clickTab("Second") &&
+           session->waitFor([&] { return session->widget("tree").value("visible").toBool(); });
+}
+
+void TestProbe::windowIsDescribed()
+{
+    const QJsonObject window = session->mainWindow();
+    QCOMPARE(window.value("title").toString(), QString("Sample"));
+    QCOMPARE(window.value("class").toString(), QString("SampleWindow"));
+    QVERIFY(!window.value("modal").toBool());
+    QCOMPARE(session->standardOutput(), QByteArray("one\ntwo\n"));
+    QCOMPARE(session->exitCode(), -1);
 }
 
 void TestProbe::widgetsAreFoundByNameAndByClass()
 {
-    const QJsonObject button = m_session->widget(QStringLiteral("ask"));
-    QCOMPARE(button.value(QLatin1String("class")).toString(), QStringLiteral("QPushButton"));
-    QCOMPARE(button.value(QLatin1String("text")).toString(), QStringLiteral("&Ask"));
-    QVERIFY(button.value(QLatin1String("enabled")).toBool());
-    QVERIFY(button.value(QLatin1String("visible")).toBool());
-    QVERIFY(!rectOf(button.value(QLatin1String("rect"))).isEmpty());
-    QCOMPARE(button.value(QLatin1String("accessibleName")).toString(), QStringLiteral("Ask"));
-    const QJsonArray tabs =
-        m_session->widget(QStringLiteral("QTabWidget")).value(QLatin1String("tabs")).toArray();
+    const QJsonObject button = session->widget("ask");
+    QCOMPARE(button.value("class").toString(), QString("QPushButton"));
+    QCOMPARE(button.value("text").toString(), QString("&Ask"));
+    QVERIFY(button.value("enabled").toBool());
+    QVERIFY(button.value("visible").toBool());
+    QVERIFY(!rectOf(button.value("rect")).isEmpty());
+    QCOMPARE(button.value("accessibleName").toString(), QString("Ask"));
+    const QJsonArray tabs = session->widget("QTabWidget").value("tabs").toArray();
     QCOMPARE(tabs.size(), 2);
-    QCOMPARE(tabs[1][QLatin1String("text")].toString(), QStringLiteral("&Second"));
-    const QJsonObject labels = m_session->probe(QStringLiteral("widgets QLabel"));
-    QVERIFY(labels.value(QLatin1String("widgets")).toArray().size() >= 2);
-    const QJsonArray named =
-        m_session->probe(QStringLiteral("tree")).value(QLatin1String("widgets")).toArray();
-    QVERIFY(std::any_of(named.begin(), named.end(), [](const QJsonValue &each) {
-        return each[QLatin1String("name")] == QLatin1String("memory");
-    }));
+    QCOMPARE(tabs[1]["text"].toString(), QString("&Second"));
+    QVERIFY(session->probe("widgets QLabel").value("widgets").toArray().size() >= 2);
 }
 
-void TestProbe::anUnknownNameOrCommandGivesAnError()
+void TestProbe::badCommandGivesAnError_data()
 {
-    QVERIFY(m_session->widget(QStringLiteral("nobody")).contains(QLatin1String("error")));
-    QVERIFY(m_session->probe(QStringLiteral("table ask")).contains(QLatin1String("error")));
-    QVERIFY(m_session->probe(QStringLiteral("dance")).contains(QLatin1String("error")));
+    QTest::addColumn<QString>("command");
+    for (const char *command :
+         {"widget nobody", "table ask", "selected ask", "palette none", "font none", "dance"}) {
+        QTest::newRow(command) << command;
+    }
 }
 
-// The program can't answer before the waiting for it has been interrupted.
-void TestProbe::aSignalToTheTestCostsNoAnswer()
+void TestProbe::badCommandGivesAnError()
+{
+    QFETCH(QString, command);
+    QVERIFY(session->probe(command).contains("error"));
+}
+
+/// The stopped program can answer only after signals have interrupted the wait for it.
+void TestProbe::signalToTheTestLosesNoAnswer()
 {
     interruptions = 0;
-    stoppedProgram = pid_t(m_session->pid());
+    stoppedProgram = pid_t(session->pid());
     QCOMPARE(kill(stoppedProgram, SIGSTOP), 0);
     std::signal(SIGALRM, countInterruption);
     const itimerval often = {{0, 10000}, {0, 10000}};
     const itimerval never = {};
     QCOMPARE(setitimer(ITIMER_REAL, &often, nullptr), 0);
-    const QJsonObject window = m_session->mainWindow();
+    const QJsonObject window = session->mainWindow();
     QCOMPARE(setitimer(ITIMER_REAL, &never, nullptr), 0);
     std::signal(SIGALRM, SIG_DFL);
     QVERIFY(kill(stoppedProgram, SIGCONT) == 0 && interruptions > 0);
-    QCOMPARE(window.value(QLatin1String("title")).toString(), QStringLiteral("Sample"));
-    QCOMPARE(m_session->widget(QStringLiteral("ask")).value(QLatin1String("name")).toString(),
-             QStringLiteral("ask"));
+    QCOMPARE(window.value("title").toString(), QString("Sample"));
+    QCOMPARE(session->widget("ask").value("name").toString(), QString("ask"));
 }
 
-void TestProbe::tabsChangeByRealClicks()
+void TestProbe::tableHasHeadersAndRows()
 {
-    QVERIFY2(m_session->clickTab(QStringLiteral("Second")), qPrintable(m_session->error()));
-    QVERIFY(m_session->waitFor(
-        [&] { return m_session->widget(QStringLiteral("tree")).value(QLatin1String("visible")).toBool(); }));
-}
-
-void TestProbe::aTableTellsHeadersAndRows()
-{
-    QVERIFY(m_session->clickTab(QStringLiteral("Second")));
-    const Table table = m_session->table(QStringLiteral("tree"));
-    QCOMPARE(table.visibleHeaders(), (QStringList{QStringLiteral("Name"), QStringLiteral("Size")}));
+    QVERIFY2(showTree(), qPrintable(session->error()));
+    const Table table = session->table("tree");
+    QCOMPARE(table.visibleHeaders(), (QStringList{"Name", "Size"}));
     QCOMPARE(table.headers.size(), 3);
     QCOMPARE(table.rows.size(), 201);
-    QCOMPARE(table.text(0, QStringLiteral("Name")), QStringLiteral("row 000"));
+    QCOMPARE(table.text(0, "Name"), QString("row 000"));
     QCOMPARE(table.rows.at(1).depth, 1);
-    QCOMPARE(table.text(1, QStringLiteral("Name")), QStringLiteral("child"));
+    QCOMPARE(table.text(1, "Name"), QString("child"));
     QCOMPARE(table.parentOf(1), 0);
     QCOMPARE(table.parentOf(2), -1);
-    QCOMPARE(table.find(QStringLiteral("Size"), QStringLiteral("10000")), 101);
-    QCOMPARE(table.find(QStringLiteral("Size"), QStringLiteral("10001")), -1);
+    QCOMPARE(table.find("Size", "10000"), 101);
+    QCOMPARE(table.find("Size", "10001"), -1);
     QCOMPARE(table.sortSection, 0);
     QVERIFY(!table.sortDescending);
     QVERIFY(!table.rowRect(0).isEmpty());
-    QVERIFY2(table.rowRect(1).isEmpty(), "a child of a closed row is not on the screen");
+    QVERIFY2(table.rowRect(1).isEmpty(), "a child of a collapsed row is not on the screen");
     QVERIFY(table.rowRect(200).isEmpty());
 }
 
-void TestProbe::aClickOnAHeaderSorts()
+void TestProbe::clickOnAHeaderSorts()
 {
-    QVERIFY(m_session->clickTab(QStringLiteral("Second")));
-    QVERIFY(m_session->clickHeader(QStringLiteral("tree"), QStringLiteral("Name")));
-    QVERIFY(m_session->waitFor([&] {
-        const Table table = m_session->table(QStringLiteral("tree"));
-        return table.sortDescending && table.text(0, QStringLiteral("Name")) == QLatin1String("row 199");
+    QVERIFY2(showTree(), qPrintable(session->error()));
+    QVERIFY(session->clickHeader("tree", "Name"));
+    QVERIFY(session->waitFor([&] {
+        const Table table = session->table("tree");
+        return table.sortDescending && table.text(0, "Name") == "row 199";
     }));
-    QVERIFY(m_session->clickHeader(QStringLiteral("tree"), QStringLiteral("Name")));
-    QVERIFY(m_session->waitFor([&] { return !m_session->table(QStringLiteral("tree")).sortDescending; }));
+    QVERIFY(session->clickHeader("tree", "Name"));
+    QVERIFY(session->waitFor([&] { return !session->table("tree").sortDescending; }));
 }
 
-void TestProbe::aRowFarDownIsScrolledToAndClicked()
+void TestProbe::rowFarDownIsScrolledToAndClicked()
 {
-    QVERIFY(m_session->clickTab(QStringLiteral("Second")));
+    QVERIFY2(showTree(), qPrintable(session->error()));
     for (const char *name : {"row 150", "row 005"}) {
-        QVERIFY(m_session->clickRow(QStringLiteral("tree"), QStringLiteral("Name"), QLatin1String(name)));
-        QVERIFY(m_session->waitFor([&] {
-            const Table table = m_session->table(QStringLiteral("tree"));
-            const Table::Row row = table.rows.at(table.find(QStringLiteral("Name"), QLatin1String(name)));
+        QVERIFY(session->clickRow("tree", "Name", name));
+        const auto isClicked = [&] {
+            const Table table = session->table("tree");
+            const Table::Row row = table.rows.at(table.find("Name", name));
             return row.selected && row.current;
-        }));
+        };
+        QVERIFY2(session->waitFor(isClicked), name);
     }
 }
 
-void TestProbe::aContextMenuIsReadAndUsed()
+void TestProbe::contextMenuIsReadAndUsed()
 {
-    QVERIFY(m_session->clickTab(QStringLiteral("Second")));
-    QVERIFY(
-        m_session->clickRow(QStringLiteral("tree"), QStringLiteral("Name"), QStringLiteral("row 003"), 3));
-    QVERIFY(m_session->waitFor([&] {
-        return m_session->menuTexts() == QStringList{QStringLiteral("Inspect"), QStringLiteral("Never")};
-    }));
-    QVERIFY(m_session->menuEntry(QStringLiteral("Inspect")).value(QLatin1String("checkable")).toBool());
-    QVERIFY(!m_session->menuEntry(QStringLiteral("Never")).value(QLatin1String("enabled")).toBool());
-    QVERIFY2(m_session->clickMenu(QStringLiteral("Inspect")), qPrintable(m_session->error()));
-    QVERIFY(m_session->waitFor(
-        [&] { return m_session->text(QStringLiteral("answer")) == QLatin1String("&Inspect"); }));
-    QCOMPARE(m_session->menuTexts(), QStringList());
+    QVERIFY2(showTree(), qPrintable(session->error()));
+    QVERIFY(session->clickRow("tree", "Name", "row 003", 3));
+    QVERIFY(session->waitFor([&] { return session->menuTexts() == QStringList{"Inspect", "Never"}; }));
+    QVERIFY(session->menuEntry("Inspect").value("checkable").toBool());
+    QVERIFY(!session->menuEntry("Never").value("enabled").toBool());
+    QVERIFY2(session->clickMenu("Inspect"), qPrintable(session->error()));
+    QVERIFY(waitForText("answer", "&Inspect"));
+    QCOMPARE(session->menuTexts(), QStringList());
 }
 
-void TestProbe::theMenuBarIsReadAndUsed()
+void TestProbe::menuBarIsReadAndUsed()
 {
-    QVERIFY(m_session->clickMenu(QStringLiteral("File")));
-    QVERIFY(
-        m_session->waitFor([&] { return m_session->menuTexts() == QStringList{QStringLiteral("Exit")}; }));
-    QCOMPARE(m_session->menuEntry(QStringLiteral("Exit")).value(QLatin1String("shortcut")).toString(),
-             QStringLiteral("Ctrl+Q"));
-    QVERIFY(m_session->key(QStringLiteral("Escape")));
-    QVERIFY(m_session->waitFor([&] { return m_session->menuTexts().isEmpty(); }));
+    QVERIFY(session->clickMenu("File"));
+    QVERIFY(session->waitFor([&] { return session->menuTexts() == QStringList{"Exit"}; }));
+    QCOMPARE(session->menuEntry("Exit").value("shortcut").toString(), QString("Ctrl+Q"));
+    QVERIFY(session->key("Escape"));
+    QVERIFY(session->waitFor([&] { return session->menuTexts().isEmpty(); }));
 }
 
-void TestProbe::aDialogIsReadAndAnsweredByMouse()
+void TestProbe::dialogIsReadAndAnsweredByMouseAndByKeyboard()
 {
-    QVERIFY(m_session->clickTab(QStringLiteral("First")));
-    QVERIFY(m_session->clickWidget(QStringLiteral("ask")));
-    QVERIFY(m_session->waitFor([&] { return !m_session->dialog().isEmpty(); }));
-    const QJsonObject dialog = m_session->dialog();
-    QCOMPARE(dialog.value(QLatin1String("title")).toString(), QStringLiteral("Question"));
-    QCOMPARE(dialog.value(QLatin1String("text")).toString(), QStringLiteral("Go on?"));
-    QVERIFY(dialog.value(QLatin1String("modal")).toBool());
-    const QJsonArray buttons = dialog.value(QLatin1String("buttons")).toArray();
+    QVERIFY(waitForQuestion());
+    const QJsonObject dialog = session->dialog();
+    QCOMPARE(dialog.value("title").toString(), QString("Question"));
+    QCOMPARE(dialog.value("text").toString(), QString("Go on?"));
+    QVERIFY(dialog.value("modal").toBool());
+    const QJsonArray buttons = dialog.value("buttons").toArray();
     QCOMPARE(buttons.size(), 2);
-    for (const QJsonValue &button : buttons)
-        QCOMPARE(button[QLatin1String("default")].toBool(),
-                 button[QLatin1String("text")].toString().contains(QLatin1String("Cancel")));
-    QVERIFY2(m_session->clickButton(QStringLiteral("OK")), qPrintable(m_session->error()));
-    QVERIFY(
-        m_session->waitFor([&] { return m_session->text(QStringLiteral("answer")) == QLatin1String("ok"); }));
-    QVERIFY(m_session->dialog().isEmpty());
+    for (const QJsonValue &button : buttons) {
+        QCOMPARE(button["default"].toBool(), button["text"].toString().contains("Cancel"));
+    }
+    QVERIFY2(session->clickButton("OK"), qPrintable(session->error()));
+    QVERIFY(waitForText("answer", "ok"));
+    QVERIFY(session->dialog().isEmpty());
+    QVERIFY(waitForQuestion());
+    QVERIFY(session->key("Return"));
+    QVERIFY(waitForText("answer", "cancelled"));
 }
 
-void TestProbe::aDialogIsAnsweredByKeyboard()
+void TestProbe::keysReachTheWidgetWithTheFocus()
 {
-    QVERIFY(m_session->clickTab(QStringLiteral("First")));
-    QVERIFY(m_session->clickWidget(QStringLiteral("ask")));
-    QVERIFY(m_session->waitFor([&] { return m_session->dialog().value(QLatin1String("active")).toBool(); }));
-    QVERIFY(m_session->key(QStringLiteral("Return")));
-    QVERIFY(m_session->waitFor(
-        [&] { return m_session->text(QStringLiteral("answer")) == QLatin1String("cancelled"); }));
+    QVERIFY(session->clickTab("First"));
+    QVERIFY(session->clickWidget("edit"));
+    QVERIFY(session->waitFor([&] { return session->widget("edit").value("focus").toBool(); }));
+    QVERIFY(session->type("Ab 1_%x"));
+    QVERIFY(session->key("BackSpace"));
+    QVERIFY(waitForText("edit", "Ab 1_%"));
+    QVERIFY(!session->key("NoSuchKey"));
+    QVERIFY(!session->key("hyper+q"));
 }
 
-void TestProbe::keysReachTheWidgetThatHasTheFocus()
+void TestProbe::standinChangesWhileTheProgramRuns()
 {
-    QVERIFY(m_session->clickTab(QStringLiteral("First")));
-    QVERIFY(m_session->clickWidget(QStringLiteral("edit")));
-    QVERIFY(m_session->waitFor([&] {
-        return m_session->probe(QStringLiteral("focus")).value(QLatin1String("name")) ==
-               QLatin1String("edit");
-    }));
-    QVERIFY(m_session->type(QStringLiteral("Ab 1_%x")));
-    QVERIFY(m_session->key(QStringLiteral("BackSpace")));
-    QVERIFY(m_session->waitFor(
-        [&] { return m_session->text(QStringLiteral("edit")) == QLatin1String("Ab 1_%"); }));
-    QVERIFY(!m_session->key(QStringLiteral("NoSuchKey")));
-    QVERIFY(!m_session->key(QStringLiteral("hyper+q")));
-}
-
-void TestProbe::theStandinAnswersAndChangesWhileTheProgramRuns()
-{
-    const auto shows = [&](const char *text) {
-        return m_session->waitFor(
-            [&] { return m_session->text(QStringLiteral("memory")) == QLatin1String(text); });
-    };
-    QVERIFY(shows("4711"));
+    QVERIFY(waitForText("memory", "4711"));
     standin::Machine machine;
-    machine.memory = standin::Memory{4712, 0, 0, 0};
-    m_session->setMachine(machine);
-    QVERIFY(shows("4712"));
-    machine.memory->total = ~std::uint64_t(0);
-    m_session->setMachine(machine);
-    QVERIFY(shows("18446744073709551615"));
+    for (const std::uint64_t total : {std::uint64_t(4712), ~std::uint64_t(0)}) {
+        machine.memory = standin::Memory{total, 0, 0, 0};
+        session->setMachine(machine);
+        QVERIFY2(waitForText("memory", QString::number(total)), qPrintable(session->text("memory")));
+    }
 }
 
-void TestProbe::theWindowIsResized()
+void TestProbe::windowIsResizedAndMaximised()
 {
-    QVERIFY(m_session->resizeMainWindow({777, 555}));
-    QCOMPARE(rectOf(m_session->mainWindow().value(QLatin1String("rect"))).size(), QSize(777, 555));
-    QVERIFY(m_session->resizeMainWindow({1, 1}));
-}
-
-void TestProbe::theWindowIsMaximised()
-{
+    QVERIFY(session->resizeMainWindow({777, 555}));
+    QCOMPARE(windowRect().size(), QSize(777, 555));
+    QVERIFY(session->resizeMainWindow({1, 1}));
     const auto toggle = [&] {
-        const QJsonObject before = m_session->mainWindow();
-        m_session->x().toggleMaximized(
-            static_cast<unsigned long>(before.value(QLatin1String("id")).toDouble()));
-        return m_session->waitFor([&] {
-            return m_session->mainWindow().value(QLatin1String("rect")) !=
-                   before.value(QLatin1String("rect"));
-        });
+        const QRect before = windowRect();
+        session->x().toggleMaximized(
+            static_cast<unsigned long>(session->mainWindow().value("id").toDouble()));
+        return session->waitFor([&] { return windowRect() != before; });
     };
-    const QJsonValue normal = m_session->mainWindow().value(QLatin1String("rect"));
+    const QRect normal = windowRect();
     QVERIFY(toggle());
-    QCOMPARE(rectOf(m_session->mainWindow().value(QLatin1String("rect"))).right(), 1279);
+    QCOMPARE(windowRect().right(), 1279);
     QVERIFY(toggle());
-    QCOMPARE(m_session->mainWindow().value(QLatin1String("rect")), normal);
+    QCOMPARE(windowRect(), normal);
 }
 
-void TestProbe::theStateIsToldInShort()
+void TestProbe::stateIsASummary()
 {
-    const auto state = [&] { return m_session->probe(QStringLiteral("state")); };
-    const auto becomes = [&](const char *key, const QJsonValue &value) {
-        return m_session->waitFor([&] { return state().value(QLatin1String(key)) == value; });
-    };
-    QVERIFY(m_session->clickTab(QStringLiteral("First")));
-    QVERIFY(becomes("tab", 0));
-    QCOMPARE(state().value(QLatin1String("popup")).toString(), QString());
-    QCOMPARE(state().value(QLatin1String("modal")).toBool(), false);
-    QCOMPARE(state().value(QLatin1String("window")), m_session->mainWindow().value(QLatin1String("rect")));
-    QCOMPARE(state().value(QLatin1String("id")), m_session->mainWindow().value(QLatin1String("id")));
-    QVERIFY(m_session->clickMenu(QStringLiteral("File")));
-    QVERIFY(becomes("popup", QStringLiteral("QMenu")));
-    QCOMPARE(state().value(QLatin1String("menus")).toArray(), QJsonArray{QStringLiteral("&File")});
-    QVERIFY(m_session->key(QStringLiteral("Escape")));
-    QVERIFY(becomes("popup", QString()));
-    QVERIFY(m_session->clickWidget(QStringLiteral("ask")));
-    QVERIFY(becomes("title", QStringLiteral("Question")));
-    QVERIFY(state().value(QLatin1String("modal")).toBool());
-    QVERIFY(m_session->waitFor([&] { return m_session->dialog().value(QLatin1String("active")).toBool(); }));
-    QVERIFY(m_session->key(QStringLiteral("Escape")));
-    QVERIFY(becomes("modal", false));
+    QVERIFY(session->clickTab("First"));
+    QVERIFY(waitForState("tab", 0));
+    QCOMPARE(state().value("popup").toString(), QString());
+    QCOMPARE(state().value("modal").toBool(), false);
+    QCOMPARE(state().value("window"), session->mainWindow().value("rect"));
+    QCOMPARE(state().value("id"), session->mainWindow().value("id"));
+    QVERIFY(session->clickMenu("File"));
+    QVERIFY(waitForState("popup", "QMenu"));
+    QCOMPARE(state().value("menus").toArray(), QJsonArray{"&File"});
+    QVERIFY(session->key("Escape"));
+    QVERIFY(waitForState("popup", ""));
+    QVERIFY(waitForQuestion());
+    QCOMPARE(state().value("title").toString(), QString("Question"));
+    QVERIFY(state().value("modal").toBool());
+    QVERIFY(session->key("Escape"));
+    QVERIFY(waitForState("modal", false));
 }
 
 void TestProbe::keysDoNotOvertakeClicks()
 {
-    const QJsonArray tabs =
-        m_session->probe(QStringLiteral("widget QTabWidget")).value(QLatin1String("tabs")).toArray();
+    const QJsonArray tabs = session->widget("QTabWidget").value("tabs").toArray();
     for (int round = 0; round < 20; ++round) {
-        m_session->x().moveTo(rectOf(tabs.at(round % 2)[QLatin1String("rect")]).center());
-        m_session->x().click();
-        QCOMPARE(m_session->stateAfterInput().value(QLatin1String("tab")).toInt(-1), round % 2);
-        m_session->x().click();
-        QVERIFY(m_session->key(QStringLiteral("ctrl+Tab")));
-        QCOMPARE(m_session->stateAfterInput().value(QLatin1String("tab")).toInt(-1), (round + 1) % 2);
+        session->x().moveTo(rectOf(tabs.at(round % 2)["rect"]).center());
+        session->x().click();
+        QCOMPARE(tabAfterInput(), round % 2);
+        session->x().click();
+        QVERIFY(session->key("ctrl+Tab"));
+        QCOMPARE(tabAfterInput(), (round + 1) % 2);
     }
 }
 
-void TestProbe::theSelectedRowIsTold()
+void TestProbe::selectedRowHasItsId()
 {
-    const auto selected = [&] { return m_session->probe(QStringLiteral("selected tree")); };
-    QVERIFY(m_session->clickTab(QStringLiteral("Second")));
-    QVERIFY(m_session->clickRow(QStringLiteral("tree"), QStringLiteral("Name"), QStringLiteral("row 003")));
-    QVERIFY(m_session->waitFor([&] { return selected().contains(QLatin1String("id")); }));
-    QVERIFY(m_session->probe(QStringLiteral("selected ask")).contains(QLatin1String("error")));
+    QVERIFY2(showTree(), qPrintable(session->error()));
+    QVERIFY(session->clickRow("tree", "Name", "row 003"));
+    QVERIFY(session->waitFor([&] { return session->probe("selected tree").contains("id"); }));
 }
 
 void TestProbe::paletteAndFontChange()
 {
-    const auto height = [&] {
-        return rectOf(m_session->widget(QStringLiteral("memory")).value(QLatin1String("sizeHint"))).height();
-    };
-    QVERIFY(m_session->clickTab(QStringLiteral("First")));
-    // Or the larger menu bar would be under the click when it arrives.
-    QCOMPARE(m_session->stateAfterInput().value(QLatin1String("tab")).toInt(-1), 0);
-    const int before = height();
-    QCOMPARE(m_session->probe(QStringLiteral("font 30")), QJsonObject());
-    QVERIFY(m_session->waitFor([&] { return height() > before; }));
-    QCOMPARE(m_session->probe(QStringLiteral("font 9")), QJsonObject());
-    QCOMPARE(m_session->probe(QStringLiteral("palette #102040")), QJsonObject());
-    QVERIFY(m_session->waitFor([&] {
-        const QRect window = rectOf(m_session->mainWindow().value(QLatin1String("rect")));
-        return m_session->screenshot().pixel(window.bottomRight() - QPoint(3, 3)) == qRgb(0x10, 0x20, 0x40);
+    QVERIFY(session->clickTab("First"));
+    QCOMPARE(tabAfterInput(), 0); // a larger font would move the tab bar away from a click under way
+    const int before = textHeight(*session);
+    QCOMPARE(session->probe("font 30"), QJsonObject());
+    QVERIFY(session->waitFor([&] { return textHeight(*session) > before; }));
+    QCOMPARE(session->probe("font 9"), QJsonObject());
+    QCOMPARE(session->probe("palette #102040"), QJsonObject());
+    QVERIFY(session->waitFor([&] {
+        const QPoint inCorner = windowRect().bottomRight() - QPoint(3, 3);
+        return session->screenshot().pixel(inCorner) == qRgb(0x10, 0x20, 0x40);
     }));
-    QCOMPARE(m_session->probe(QStringLiteral("palette #efefef")), QJsonObject());
-    QVERIFY(m_session->probe(QStringLiteral("palette none")).contains(QLatin1String("error")));
-    QVERIFY(m_session->probe(QStringLiteral("font none")).contains(QLatin1String("error")));
+    QCOMPARE(session->probe("palette #efefef"), QJsonObject());
 }
 
-void TestProbe::theScreenIsPhotographed()
+void TestProbe::screenshotHasTheWholeScreen()
 {
-    const QImage picture = m_session->screenshot();
+    const QImage picture = session->screenshot();
     QCOMPARE(picture.size(), QSize(1280, 1024));
-    const QRect window = rectOf(m_session->mainWindow().value(QLatin1String("rect")));
-    QVERIFY(picture.pixel(window.center()) != picture.pixel(1279, 1023));
+    QVERIFY(picture.pixel(windowRect().center()) != picture.pixel(1279, 1023));
 }
 
-void TestProbe::theProgramReadsTheRealMachineWithoutStandin()
-{
-    DesktopSession session(sampleOptions());
-    QVERIFY2(session.start(), qPrintable(session.error()));
-    QVERIFY(session.text(QStringLiteral("memory")).toULongLong() > 1024 * 1024);
-    QVERIFY2(m_session->mainWindow().contains(QLatin1String("title")), "the other desktop is untouched");
-}
-
-void TestProbe::theResolutionOfTheScreenIsChosen()
+void TestProbe::anotherSessionHasItsOwnScreenAndTheRealMachine()
 {
     SessionOptions options = sampleOptions();
     options.screen = QSize(800, 500);
     options.dpi = 192;
-    DesktopSession session(options);
-    QVERIFY2(session.start(), qPrintable(session.error()));
-    QCOMPARE(session.screenshot().size(), QSize(800, 500));
-    const auto height = [](DesktopSession &each) {
-        return rectOf(each.widget(QStringLiteral("memory")).value(QLatin1String("sizeHint"))).height();
-    };
-    QVERIFY(height(session) > height(*m_session) * 3 / 2);
+    DesktopSession other(options);
+    QVERIFY2(other.start(), qPrintable(other.error()));
+    QVERIFY(other.text("memory").toULongLong() > 1024 * 1024);
+    QCOMPARE(other.screenshot().size(), QSize(800, 500));
+    QVERIFY(textHeight(other) > textHeight(*session) * 3 / 2);
+    QVERIFY2(session->mainWindow().contains("title"), "the first session is gone");
 }
 
-void TestProbe::ctrlQEndsTheProgramAndItStartsAgain()
+void TestProbe::ctrlQAndTheCloseButtonEndTheProgram()
 {
-    QVERIFY(m_session->key(QStringLiteral("ctrl+q")));
-    QVERIFY2(m_session->waitForExit(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->standardError(), QByteArray());
-    QCOMPARE(m_session->exitCode(), 0);
-    QVERIFY(m_session->probe(QStringLiteral("windows")).contains(QLatin1String("error")));
-    QVERIFY2(m_session->start(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->standardOutput(), QByteArray());
+    QVERIFY(session->key("ctrl+q"));
+    QVERIFY2(session->waitForExit(), qPrintable(session->error()));
+    QCOMPARE(session->standardError(), QByteArray());
+    QCOMPARE(session->exitCode(), 0);
+    QVERIFY(session->probe("windows").contains("error"));
+    QVERIFY2(session->start(), qPrintable(session->error()));
+    QCOMPARE(session->standardOutput(), QByteArray());
+    session->closeMainWindow();
+    QVERIFY2(session->waitForExit(), qPrintable(session->error()));
+    QCOMPARE(session->exitCode(), 0);
 }
 
-void TestProbe::closingTheWindowEndsTheProgram()
-{
-    m_session->closeMainWindow();
-    QVERIFY2(m_session->waitForExit(), qPrintable(m_session->error()));
-    QCOMPARE(m_session->exitCode(), 0);
-}
-
-void TestProbe::aProgramWithoutWindowFailsWithAWord()
+void TestProbe::programWithoutWindowFailsWithAMessage()
 {
     SessionOptions options;
-    options.program = QStringLiteral("/bin/false");
-    DesktopSession session(options);
-    QVERIFY(!session.start());
-    QVERIFY2(session.error().contains(QLatin1String("ended")), qPrintable(session.error()));
-    QCOMPARE(session.exitCode(), 1);
+    options.program = "/bin/false";
+    DesktopSession other(options);
+    QVERIFY(!other.start());
+    QVERIFY2(other.error().contains("ended"), qPrintable(other.error()));
+    QCOMPARE(other.exitCode(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestProbe)

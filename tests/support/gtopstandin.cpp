@@ -16,24 +16,15 @@
 #include <sstream>
 #include <stdexcept>
 #include <thread>
+#include <tuple>
 
 namespace standin {
 namespace {
 
-struct FileState
-{
-    ino_t inode = 0;
-    off_t size = -1;
-    timespec time = {};
+/// Inode, size, and time of the last change in seconds and nanoseconds.
+using FileState = std::tuple<ino_t, off_t, time_t, long>;
 
-    bool operator==(const FileState &other) const
-    {
-        return inode == other.inode && size == other.size && time.tv_sec == other.time.tv_sec &&
-               time.tv_nsec == other.time.tv_nsec;
-    }
-};
-
-// libgtop's server record tells the index of the last CPU; the real one comes back with the real CPUs.
+/// Sets the index of the last CPU in libgtop's server record; without a value, restores the real one.
 void setLastCpu(std::optional<int> last)
 {
     static std::optional<int> real;
@@ -41,10 +32,12 @@ void setLastCpu(std::optional<int> last)
         glibtop_init();
         real = glibtop_global_server->ncpu;
     }
-    if (last || real)
+    if (last || real) {
         glibtop_global_server->ncpu = last ? *last : *real;
-    if (!last)
+    }
+    if (!last) {
         real.reset();
+    }
 }
 
 void fillCpu(glibtop_cpu *buf, const std::vector<Cpu> &cpus)
@@ -91,19 +84,22 @@ void resetCalls()
 
 void readFileIfChanged()
 {
-    static const char *const path = std::getenv("ZSM_STANDIN");
+    static const char *path = std::getenv("ZSM_STANDIN");
     static FileState last;
     struct stat status;
-    if (!path || stat(path, &status) != 0)
+    if (!path || stat(path, &status) != 0) {
         return;
-    const FileState now{status.st_ino, status.st_size, status.st_mtim};
-    if (now == last)
+    }
+    const FileState now{status.st_ino, status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+    if (now == last) {
         return;
+    }
     std::ifstream file(path, std::ios::binary);
     std::ostringstream text;
     text << file.rdbuf();
-    if (!file)
+    if (!file) {
         return;
+    }
     try {
         machine() = fromText(text.str());
     } catch (const std::runtime_error &error) {
@@ -120,10 +116,10 @@ using namespace standin;
 STANDIN_CALL void glibtop_get_cpu(glibtop_cpu *buf)
 {
     static const auto real = nextCall<decltype(glibtop_get_cpu)>("glibtop_get_cpu");
-    ++countedCalls().cpu;
     readFileIfChanged();
-    if (machine().cpus)
+    if (machine().cpus) {
         return fillCpu(buf, *machine().cpus);
+    }
     setLastCpu({});
     real(buf);
 }
@@ -133,8 +129,9 @@ STANDIN_CALL void glibtop_get_mem(glibtop_mem *buf)
     static const auto real = nextCall<decltype(glibtop_get_mem)>("glibtop_get_mem");
     ++countedCalls().memory;
     readFileIfChanged();
-    if (!machine().memory)
+    if (!machine().memory) {
         return real(buf);
+    }
     const Memory &memory = *machine().memory;
     *buf = glibtop_mem{};
     buf->flags = allFlags;
@@ -150,14 +147,16 @@ STANDIN_CALL glibtop_mountentry *glibtop_get_mountlist(glibtop_mountlist *buf, i
     static const auto real = nextCall<decltype(glibtop_get_mountlist)>("glibtop_get_mountlist");
     ++countedCalls().mountList;
     readFileIfChanged();
-    if (!machine().mounts)
+    if (!machine().mounts) {
         return real(buf, all_fs);
+    }
     *buf = glibtop_mountlist{};
-    if (machine().mountListFails)
+    if (machine().mountListFails) {
         return nullptr;
+    }
     const std::vector<Mount> &mounts = *machine().mounts;
-    // One entry more than is told: an empty list is an array too, not null.
-    auto *const entries =
+    // One more entry than reported, so that an empty list is an array, not null.
+    auto *entries =
         static_cast<glibtop_mountentry *>(g_malloc0_n(mounts.size() + 1, sizeof(glibtop_mountentry)));
     for (std::size_t i = 0; i < mounts.size(); ++i) {
         copyText(entries[i].devname, mounts[i].device);
@@ -174,19 +173,21 @@ STANDIN_CALL glibtop_mountentry *glibtop_get_mountlist(glibtop_mountlist *buf, i
 STANDIN_CALL void glibtop_get_fsusage(glibtop_fsusage *buf, const char *mount_dir)
 {
     static const auto real = nextCall<decltype(glibtop_get_fsusage)>("glibtop_get_fsusage");
-    ++countedCalls().usage;
-    if (!machine().mounts)
+    if (!machine().mounts) {
         return real(buf, mount_dir);
+    }
     *buf = glibtop_fsusage{};
     const std::vector<Mount> &mounts = *machine().mounts;
     const auto mount = std::find_if(mounts.begin(), mounts.end(), [=](const Mount &each) {
         return each.directory.compare(0, GLIBTOP_MOUNTENTRY_LEN, mount_dir) == 0;
     });
-    if (mount == mounts.end())
+    if (mount == mounts.end()) {
         return;
+    }
     std::this_thread::sleep_for(std::chrono::milliseconds(mount->blocksForMs));
-    if (mount->fails)
+    if (mount->fails) {
         return;
+    }
     buf->flags = allFlags;
     buf->blocks = mount->blocks;
     buf->bfree = mount->freeBlocks;
@@ -200,15 +201,18 @@ STANDIN_CALL char **glibtop_get_netlist(glibtop_netlist *buf)
     static const auto real = nextCall<decltype(glibtop_get_netlist)>("glibtop_get_netlist");
     ++countedCalls().interfaceList;
     readFileIfChanged();
-    if (!machine().interfaces)
+    if (!machine().interfaces) {
         return real(buf);
+    }
     *buf = glibtop_netlist{};
-    if (machine().interfaceListFails)
+    if (machine().interfaceListFails) {
         return nullptr;
+    }
     const std::vector<Interface> &interfaces = *machine().interfaces;
-    auto *const names = static_cast<char **>(g_malloc0_n(interfaces.size() + 1, sizeof(char *)));
-    for (std::size_t i = 0; i < interfaces.size(); ++i)
+    auto *names = static_cast<char **>(g_malloc0_n(interfaces.size() + 1, sizeof(char *)));
+    for (std::size_t i = 0; i < interfaces.size(); ++i) {
         names[i] = g_strdup(interfaces[i].name.c_str());
+    }
     buf->flags = allFlags;
     buf->number = static_cast<guint32>(interfaces.size());
     return names;
@@ -217,15 +221,16 @@ STANDIN_CALL char **glibtop_get_netlist(glibtop_netlist *buf)
 STANDIN_CALL void glibtop_get_netload(glibtop_netload *buf, const char *name)
 {
     static const auto real = nextCall<decltype(glibtop_get_netload)>("glibtop_get_netload");
-    ++countedCalls().interfaceLoad;
-    if (!machine().interfaces)
+    if (!machine().interfaces) {
         return real(buf, name);
+    }
     *buf = glibtop_netload{};
     const std::vector<Interface> &interfaces = *machine().interfaces;
     const auto net = std::find_if(interfaces.begin(), interfaces.end(),
                                   [=](const Interface &each) { return each.name == name; });
-    if (net == interfaces.end() || net->fails)
+    if (net == interfaces.end() || net->fails) {
         return;
+    }
     buf->flags = allFlags;
     buf->address = net->address;
     buf->subnet = net->mask;

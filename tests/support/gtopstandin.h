@@ -10,10 +10,10 @@
 
 /// A made-up machine that answers in place of libgtop. For tests only.
 ///
-/// Linked into a test program, or preloaded into the real one, it takes over the libgtop calls that read
-/// CPUs, memory, mounts, network interfaces and processes. Each kind of data that the machine does not set
-/// is still read from the real libgtop. All names are bytes and need not be UTF-8; libgtop's fixed-size
-/// fields cut them (79 bytes for a mount's three names, 39 for a process name).
+/// Linked into a test program or preloaded into the real one, it replaces the libgtop calls that read CPUs,
+/// memory, mounts, network interfaces and processes. Data that the machine does not set is still read from
+/// the real libgtop. All names are bytes and need not be UTF-8; libgtop's fixed-size fields truncate them (79
+/// bytes for the three names of a mount, 39 for a process name).
 namespace standin {
 
 /// Counters of one CPU since boot, in jiffies.
@@ -56,7 +56,7 @@ struct Interface
     std::uint64_t bytesIn = 0;
     std::uint64_t bytesOut = 0;
     std::uint64_t errors = 0;
-    bool fails = false; ///< its record comes back zeroed, as when the interface has just gone
+    bool fails = false; ///< its record comes back zeroed, as if the interface had just been removed
 };
 
 /// One process. CPU times in jiffies (100 a second), startTime in seconds since the epoch, memory in bytes.
@@ -74,10 +74,10 @@ struct Process
     std::uint64_t resident = 0;
     std::uint64_t shared = 0;
     std::string arguments;     ///< as in /proc/PID/cmdline: each argument followed by a NUL byte
-    int answersBeforeEnd = -1; ///< ends after so many calls about it since the last list; -1: lives on
+    int answersBeforeEnd = -1; ///< exits after so many calls about it since the last list; -1: never
 };
 
-/// What the stand-in answers. An empty optional: that kind is read from the real libgtop.
+/// What the stand-in answers. What is unset is read from the real libgtop.
 struct Machine
 {
     std::optional<std::vector<Cpu>> cpus; ///< at most 1,024 reach the program
@@ -87,37 +87,35 @@ struct Machine
     std::optional<std::vector<Interface>> interfaces;
     bool interfaceListFails = false;                 ///< the list of names is null; needs `interfaces` set
     std::optional<std::map<int, Process>> processes; ///< by pid
-    /// Without `processes`: only so many of the real ones of other users are listed, the oldest; -1: all.
+    /// Without `processes`: the number of real processes of other users that are listed, oldest first; -1:
+    /// all.
     int mostOfOthers = -1;
 };
 
-/// How often each call was answered, made up or real, since resetCalls().
+/// Number of calls since resetCalls(), whether answered by the stand-in or by libgtop.
 struct Calls
 {
-    unsigned cpu = 0;
     unsigned memory = 0;
     unsigned mountList = 0;
-    unsigned usage = 0;
     unsigned interfaceList = 0;
-    unsigned interfaceLoad = 0;
     unsigned processList = 0;
     unsigned processData = 0; ///< all calls about one process together
 };
 
-/// The machine of this process. Change it at any time; `machine() = {}` gives the real one back.
+/// The machine of this process; may be changed at any time. `machine() = {}` restores the real one.
 Machine &machine();
 
 const Calls &calls();
 void resetCalls();
 
-/// The machine as lines of text, one fact a line, and back.
-/// fromText throws std::runtime_error that quotes a line it can't read.
+/// Converts the machine to lines of text, and back.
+/// fromText() throws a std::runtime_error that quotes the line that can't be read.
 std::string toText(const Machine &machine);
 Machine fromText(const std::string &text);
 
-/// Writes toText() to a file in one step (written beside it, then renamed). A program that has the stand-in
-/// preloaded and ZSM_STANDIN set to this file answers by it from its next list, CPU or memory call on.
-/// Throws std::runtime_error if the file can't be written.
+/// Writes toText() to a file atomically (to a temporary file that is renamed). A program with the stand-in
+/// preloaded and ZSM_STANDIN set to this file uses it from its next list, CPU or memory call on.
+/// Throws a std::runtime_error if the file can't be written.
 void save(const Machine &machine, const std::string &path);
 
 } // namespace standin

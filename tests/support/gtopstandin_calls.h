@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the files of the stand-in share. Not for tests.
+// Shared by the files of the stand-in; not for tests.
 #ifndef TESTS_SUPPORT_GTOPSTANDIN_CALLS_H
 #define TESTS_SUPPORT_GTOPSTANDIN_CALLS_H
 
@@ -12,7 +12,7 @@
 #include <cstdlib>
 #include <cstring>
 
-// The calls taken over stay visible in the preloaded object, whose other symbols are hidden.
+// The replaced calls stay visible in the preloaded object, whose other symbols are hidden.
 #define STANDIN_CALL extern "C" __attribute__((visibility("default")))
 
 namespace standin {
@@ -21,15 +21,15 @@ constexpr std::uint64_t allFlags = ~std::uint64_t(0);
 
 Calls &countedCalls();
 
-/// Reads the file named by ZSM_STANDIN if it is another than the last time. Called by the calls that begin
-/// a list and never while one is gone through, so that the records of one refresh fit one another.
+/// Re-reads the file named by ZSM_STANDIN if it has changed. Called by the calls that begin a list and never
+/// during an iteration over one, so that the records of one refresh are consistent.
 void readFileIfChanged();
 
 /// The function of that name in libgtop itself.
 template <typename Function>
 Function *nextCall(const char *name)
 {
-    void *const address = dlsym(RTLD_NEXT, name);
+    void *address = dlsym(RTLD_NEXT, name);
     if (!address) {
         std::fprintf(stderr, "gtopstandin: no %s in libgtop\n", name);
         std::abort();
@@ -37,7 +37,7 @@ Function *nextCall(const char *name)
     return reinterpret_cast<Function *>(address);
 }
 
-/// Copies as much as a fixed-size field of libgtop holds, always ended by a NUL byte.
+/// Truncates the text to a fixed-size field of libgtop, always NUL-terminated.
 template <std::size_t size>
 void copyText(char (&field)[size], const std::string &text)
 {

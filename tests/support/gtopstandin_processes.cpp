@@ -15,18 +15,35 @@
 namespace standin {
 namespace {
 
-std::map<int, int> g_answers; // calls answered about each pid since the last process list
+std::map<int, int> answers; ///< calls answered about each pid since the last process list
 
-// The process, or null if there is none of that pid (any more).
+/// Null if the process does not exist or has exited meanwhile.
 const Process *processFor(pid_t pid)
 {
     const auto found = machine().processes->find(pid);
-    if (found == machine().processes->end())
+    if (found == machine().processes->end()) {
         return nullptr;
+    }
     const Process &process = found->second;
-    if (process.answersBeforeEnd >= 0 && g_answers[pid]++ >= process.answersBeforeEnd)
-        return nullptr;
-    return &process;
+    const bool hasExited = process.answersBeforeEnd >= 0 && answers[pid]++ >= process.answersBeforeEnd;
+    return hasExited ? nullptr : &process;
+}
+
+/// Answers a call about one process: by libgtop, or with a record that is zeroed and, if the process exists,
+/// filled.
+template <typename Record, typename Fill>
+void answer(void (*real)(Record *, pid_t), Record *buf, pid_t pid, Fill fill)
+{
+    ++countedCalls().processData;
+    if (!machine().processes) {
+        real(buf, pid);
+        return;
+    }
+    *buf = Record{};
+    if (const Process *process = processFor(pid)) {
+        buf->flags = allFlags;
+        fill(*process);
+    }
 }
 
 bool isListed(const Process &process, gint64 which, gint64 arg)
@@ -41,12 +58,12 @@ bool isOfThisUser(pid_t pid)
     return stat(("/proc/" + std::to_string(pid)).c_str(), &status) == 0 && status.st_uid == getuid();
 }
 
-// What a busy machine has besides would make a test slow.
+/// The other processes of a busy machine would make a test slow.
 void leaveOutOthers(pid_t *pids, glibtop_proclist *buf)
 {
     int left = machine().mostOfOthers;
-    pid_t *const end = std::remove_if(pids, pids + buf->number,
-                                      [&](pid_t pid) { return !isOfThisUser(pid) && left-- <= 0; });
+    pid_t *end = std::remove_if(pids, pids + buf->number,
+                                [&](pid_t pid) { return !isOfThisUser(pid) && left-- <= 0; });
     buf->number = static_cast<guint64>(end - pids);
     buf->total = buf->number * buf->size;
 }
@@ -62,20 +79,21 @@ STANDIN_CALL pid_t *glibtop_get_proclist(glibtop_proclist *buf, gint64 which, gi
     ++countedCalls().processList;
     readFileIfChanged();
     if (!machine().processes) {
-        pid_t *const pids = real(buf, which, arg);
-        if (machine().mostOfOthers >= 0)
+        pid_t *pids = real(buf, which, arg);
+        if (machine().mostOfOthers >= 0) {
             leaveOutOthers(pids, buf);
+        }
         return pids;
     }
-    g_answers.clear();
-    const std::map<int, Process> &processes = *machine().processes;
-    auto *const pids = static_cast<pid_t *>(g_malloc0_n(processes.size() + 1, sizeof(pid_t)));
+    answers.clear();
+    auto *pids = static_cast<pid_t *>(g_malloc0_n(machine().processes->size() + 1, sizeof(pid_t)));
     *buf = glibtop_proclist{};
     buf->flags = allFlags;
     buf->size = sizeof(pid_t);
-    for (const auto &[pid, process] : processes) {
-        if (isListed(process, which, arg))
+    for (const auto &[pid, process] : *machine().processes) {
+        if (isListed(process, which, arg)) {
             pids[buf->number++] = pid;
+        }
     }
     buf->total = buf->number * buf->size;
     return pids;
@@ -84,85 +102,63 @@ STANDIN_CALL pid_t *glibtop_get_proclist(glibtop_proclist *buf, gint64 which, gi
 STANDIN_CALL void glibtop_get_proc_state(glibtop_proc_state *buf, pid_t pid)
 {
     static const auto real = nextCall<decltype(glibtop_get_proc_state)>("glibtop_get_proc_state");
-    ++countedCalls().processData;
-    if (!machine().processes)
-        return real(buf, pid);
-    *buf = glibtop_proc_state{};
-    const Process *const process = processFor(pid);
-    if (!process)
-        return;
-    buf->flags = allFlags;
-    copyText(buf->cmd, process->name);
-    buf->state = process->state;
-    buf->uid = buf->ruid = process->uid;
+    answer(real, buf, pid, [buf](const Process &process) {
+        copyText(buf->cmd, process.name);
+        buf->state = process.state;
+        buf->uid = buf->ruid = process.uid;
+    });
 }
 
 STANDIN_CALL void glibtop_get_proc_uid(glibtop_proc_uid *buf, pid_t pid)
 {
     static const auto real = nextCall<decltype(glibtop_get_proc_uid)>("glibtop_get_proc_uid");
-    ++countedCalls().processData;
-    if (!machine().processes)
-        return real(buf, pid);
-    *buf = glibtop_proc_uid{};
-    const Process *const process = processFor(pid);
-    if (!process)
-        return;
-    buf->flags = allFlags;
-    buf->uid = buf->euid = buf->suid = buf->fsuid = process->uid;
-    buf->pid = pid;
-    buf->ppid = process->parent;
-    buf->nice = process->nice;
-    buf->priority = 20 + process->nice;
+    answer(real, buf, pid, [=](const Process &process) {
+        buf->uid = buf->euid = buf->suid = buf->fsuid = process.uid;
+        buf->pid = pid;
+        buf->ppid = process.parent;
+        buf->nice = process.nice;
+        buf->priority = 20 + process.nice;
+    });
 }
 
 STANDIN_CALL void glibtop_get_proc_time(glibtop_proc_time *buf, pid_t pid)
 {
     static const auto real = nextCall<decltype(glibtop_get_proc_time)>("glibtop_get_proc_time");
-    ++countedCalls().processData;
-    if (!machine().processes)
-        return real(buf, pid);
-    *buf = glibtop_proc_time{};
-    const Process *const process = processFor(pid);
-    if (!process)
-        return;
-    buf->flags = allFlags;
-    buf->start_time = process->startTime;
-    buf->utime = process->userTime;
-    buf->stime = process->systemTime;
-    buf->rtime = process->userTime + process->systemTime;
-    buf->frequency = 100;
+    answer(real, buf, pid, [buf](const Process &process) {
+        buf->start_time = process.startTime;
+        buf->utime = process.userTime;
+        buf->stime = process.systemTime;
+        buf->rtime = process.userTime + process.systemTime;
+        buf->frequency = 100;
+    });
 }
 
 STANDIN_CALL void glibtop_get_proc_mem(glibtop_proc_mem *buf, pid_t pid)
 {
     static const auto real = nextCall<decltype(glibtop_get_proc_mem)>("glibtop_get_proc_mem");
-    ++countedCalls().processData;
-    if (!machine().processes)
-        return real(buf, pid);
-    *buf = glibtop_proc_mem{};
-    const Process *const process = processFor(pid);
-    if (!process)
-        return;
-    buf->flags = allFlags;
-    buf->size = buf->vsize = process->virtualSize;
-    buf->resident = buf->rss = process->resident;
-    buf->share = process->shared;
+    answer(real, buf, pid, [buf](const Process &process) {
+        buf->size = buf->vsize = process.virtualSize;
+        buf->resident = buf->rss = process.resident;
+        buf->share = process.shared;
+    });
 }
 
 STANDIN_CALL char *glibtop_get_proc_args(glibtop_proc_args *buf, pid_t pid, unsigned max_len)
 {
     static const auto real = nextCall<decltype(glibtop_get_proc_args)>("glibtop_get_proc_args");
     ++countedCalls().processData;
-    if (!machine().processes)
+    if (!machine().processes) {
         return real(buf, pid, max_len);
+    }
     *buf = glibtop_proc_args{};
-    const Process *const process = processFor(pid);
-    if (!process)
+    const Process *process = processFor(pid);
+    if (!process) {
         return nullptr;
-    const std::string &bytes = process->arguments;
+    }
+    const std::string bytes = process->arguments.substr(0, max_len ? max_len : std::string::npos);
     buf->flags = allFlags;
-    buf->size = max_len ? std::min<std::size_t>(bytes.size(), max_len) : bytes.size();
-    auto *const copy = static_cast<char *>(g_malloc0(buf->size + 1));
+    buf->size = bytes.size();
+    auto *copy = static_cast<char *>(g_malloc0(buf->size + 1));
     std::memcpy(copy, bytes.data(), buf->size);
     return copy;
 }
@@ -170,13 +166,15 @@ STANDIN_CALL char *glibtop_get_proc_args(glibtop_proc_args *buf, pid_t pid, unsi
 STANDIN_CALL char **glibtop_get_proc_argv(glibtop_proc_args *buf, pid_t pid, unsigned max_len)
 {
     static const auto real = nextCall<decltype(glibtop_get_proc_argv)>("glibtop_get_proc_argv");
-    if (!machine().processes)
+    if (!machine().processes) {
         return real(buf, pid, max_len);
-    char *const bytes = glibtop_get_proc_args(buf, pid, max_len);
+    }
+    char *bytes = glibtop_get_proc_args(buf, pid, max_len);
     std::vector<const char *> starts;
-    for (const char *each = bytes; bytes && each < bytes + buf->size; each += std::strlen(each) + 1)
+    for (const char *each = bytes; bytes && each < bytes + buf->size; each += std::strlen(each) + 1) {
         starts.push_back(each);
-    auto *const list = static_cast<char **>(g_malloc0_n(starts.size() + 1, sizeof(char *)));
+    }
+    auto *list = static_cast<char **>(g_malloc0_n(starts.size() + 1, sizeof(char *)));
     std::transform(starts.begin(), starts.end(), list, g_strdup);
     g_free(bytes);
     return list;

@@ -6,12 +6,11 @@
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
-#include <type_traits>
 
 namespace standin {
 namespace {
 
-// The words of each kind of line: one table each, for writing and for reading.
+// The fields of each kind of line, both for writing and for reading.
 template <typename Visitor>
 void visitFields(Visitor &visit, Cpu &cpu)
 {
@@ -74,27 +73,22 @@ void visitFields(Visitor &visit, std::pair<int, Process> &process)
     visit("answers", process.second.answersBeforeEnd);
 }
 
-struct ListState
+/// A line with a single field.
+template <typename Value>
+struct SingleField
 {
-    bool fails = false;
+    const char *name;
+    Value value;
 };
 
-struct OthersLimit
+template <typename Visitor, typename Value>
+void visitFields(Visitor &visit, SingleField<Value> &field)
 {
-    int most = -1;
-};
-
-template <typename Visitor>
-void visitFields(Visitor &visit, OthersLimit &limit)
-{
-    visit("most", limit.most);
+    visit(field.name, field.value);
 }
 
-template <typename Visitor>
-void visitFields(Visitor &visit, ListState &list)
-{
-    visit("fails", list.fails);
-}
+const SingleField<bool> listFails = {"fails", false};
+const SingleField<int> othersLimit = {"most", -1};
 
 const char *const emptyWord = "%-";
 
@@ -115,148 +109,110 @@ std::string encoded(const std::string &bytes)
 }
 
 template <typename Number>
-void parseNumber(const std::string &word, Number &number, int base = 10)
+std::string encoded(Number number)
 {
-    const char *const end = word.data() + word.size();
-    const auto result = std::from_chars(word.data(), end, number, base);
-    if (result.ec != std::errc() || result.ptr != end)
-        throw std::runtime_error("not a number in range: " + word);
+    return std::to_string(number);
 }
 
-std::string decoded(const std::string &word)
+template <typename Number>
+void decode(const std::string &word, Number &number, int base = 10)
 {
-    std::string bytes;
-    if (word == emptyWord)
-        return bytes;
-    for (std::size_t i = 0; i < word.size(); ++i) {
+    const char *end = word.data() + word.size();
+    const auto result = std::from_chars(word.data(), end, number, base);
+    if (result.ec != std::errc() || result.ptr != end) {
+        throw std::runtime_error("not a number in range: " + word);
+    }
+}
+
+void decode(const std::string &word, bool &flag)
+{
+    flag = word == "1";
+}
+
+void decode(const std::string &word, std::string &bytes)
+{
+    bytes.clear();
+    for (std::size_t i = 0; word != emptyWord && i < word.size(); ++i) {
         if (word[i] != '%') {
             bytes += word[i];
             continue;
         }
         unsigned char byte = 0;
-        parseNumber(word.substr(i + 1, 2), byte, 16);
+        decode(word.substr(i + 1, 2), byte, 16);
         bytes += static_cast<char>(byte);
         i += 2;
     }
-    return bytes;
 }
-
-class Writer
-{
-public:
-    explicit Writer(const char *kind) : m_line(kind) {}
-
-    void operator()(const char *name, const std::string &bytes) { append(name, encoded(bytes)); }
-    template <typename Number>
-    void operator()(const char *name, Number number)
-    {
-        append(name, std::to_string(number));
-    }
-    std::string line() const { return m_line + '\n'; }
-
-private:
-    void append(const char *name, const std::string &word) { m_line = m_line + ' ' + name + ' ' + word; }
-    std::string m_line;
-};
 
 template <typename Record>
 std::string lineOf(const char *kind, Record record)
 {
-    Writer writer(kind);
-    visitFields(writer, record);
-    return writer.line();
+    std::string line = kind;
+    const auto append = [&](const char *name, const auto &value) {
+        line += std::string(" ") + name + ' ' + encoded(value);
+    };
+    visitFields(append, record);
+    return line + '\n';
 }
 
-class Reader
-{
-public:
-    explicit Reader(std::istringstream &rest)
-    {
-        for (std::string name, word; rest >> name >> word;)
-            m_words[name] = word;
-    }
-
-    void operator()(const char *name, std::string &bytes)
-    {
-        take(name, [&](const std::string &word) { bytes = decoded(word); });
-    }
-    void operator()(const char *name, bool &flag)
-    {
-        take(name, [&](const std::string &word) { flag = word == "1"; });
-    }
-    template <typename Number>
-    void operator()(const char *name, Number &number)
-    {
-        take(name, [&](const std::string &word) { parseNumber(word, number); });
-    }
-    void requireAllTaken() const
-    {
-        if (!m_words.empty())
-            throw std::runtime_error("no such field: " + m_words.begin()->first);
-    }
-
-private:
-    template <typename Use>
-    void take(const char *name, Use use)
-    {
-        const auto found = m_words.find(name);
-        if (found == m_words.end())
-            return;
-        use(found->second);
-        m_words.erase(found);
-    }
-    std::map<std::string, std::string> m_words;
-};
-
+/// Reads the fields that follow the kind of the line; those that are missing keep their value in `record`.
 template <typename Record>
-Record recordOf(std::istringstream &rest)
+Record recordOf(std::istringstream &rest, Record record = {})
 {
-    Record record{};
-    Reader reader(rest);
-    visitFields(reader, record);
-    reader.requireAllTaken();
+    std::map<std::string, std::string> words;
+    for (std::string name, word; rest >> name >> word;) {
+        words[name] = word;
+    }
+    const auto read = [&](const char *name, auto &value) {
+        const auto found = words.find(name);
+        if (found != words.end()) {
+            decode(found->second, value);
+            words.erase(found);
+        }
+    };
+    visitFields(read, record);
+    if (!words.empty()) {
+        throw std::runtime_error("no such field: " + words.begin()->first);
+    }
     return record;
 }
 
+/// The list, which is created if the machine has none yet.
 template <typename List>
-typename List::value_type &appended(std::optional<List> &list, typename List::value_type record)
+List &madeIn(std::optional<List> &list)
 {
-    if (!list)
-        list.emplace();
-    list->push_back(std::move(record));
-    return list->back();
+    return list ? *list : list.emplace();
 }
 
 void readLine(const std::string &line, Machine &machine)
 {
     std::istringstream rest(line);
     std::string kind;
-    if (!(rest >> kind) || kind[0] == '#')
+    if (!(rest >> kind) || kind[0] == '#') {
         return;
+    }
     if (kind == "cpus") {
         machine.cpus.emplace();
     } else if (kind == "cpu") {
-        appended(machine.cpus, recordOf<Cpu>(rest));
+        madeIn(machine.cpus).push_back(recordOf<Cpu>(rest));
     } else if (kind == "mem") {
         machine.memory = recordOf<Memory>(rest);
     } else if (kind == "mounts") {
         machine.mounts.emplace();
-        machine.mountListFails = recordOf<ListState>(rest).fails;
+        machine.mountListFails = recordOf(rest, listFails).value;
     } else if (kind == "mount") {
-        appended(machine.mounts, recordOf<Mount>(rest));
+        madeIn(machine.mounts).push_back(recordOf<Mount>(rest));
     } else if (kind == "nets") {
         machine.interfaces.emplace();
-        machine.interfaceListFails = recordOf<ListState>(rest).fails;
+        machine.interfaceListFails = recordOf(rest, listFails).value;
     } else if (kind == "net") {
-        appended(machine.interfaces, recordOf<Interface>(rest));
+        madeIn(machine.interfaces).push_back(recordOf<Interface>(rest));
     } else if (kind == "processes") {
         machine.processes.emplace();
-    } else if (kind == "others") {
-        machine.mostOfOthers = recordOf<OthersLimit>(rest).most;
     } else if (kind == "process") {
-        if (!machine.processes)
-            machine.processes.emplace();
-        machine.processes->insert(recordOf<std::pair<int, Process>>(rest));
+        madeIn(machine.processes).insert(recordOf<std::pair<int, Process>>(rest));
+    } else if (kind == "others") {
+        machine.mostOfOthers = recordOf(rest, othersLimit).value;
     } else {
         throw std::runtime_error("no such kind of line: " + kind);
     }
@@ -269,28 +225,34 @@ std::string toText(const Machine &machine)
     std::string text;
     if (machine.cpus) {
         text += "cpus\n";
-        for (const Cpu &cpu : *machine.cpus)
+        for (const Cpu &cpu : *machine.cpus) {
             text += lineOf("cpu", cpu);
+        }
     }
-    if (machine.memory)
+    if (machine.memory) {
         text += lineOf("mem", *machine.memory);
+    }
     if (machine.mounts) {
-        text += lineOf("mounts", ListState{machine.mountListFails});
-        for (const Mount &mount : *machine.mounts)
+        text += lineOf("mounts", SingleField<bool>{listFails.name, machine.mountListFails});
+        for (const Mount &mount : *machine.mounts) {
             text += lineOf("mount", mount);
+        }
     }
     if (machine.interfaces) {
-        text += lineOf("nets", ListState{machine.interfaceListFails});
-        for (const Interface &net : *machine.interfaces)
+        text += lineOf("nets", SingleField<bool>{listFails.name, machine.interfaceListFails});
+        for (const Interface &net : *machine.interfaces) {
             text += lineOf("net", net);
+        }
     }
     if (machine.processes) {
         text += "processes\n";
-        for (const auto &[pid, process] : *machine.processes)
+        for (const auto &[pid, process] : *machine.processes) {
             text += lineOf("process", std::pair<int, Process>(pid, process));
+        }
     }
-    if (machine.mostOfOthers >= 0)
-        text += lineOf("others", OthersLimit{machine.mostOfOthers});
+    if (machine.mostOfOthers >= 0) {
+        text += lineOf("others", SingleField<int>{othersLimit.name, machine.mostOfOthers});
+    }
     return text;
 }
 
@@ -314,8 +276,9 @@ void save(const Machine &machine, const std::string &path)
     std::ofstream file(beside, std::ios::binary | std::ios::trunc);
     file << toText(machine);
     file.close();
-    if (!file || std::rename(beside.c_str(), path.c_str()) != 0)
+    if (!file || std::rename(beside.c_str(), path.c_str()) != 0) {
         throw std::runtime_error("can't write " + path);
+    }
 }
 
 } // namespace standin

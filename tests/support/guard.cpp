@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Preloaded into the real program by tests that choose in its process list at random: the program can't
-// signal or slow down itself, and with ZSM_GUARD set to "all" no process at all. Each refusal looks as if the
-// kernel had refused it. A signal for several processes at once is never meant; it is refused with a word.
+// Preloaded into the real program by tests that pick random rows of its process list: the program can't
+// signal itself or change its own priority, nor those of any process if ZSM_GUARD is "all". The refusal looks
+// like the kernel's. A signal to several processes at once is always a mistake: it is refused and reported.
 #include <dlfcn.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -16,7 +16,7 @@ namespace {
 
 bool isRefused(pid_t pid)
 {
-    static const char *const guarded = std::getenv("ZSM_GUARD");
+    static const char *guarded = std::getenv("ZSM_GUARD");
     return pid == getpid() || (guarded && std::string(guarded) == "all");
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The undefined-behaviour sanitizer asks through a pipe whether it may read an object that it sees for the
-// first time, and reports the object as broken when there is no descriptor for one. Where tests take the
-// descriptors away, the sanitizer, and nobody else, gets its two from above the limit.
+// The undefined-behaviour sanitizer checks through a pipe whether it may read an object that it sees for the
+// first time, and reports the object as broken if there is no descriptor for a pipe. When a test takes the
+// descriptors away, the sanitizer, and only it, gets its two from above the limit.
 #include <dlfcn.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -17,12 +17,13 @@ bool isOfSanitizer(const void *code)
     return dladdr(code, &found) != 0 && found.dli_fname && std::strstr(found.dli_fname, "libubsan");
 }
 
-// A test may change the limit meanwhile: then its value stays.
+/// Keeps the limit if a test has changed it meanwhile.
 void restoreLimit(const rlimit &before, const rlimit &raised)
 {
     rlimit found = {};
-    if (prlimit(0, RLIMIT_NOFILE, &before, &found) == 0 && found.rlim_cur != raised.rlim_cur)
+    if (prlimit(0, RLIMIT_NOFILE, &before, &found) == 0 && found.rlim_cur != raised.rlim_cur) {
         prlimit(0, RLIMIT_NOFILE, &found, nullptr);
+    }
 }
 
 } // namespace
@@ -33,11 +34,13 @@ extern "C" int pipe(int ends[2]) noexcept
     const int result = real(ends);
     rlimit before = {};
     const bool takenAway = result != 0 && errno == EMFILE && isOfSanitizer(__builtin_return_address(0));
-    if (!takenAway || getrlimit(RLIMIT_NOFILE, &before) != 0)
+    if (!takenAway || getrlimit(RLIMIT_NOFILE, &before) != 0) {
         return result;
+    }
     const rlimit raised{before.rlim_max, before.rlim_max};
-    if (prlimit(0, RLIMIT_NOFILE, &raised, &before) != 0)
+    if (prlimit(0, RLIMIT_NOFILE, &raised, &before) != 0) {
         return -1;
+    }
     const int again = real(ends);
     restoreLimit(before, raised);
     return again;

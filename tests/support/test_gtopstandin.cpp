@@ -20,207 +20,178 @@
 #include <glibtop/procuid.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cstring>
+
 class TestGtopStandin : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void whatIsNotSetComesFromTheRealMachine();
+    void init() { standin::machine() = {}; }
+    void unsetDataComesFromTheRealMachine();
     void cpusGiveTheirCountersAndTheIndexOfTheLastOne();
-    void moreCpusThanLibgtopHoldsAreCut();
-    void theRealCpuCountComesBack();
-    void memoryIsGivenInBytes();
-    void mountsComeInOrderWithTheirUsage();
-    void aFailingUsageQueryGivesAZeroedRecord();
-    void aFailingMountListIsNull();
-    void anEmptyMountListIsNoNullArray();
-    void namesLongerThanTheFieldAreCut();
-    void interfacesComeInOrderWithTheirLoads();
-    void anUnknownInterfaceGivesAZeroedRecord();
+    void cpusBeyondLibgtopsLimitAreDropped();
+    void realCpuCountIsRestored();
+    void memoryIsInBytes();
+    void mountsKeepTheirOrderAndGiveTheirUsage();
+    void failingQueryGivesAZeroedRecord();
+    void emptyMountListIsAnArrayAndAFailingOneIsNull();
+    void longNamesAreTruncated();
+    void interfacesKeepTheirOrderAndGiveTheirLoads();
     void processesAreListedByPidAndByUser();
-    void realProcessesOfOthersAreLeftOut();
-    void aProcessGivesItsData();
-    void aProcessCanEndWhileItIsRead();
+    void realProcessesOfOtherUsersCanBeLeftOut();
+    void processGivesItsData();
+    void processCanExitWhileItIsRead();
     void callsAreCounted();
 };
 
 namespace {
 
+using Counters = QVector<guint64>;
+
+/// The record that a libgtop call fills in over garbage.
+template <typename Record, typename... Parameters, typename... Arguments>
+Record answer(void (*call)(Record *, Parameters...), Arguments... arguments)
+{
+    Record record;
+    std::memset(&record, 0xff, sizeof record);
+    call(&record, arguments...);
+    return record;
+}
+
 std::vector<pid_t> listedPids(gint64 which = GLIBTOP_KERN_PROC_ALL, gint64 arg = 0)
 {
     glibtop_proclist list;
-    pid_t *const pids = glibtop_get_proclist(&list, which, arg);
+    pid_t *pids = glibtop_get_proclist(&list, which, arg);
     const std::vector<pid_t> result(pids, pids + list.number);
     g_free(pids);
     return result;
 }
 
-} // namespace
-
-void TestGtopStandin::init()
+bool isListed(qint64 pid)
 {
-    standin::machine() = {};
+    const std::vector<pid_t> pids = listedPids();
+    return std::find(pids.begin(), pids.end(), pid) != pids.end();
 }
 
-void TestGtopStandin::whatIsNotSetComesFromTheRealMachine()
+} // namespace
+
+void TestGtopStandin::unsetDataComesFromTheRealMachine()
 {
-    glibtop_mem memory;
-    glibtop_get_mem(&memory);
-    QVERIFY(memory.total > 1024 * 1024);
-    glibtop_cpu cpu;
-    glibtop_get_cpu(&cpu);
-    QVERIFY(cpu.total > 0);
-    const std::vector<pid_t> pids = listedPids();
-    QVERIFY(std::find(pids.begin(), pids.end(), getpid()) != pids.end());
-    glibtop_proc_uid uid;
-    glibtop_get_proc_uid(&uid, getpid());
-    QCOMPARE(uid.ppid, getppid());
+    QVERIFY(answer(glibtop_get_mem).total > 1024 * 1024);
+    QVERIFY(answer(glibtop_get_cpu).total > 0);
+    QVERIFY(isListed(getpid()));
+    QCOMPARE(answer(glibtop_get_proc_uid, getpid()).ppid, getppid());
 }
 
 void TestGtopStandin::cpusGiveTheirCountersAndTheIndexOfTheLastOne()
 {
     standin::machine().cpus = {{10, 100}, {20, 300}};
-    glibtop_cpu cpu;
-    glibtop_get_cpu(&cpu);
+    const glibtop_cpu cpu = answer(glibtop_get_cpu);
     QCOMPARE(glibtop_global_server->ncpu, 1);
     QCOMPARE(cpu.total, guint64(400));
-    QCOMPARE(cpu.xcpu_idle[0], guint64(10));
-    QCOMPARE(cpu.xcpu_total[0], guint64(100));
-    QCOMPARE(cpu.xcpu_idle[1], guint64(20));
-    QCOMPARE(cpu.xcpu_total[1], guint64(300));
-    QCOMPARE(cpu.xcpu_total[2], guint64(0));
+    QCOMPARE((Counters{cpu.xcpu_idle[0], cpu.xcpu_idle[1]}), (Counters{10, 20}));
+    QCOMPARE((Counters{cpu.xcpu_total[0], cpu.xcpu_total[1], cpu.xcpu_total[2]}), (Counters{100, 300, 0}));
 }
 
-void TestGtopStandin::moreCpusThanLibgtopHoldsAreCut()
+void TestGtopStandin::cpusBeyondLibgtopsLimitAreDropped()
 {
     standin::machine().cpus = std::vector<standin::Cpu>(GLIBTOP_NCPU + 5, {1, 2});
-    glibtop_cpu cpu;
-    glibtop_get_cpu(&cpu);
+    const glibtop_cpu cpu = answer(glibtop_get_cpu);
     QCOMPARE(glibtop_global_server->ncpu, GLIBTOP_NCPU - 1);
     QCOMPARE(cpu.xcpu_total[GLIBTOP_NCPU - 1], guint64(2));
 }
 
-void TestGtopStandin::theRealCpuCountComesBack()
+void TestGtopStandin::realCpuCountIsRestored()
 {
-    glibtop_cpu cpu;
-    glibtop_get_cpu(&cpu);
+    answer(glibtop_get_cpu);
     const int real = glibtop_global_server->ncpu;
     standin::machine().cpus = std::vector<standin::Cpu>(static_cast<std::size_t>(real + 8));
-    glibtop_get_cpu(&cpu);
+    answer(glibtop_get_cpu);
     QCOMPARE(glibtop_global_server->ncpu, real + 7);
     standin::machine().cpus.reset();
-    glibtop_get_cpu(&cpu);
+    answer(glibtop_get_cpu);
     QCOMPARE(glibtop_global_server->ncpu, real);
 }
 
-void TestGtopStandin::memoryIsGivenInBytes()
+void TestGtopStandin::memoryIsInBytes()
 {
     standin::machine().memory = standin::Memory{300, 3, 1, 1};
-    glibtop_mem memory;
-    glibtop_get_mem(&memory);
-    QCOMPARE(memory.total, guint64(300));
-    QCOMPARE(memory.free, guint64(3));
-    QCOMPARE(memory.buffer, guint64(1));
-    QCOMPARE(memory.cached, guint64(1));
+    const glibtop_mem memory = answer(glibtop_get_mem);
+    QCOMPARE((Counters{memory.total, memory.free, memory.buffer, memory.cached}), (Counters{300, 3, 1, 1}));
 }
 
-void TestGtopStandin::mountsComeInOrderWithTheirUsage()
+void TestGtopStandin::mountsKeepTheirOrderAndGiveTheirUsage()
 {
     standin::machine().mounts = {{"/dev/b", "/b", "ext4", 1000, 500, 400, 30, 4096, false, 0},
                                  {"/dev/a", "/a", "xfs", 1ULL << 32, 0, 0, 0, 512, false, 0}};
     glibtop_mountlist list;
-    glibtop_mountentry *const entries = glibtop_get_mountlist(&list, 1);
+    glibtop_mountentry *entries = glibtop_get_mountlist(&list, 1);
     QCOMPARE(list.number, guint64(2));
     QCOMPARE(entries[0].devname, "/dev/b");
     QCOMPARE(entries[0].mountdir, "/b");
     QCOMPARE(entries[0].type, "ext4");
     QCOMPARE(entries[1].devname, "/dev/a");
-    glibtop_fsusage usage;
-    glibtop_get_fsusage(&usage, entries[0].mountdir);
-    QCOMPARE(usage.blocks, guint64(1000));
-    QCOMPARE(usage.bfree, guint64(500));
-    QCOMPARE(usage.bavail, guint64(400));
-    QCOMPARE(usage.files, guint64(30));
-    QCOMPARE(usage.block_size, guint32(4096));
-    glibtop_get_fsusage(&usage, entries[1].mountdir);
-    QCOMPARE(usage.blocks, guint64(1) << 32);
+    const glibtop_fsusage usage = answer(glibtop_get_fsusage, entries[0].mountdir);
+    QCOMPARE((Counters{usage.blocks, usage.bfree, usage.bavail, usage.files, usage.block_size}),
+             (Counters{1000, 500, 400, 30, 4096}));
+    QCOMPARE(answer(glibtop_get_fsusage, entries[1].mountdir).blocks, guint64(1) << 32);
     g_free(entries);
 }
 
-void TestGtopStandin::aFailingUsageQueryGivesAZeroedRecord()
+void TestGtopStandin::failingQueryGivesAZeroedRecord()
 {
-    standin::Mount mount{"/dev/a", "/a", "ext4", 1000, 500, 400, 30, 4096, true, 0};
-    standin::machine().mounts = {mount};
-    glibtop_fsusage usage;
-    glibtop_get_fsusage(&usage, "/a");
-    QCOMPARE(usage.flags, guint64(0));
-    QCOMPARE(usage.blocks, guint64(0));
-    glibtop_get_fsusage(&usage, "/gone");
-    QCOMPARE(usage.blocks, guint64(0));
+    standin::machine().mounts = {{"/dev/a", "/a", "ext4", 1000, 500, 400, 30, 4096, true, 0}};
+    standin::machine().interfaces = {{"lo", 1, 2, 5, 6, 7, true}};
+    for (const char *directory : {"/a", "/unknown"}) {
+        const glibtop_fsusage usage = answer(glibtop_get_fsusage, directory);
+        QVERIFY2(usage.flags == 0 && usage.blocks == 0, directory);
+    }
+    for (const char *interface : {"lo", "unknown"}) {
+        const glibtop_netload load = answer(glibtop_get_netload, interface);
+        QVERIFY2(load.flags == 0 && load.bytes_in == 0, interface);
+    }
 }
 
-void TestGtopStandin::aFailingMountListIsNull()
-{
-    standin::machine().mounts.emplace();
-    standin::machine().mountListFails = true;
-    glibtop_mountlist list;
-    QVERIFY(!glibtop_get_mountlist(&list, 1));
-    QCOMPARE(list.number, guint64(0));
-}
-
-void TestGtopStandin::anEmptyMountListIsNoNullArray()
+void TestGtopStandin::emptyMountListIsAnArrayAndAFailingOneIsNull()
 {
     standin::machine().mounts.emplace();
-    glibtop_mountlist list;
-    glibtop_mountentry *const entries = glibtop_get_mountlist(&list, 1);
-    QVERIFY(entries);
-    QCOMPARE(list.number, guint64(0));
-    g_free(entries);
+    for (const bool fails : {false, true}) {
+        standin::machine().mountListFails = fails;
+        glibtop_mountlist list;
+        glibtop_mountentry *entries = glibtop_get_mountlist(&list, 1);
+        QCOMPARE(!entries, fails);
+        QCOMPARE(list.number, guint64(0));
+        g_free(entries);
+    }
 }
 
-void TestGtopStandin::namesLongerThanTheFieldAreCut()
+void TestGtopStandin::longNamesAreTruncated()
 {
     standin::machine().mounts = {
         {std::string(200, 'd'), std::string(200, 'm'), "ext4", 9, 0, 0, 0, 1, false, 0}};
     glibtop_mountlist list;
-    glibtop_mountentry *const entries = glibtop_get_mountlist(&list, 1);
+    glibtop_mountentry *entries = glibtop_get_mountlist(&list, 1);
     QCOMPARE(qstrlen(entries[0].devname), uint(GLIBTOP_MOUNTENTRY_LEN));
-    glibtop_fsusage usage;
-    glibtop_get_fsusage(&usage, entries[0].mountdir);
-    QCOMPARE(usage.blocks, guint64(9));
+    QCOMPARE(answer(glibtop_get_fsusage, entries[0].mountdir).blocks, guint64(9));
     g_free(entries);
 }
 
-void TestGtopStandin::interfacesComeInOrderWithTheirLoads()
+void TestGtopStandin::interfacesKeepTheirOrderAndGiveTheirLoads()
 {
     standin::machine().interfaces = {{"lo", 0x0100007f, 0x000000ff, 5, 6, 7, false},
                                      {"et\xc3\xa9", 0, 0, 0, 0, 0, false}};
     glibtop_netlist list;
-    char **const names = glibtop_get_netlist(&list);
+    char **names = glibtop_get_netlist(&list);
     QCOMPARE(list.number, guint32(2));
     QCOMPARE(names[0], "lo");
     QCOMPARE(names[1], "et\xc3\xa9");
     QVERIFY(!names[2]);
     g_strfreev(names);
-    glibtop_netload load;
-    glibtop_get_netload(&load, "lo");
-    QCOMPARE(load.address, guint32(0x0100007f));
-    QCOMPARE(load.subnet, guint32(0x000000ff));
-    QCOMPARE(load.bytes_in, guint64(5));
-    QCOMPARE(load.bytes_out, guint64(6));
-    QCOMPARE(load.errors_total, guint64(7));
-}
-
-void TestGtopStandin::anUnknownInterfaceGivesAZeroedRecord()
-{
-    standin::machine().interfaces = {{"lo", 1, 2, 5, 6, 7, true}};
-    glibtop_netload load;
-    glibtop_get_netload(&load, "lo");
-    QCOMPARE(load.bytes_in, guint64(0));
-    QCOMPARE(load.flags, guint64(0));
-    glibtop_get_netload(&load, "eth7");
-    QCOMPARE(load.bytes_in, guint64(0));
+    const glibtop_netload load = answer(glibtop_get_netload, "lo");
+    QCOMPARE((Counters{load.address, load.subnet, load.bytes_in, load.bytes_out, load.errors_total}),
+             (Counters{0x0100007f, 0x000000ff, 5, 6, 7}));
 }
 
 void TestGtopStandin::processesAreListedByPidAndByUser()
@@ -233,77 +204,50 @@ void TestGtopStandin::processesAreListedByPidAndByUser()
     QCOMPARE(listedPids(GLIBTOP_KERN_PROC_RUID, 0), (std::vector<pid_t>{1, 300}));
 }
 
-// A process of another user is needed, and only the superuser can make one.
-void TestGtopStandin::realProcessesOfOthersAreLeftOut()
+void TestGtopStandin::realProcessesOfOtherUsersCanBeLeftOut()
 {
-    if (getuid() != 0)
-        QSKIP("needs to be root");
+    if (getuid() != 0) {
+        QSKIP("only root can start a process of another user");
+    }
     QProcess other;
-    other.start(QStringLiteral("setpriv"),
-                {QStringLiteral("--reuid"), QStringLiteral("65534"), QStringLiteral("sh"),
-                 QStringLiteral("-c"), QStringLiteral("echo; read line")});
+    other.start("setpriv", {"--reuid", "65534", "sh", "-c", "echo; read line"});
     QVERIFY(other.waitForReadyRead());
-    const auto lists = [](qint64 pid) {
-        const std::vector<pid_t> pids = listedPids();
-        return std::find(pids.begin(), pids.end(), pid) != pids.end();
-    };
-    QVERIFY(lists(other.processId()));
+    QVERIFY(isListed(other.processId()));
     standin::machine().mostOfOthers = 0;
-    QVERIFY(!lists(other.processId()));
-    QVERIFY(lists(getpid()));
+    QVERIFY(!isListed(other.processId()));
+    QVERIFY(isListed(getpid()));
     standin::machine().mostOfOthers = 1000000;
-    QVERIFY(lists(other.processId()));
+    QVERIFY(isListed(other.processId()));
     other.closeWriteChannel();
     QVERIFY(other.waitForFinished());
 }
 
-void TestGtopStandin::aProcessGivesItsData()
+void TestGtopStandin::processGivesItsData()
 {
-    standin::Process process;
-    process.parent = -2;
-    process.name = "a b";
-    process.uid = 1000;
-    process.state = 16;
-    process.nice = -20;
-    process.userTime = 1;
-    process.systemTime = 2;
-    process.startTime = 3;
-    process.virtualSize = 4;
-    process.resident = 5;
-    process.shared = 6;
-    process.arguments = std::string("a\0b\0", 4);
+    const QByteArray arguments("a\0b\0", 4);
+    const standin::Process process{-2, "a b", 1000, 16, -20, 1, 2, 3, 4, 5, 6, arguments.toStdString(), -1};
     standin::machine().processes = {{42, process}};
-    glibtop_proc_state state;
-    glibtop_get_proc_state(&state, 42);
+    const glibtop_proc_state state = answer(glibtop_get_proc_state, 42);
     QCOMPARE(state.cmd, "a b");
     QCOMPARE(state.state, 16u);
-    glibtop_proc_uid uid;
-    glibtop_get_proc_uid(&uid, 42);
-    QCOMPARE(uid.ppid, -2);
-    QCOMPARE(uid.uid, 1000);
-    QCOMPARE(uid.nice, -20);
-    glibtop_proc_time time;
-    glibtop_get_proc_time(&time, 42);
-    QCOMPARE(time.utime, guint64(1));
-    QCOMPARE(time.stime, guint64(2));
-    QCOMPARE(time.start_time, guint64(3));
-    glibtop_proc_mem memory;
-    glibtop_get_proc_mem(&memory, 42);
-    QCOMPARE(memory.vsize, guint64(4));
-    QCOMPARE(memory.resident, guint64(5));
-    QCOMPARE(memory.share, guint64(6));
+    const glibtop_proc_uid uid = answer(glibtop_get_proc_uid, 42);
+    QCOMPARE((QVector<int>{uid.ppid, uid.uid, uid.nice}), (QVector<int>{-2, 1000, -20}));
+    const glibtop_proc_time time = answer(glibtop_get_proc_time, 42);
+    QCOMPARE((Counters{time.utime, time.stime, time.start_time}), (Counters{1, 2, 3}));
+    const glibtop_proc_mem memory = answer(glibtop_get_proc_mem, 42);
+    QCOMPARE((Counters{memory.vsize, memory.resident, memory.share}), (Counters{4, 5, 6}));
     glibtop_proc_args args;
-    char *const bytes = glibtop_get_proc_args(&args, 42, 0);
-    QCOMPARE(QByteArray(bytes, int(args.size)), QByteArray("a\0b\0", 4));
+    char *bytes = glibtop_get_proc_args(&args, 42, 0);
+    QCOMPARE(QByteArray(bytes, int(args.size)), arguments);
     g_free(bytes);
-    char **const list = glibtop_get_proc_argv(&args, 42, 0);
+    char **list = glibtop_get_proc_argv(&args, 42, 0);
     QCOMPARE(list[0], "a");
     QCOMPARE(list[1], "b");
     QVERIFY(!list[2]);
     g_strfreev(list);
 }
 
-void TestGtopStandin::aProcessCanEndWhileItIsRead()
+void TestGtopStandin::processCanExitWhileItIsRead()
 {
     standin::Process process;
     process.name = "brief";
@@ -311,13 +255,10 @@ void TestGtopStandin::aProcessCanEndWhileItIsRead()
     standin::machine().processes = {{42, process}};
     for (int refresh = 0; refresh < 2; ++refresh) {
         QCOMPARE(listedPids(), std::vector<pid_t>{42});
-        glibtop_proc_state state;
-        glibtop_get_proc_state(&state, 42);
-        QCOMPARE(state.cmd, "brief");
+        QCOMPARE(answer(glibtop_get_proc_state, 42).cmd, "brief");
         glibtop_proc_args args;
         QVERIFY(!glibtop_get_proc_args(&args, 42, 0));
-        glibtop_get_proc_state(&state, 42);
-        QCOMPARE(state.cmd, "");
+        QCOMPARE(answer(glibtop_get_proc_state, 42).cmd, "");
     }
 }
 
@@ -325,11 +266,9 @@ void TestGtopStandin::callsAreCounted()
 {
     standin::machine().processes.emplace();
     standin::resetCalls();
-    glibtop_mem memory;
-    glibtop_get_mem(&memory);
-    glibtop_get_mem(&memory);
-    glibtop_proc_mem processMemory;
-    glibtop_get_proc_mem(&processMemory, 42);
+    answer(glibtop_get_mem);
+    answer(glibtop_get_mem);
+    answer(glibtop_get_proc_mem, 42);
     QCOMPARE(standin::calls().memory, 2u);
     QCOMPARE(standin::calls().processData, 1u);
     QCOMPARE(standin::calls().mountList, 0u);

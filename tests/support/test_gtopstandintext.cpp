@@ -13,11 +13,11 @@ class TestGtopStandinText : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theTextFormKeepsEveryField();
-    void anEmptyListIsNotAnUnsetOne();
-    void aLineThatCannotBeReadIsNamed_data();
-    void aLineThatCannotBeReadIsNamed();
-    void savingReplacesTheFileInOneStep();
+    void textKeepsEveryField();
+    void emptyListIsNotUnset();
+    void badLineIsQuoted_data();
+    void badLineIsQuoted();
+    void savingReplacesTheFileAtomically();
 };
 
 namespace {
@@ -27,27 +27,11 @@ standin::Machine fullMachine()
     standin::Machine machine;
     machine.cpus = {{1, 2}, {3, ~std::uint64_t(0)}};
     machine.memory = standin::Memory{100, 20, 3, 4};
-    standin::Mount mount{"/dev/sd a", "/mnt/\xff%\n", "", 5, 4, 3, 2, 512, false, 0};
-    mount.fails = true;
-    mount.blocksForMs = 7;
-    machine.mounts = {mount, standin::Mount{}};
+    machine.mounts = {{"/dev/sd a", "/mnt/\xff%\n", "", 5, 4, 3, 2, 512, true, 7}, standin::Mount{}};
     machine.mountListFails = true;
     machine.interfaces = {{"eth0", 0x0100007f, 0xff, 11, 12, 13, true}};
     machine.interfaceListFails = true;
-    standin::Process process;
-    process.parent = -2;
-    process.name = "a b";
-    process.uid = 1000;
-    process.state = 16;
-    process.nice = -20;
-    process.userTime = 1;
-    process.systemTime = 2;
-    process.startTime = 3;
-    process.virtualSize = 4;
-    process.resident = 5;
-    process.shared = 6;
-    process.arguments = std::string("a\0b\0", 4);
-    process.answersBeforeEnd = 2;
+    const standin::Process process{-2, "a b", 1000, 16, -20, 1, 2, 3, 4, 5, 6, std::string("a\0b\0", 4), 2};
     machine.processes = {{42, process}, {43, standin::Process{}}};
     machine.mostOfOthers = 8;
     return machine;
@@ -55,7 +39,7 @@ standin::Machine fullMachine()
 
 } // namespace
 
-void TestGtopStandinText::theTextFormKeepsEveryField()
+void TestGtopStandinText::textKeepsEveryField()
 {
     const std::string text = standin::toText(fullMachine());
     const standin::Machine read = standin::fromText(text);
@@ -74,7 +58,7 @@ void TestGtopStandinText::theTextFormKeepsEveryField()
     QCOMPARE(read.mostOfOthers, 8);
 }
 
-void TestGtopStandinText::anEmptyListIsNotAnUnsetOne()
+void TestGtopStandinText::emptyListIsNotUnset()
 {
     QCOMPARE(standin::toText({}), std::string());
     QVERIFY(!standin::fromText("# nothing\n\n").mounts);
@@ -91,7 +75,7 @@ void TestGtopStandinText::anEmptyListIsNotAnUnsetOne()
     QVERIFY(!read.memory);
 }
 
-void TestGtopStandinText::aLineThatCannotBeReadIsNamed_data()
+void TestGtopStandinText::badLineIsQuoted_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::newRow("unknown kind") << QByteArray("disk a b");
@@ -101,7 +85,7 @@ void TestGtopStandinText::aLineThatCannotBeReadIsNamed_data()
     QTest::newRow("cut escape") << QByteArray("net name a%");
 }
 
-void TestGtopStandinText::aLineThatCannotBeReadIsNamed()
+void TestGtopStandinText::badLineIsQuoted()
 {
     QFETCH(QByteArray, line);
     QByteArray message;
@@ -113,23 +97,18 @@ void TestGtopStandinText::aLineThatCannotBeReadIsNamed()
     QVERIFY2(message.contains('"' + line + '"'), message.constData());
 }
 
-void TestGtopStandinText::savingReplacesTheFileInOneStep()
+void TestGtopStandinText::savingReplacesTheFileAtomically()
 {
     QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("machine"));
+    const QString path = directory.filePath("machine");
     standin::save(fullMachine(), path.toStdString());
     QFile opened(path);
     QVERIFY(opened.open(QIODevice::ReadOnly));
     standin::save({}, path.toStdString());
     QCOMPARE(opened.readAll().toStdString(), standin::toText(fullMachine()));
     QCOMPARE(QFileInfo(path).size(), 0);
-    bool failed = false;
-    try {
-        standin::save({}, directory.filePath(QStringLiteral("no/such")).toStdString());
-    } catch (const std::runtime_error &) {
-        failed = true;
-    }
-    QVERIFY(failed);
+    const std::string unwritable = directory.filePath("no/such").toStdString();
+    QVERIFY_EXCEPTION_THROWN(standin::save({}, unwritable), std::runtime_error);
 }
 
 QTEST_GUILESS_MAIN(TestGtopStandinText)

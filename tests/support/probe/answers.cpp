@@ -18,137 +18,106 @@
 namespace probe {
 namespace {
 
-bool isA(const QWidget *widget, const QByteArray &className)
-{
-    for (const QMetaObject *meta = widget->metaObject(); meta; meta = meta->superClass()) {
-        if (className == meta->className())
-            return true;
-    }
-    return false;
-}
-
-// All widgets, each after its parent and siblings in their order: QApplication's own list has no order.
-QWidgetList allWidgets()
-{
-    QWidgetList widgets;
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        widgets.append(window);
-        const QList<QWidget *> children = window->findChildren<QWidget *>();
-        for (QWidget *child : children) {
-            if (child->window() == window)
-                widgets.append(child);
-        }
-    }
-    return widgets;
-}
-
-QWidgetList visibleWidgets(const QByteArray &className)
+/// All widgets that meet the condition, each after its parent and siblings in their order, which
+/// QApplication::allWidgets() does not keep.
+template <typename Condition>
+QWidgetList widgetsThat(Condition isMet)
 {
     QWidgetList found;
-    const QWidgetList widgets = allWidgets();
-    for (QWidget *widget : widgets) {
-        if (widget->isVisible() && isA(widget, className))
-            found.append(widget);
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        for (QWidget *each : QWidgetList{window} + window->findChildren<QWidget *>()) {
+            if (each->window() == window && isMet(each)) {
+                found.append(each);
+            }
+        }
     }
     return found;
 }
 
+QWidgetList visibleWidgets(const QByteArray &className)
+{
+    return widgetsThat(
+        [&](const QWidget *each) { return each->isVisible() && each->inherits(className.constData()); });
+}
+
 QWidget *findWidget(const QString &name)
 {
-    const QWidgetList widgets = allWidgets();
-    for (QWidget *widget : widgets) {
-        if (!name.isEmpty() && widget->objectName() == name)
-            return widget;
-    }
-    return visibleWidgets(name.toLatin1()).value(0);
+    const QWidgetList named =
+        widgetsThat([&](const QWidget *each) { return !name.isEmpty() && each->objectName() == name; });
+    return named.isEmpty() ? visibleWidgets(name.toLatin1()).value(0) : named.first();
 }
 
 QJsonObject error(const QString &text)
 {
-    return {{QStringLiteral("error"), text}};
+    return {{"error", text}};
 }
 
 QJsonObject list(const QString &key, const QWidgetList &widgets, QJsonObject (*describe)(const QWidget *))
 {
     QJsonArray array;
-    for (const QWidget *widget : widgets)
+    for (const QWidget *widget : widgets) {
         array.append(describe(widget));
+    }
     return {{key, array}};
 }
 
 QJsonObject windows(const QString &)
 {
-    QWidgetList visible;
-    const QWidgetList topLevels = QApplication::topLevelWidgets();
-    for (QWidget *window : topLevels) {
-        if (window->isVisible())
-            visible.append(window);
-    }
-    return list(QStringLiteral("windows"), visible, describeWindow);
+    const QWidgetList visible =
+        widgetsThat([](const QWidget *each) { return each->isWindow() && each->isVisible(); });
+    return list("windows", visible, describeWindow);
 }
 
 QJsonObject widget(const QString &name)
 {
-    const QWidget *const found = findWidget(name);
-    return found ? describeWidget(found) : error(QStringLiteral("no widget ") + name);
+    const QWidget *found = findWidget(name);
+    return found ? describeWidget(found) : error("no widget " + name);
 }
 
 QJsonObject widgetsOfClass(const QString &className)
 {
-    return list(QStringLiteral("widgets"), visibleWidgets(className.toLatin1()), describeWidget);
-}
-
-QJsonObject tree(const QString &)
-{
-    QWidgetList named;
-    const QWidgetList widgets = allWidgets();
-    for (QWidget *each : widgets) {
-        if (!each->objectName().isEmpty())
-            named.append(each);
-    }
-    return list(QStringLiteral("widgets"), named, describeWidget);
+    return list("widgets", visibleWidgets(className.toLatin1()), describeWidget);
 }
 
 QJsonObject table(const QString &name)
 {
-    auto *const view = qobject_cast<QAbstractItemView *>(findWidget(name));
-    return view ? describeView(view) : error(QStringLiteral("no item view ") + name);
+    auto *view = qobject_cast<QAbstractItemView *>(findWidget(name));
+    return view ? describeView(view) : error("no item view " + name);
 }
 
 QJsonObject selected(const QString &name)
 {
-    const auto *const view = qobject_cast<QAbstractItemView *>(findWidget(name));
-    return view ? describeSelected(view) : error(QStringLiteral("no item view ") + name);
+    const auto *view = qobject_cast<QAbstractItemView *>(findWidget(name));
+    return view ? describeSelected(view) : error("no item view " + name);
 }
 
 QJsonObject state(const QString &)
 {
-    const QWidget *const popup = QApplication::activePopupWidget();
-    const QWidget *const modal = QApplication::activeModalWidget();
-    const auto *const tabs = qobject_cast<QTabWidget *>(visibleWidgets("QTabWidget").value(0));
+    const QWidget *popup = QApplication::activePopupWidget();
+    const QWidget *modal = QApplication::activeModalWidget();
+    const auto *tabs = qobject_cast<QTabWidget *>(visibleWidgets("QTabWidget").value(0));
     QJsonArray menus;
-    const QWidgetList open = visibleWidgets("QMenu");
-    for (const QWidget *each : open)
+    for (const QWidget *each : visibleWidgets("QMenu")) {
         menus.append(qobject_cast<const QMenu *>(each)->title());
-    QJsonObject json{
-        {QStringLiteral("mark"), InputMarks::latest()},
-        {QStringLiteral("popup"), popup ? QString::fromLatin1(popup->metaObject()->className()) : QString()},
-        {QStringLiteral("menus"), menus},
-        {QStringLiteral("modal"), modal != nullptr},
-        {QStringLiteral("title"), modal ? modal->windowTitle() : QString()}};
+    }
+    QJsonObject json{{"mark", InputMarks::latest()},
+                     {"popup", popup ? popup->metaObject()->className() : QString()},
+                     {"menus", menus},
+                     {"modal", modal != nullptr},
+                     {"title", modal ? modal->windowTitle() : QString()}};
     if (tabs) {
-        json[QStringLiteral("tab")] = tabs->currentIndex();
-        json[QStringLiteral("window")] = globalRect(tabs->window(), tabs->window()->rect());
-        json[QStringLiteral("id")] = double(tabs->window()->winId());
+        json["tab"] = tabs->currentIndex();
+        json["window"] = globalRect(tabs->window(), tabs->window()->rect());
+        json["id"] = double(tabs->window()->winId());
     }
     return json;
 }
 
 QJsonObject palette(const QString &color)
 {
-    if (!QColor::isValidColor(color))
-        return error(QStringLiteral("no color ") + color);
+    if (!QColor::isValidColor(color)) {
+        return error("no color " + color);
+    }
     QApplication::setPalette(QPalette(QColor(color)));
     return {};
 }
@@ -156,8 +125,9 @@ QJsonObject palette(const QString &color)
 QJsonObject font(const QString &size)
 {
     QFont changed = QApplication::font();
-    if (size.toInt() <= 0)
-        return error(QStringLiteral("no size ") + size);
+    if (size.toInt() <= 0) {
+        return error("no size " + size);
+    }
     changed.setPointSize(size.toInt());
     QApplication::setFont(changed);
     return {};
@@ -172,42 +142,37 @@ QJsonObject hoard(const QString &)
 
 QJsonObject menu(const QString &)
 {
-    const auto *const bar = qobject_cast<QMenuBar *>(visibleWidgets("QMenuBar").value(0));
+    const auto *bar = qobject_cast<QMenuBar *>(visibleWidgets("QMenuBar").value(0));
     QJsonArray open;
     QWidgetList menus = visibleWidgets("QMenu");
-    QWidget *const innermost = QApplication::activePopupWidget();
-    if (menus.removeOne(innermost))
+    QWidget *innermost = QApplication::activePopupWidget();
+    if (menus.removeOne(innermost)) {
         menus.append(innermost);
-    for (const QWidget *each : menus)
+    }
+    for (const QWidget *each : menus) {
         open.append(describeMenu(qobject_cast<const QMenu *>(each)));
-    return {{QStringLiteral("bar"), bar ? describeMenuBar(bar) : QJsonArray()},
-            {QStringLiteral("menus"), open}};
+    }
+    return {{"bar", bar ? describeMenuBar(bar) : QJsonArray()}, {"menus", open}};
 }
 
 QJsonObject dialog(const QString &)
 {
-    QWidget *const modal = QApplication::activeModalWidget();
-    if (!modal)
+    QWidget *modal = QApplication::activeModalWidget();
+    if (!modal) {
         return {};
-    QJsonObject json = describeWindow(modal);
-    const QList<QAbstractButton *> all = modal->findChildren<QAbstractButton *>();
-    QJsonArray buttons;
-    for (const QAbstractButton *button : all) {
-        if (button->isVisible())
-            buttons.append(describeWidget(button));
     }
-    json[QStringLiteral("buttons")] = buttons;
+    QJsonObject json = describeWindow(modal);
+    QJsonArray buttons;
+    for (const QAbstractButton *button : modal->findChildren<QAbstractButton *>()) {
+        if (button->isVisible()) {
+            buttons.append(describeWidget(button));
+        }
+    }
+    json["buttons"] = buttons;
     if (const auto *box = qobject_cast<QMessageBox *>(modal)) {
-        json[QStringLiteral("icon")] = int(box->icon());
-        json[QStringLiteral("escapeButton")] = box->escapeButton() ? box->escapeButton()->text() : QString();
+        json["icon"] = int(box->icon());
     }
     return json;
-}
-
-QJsonObject focus(const QString &)
-{
-    const QWidget *const focused = QApplication::focusWidget();
-    return focused ? describeWidget(focused) : QJsonObject();
 }
 
 struct Command
@@ -216,23 +181,23 @@ struct Command
     QJsonObject (*run)(const QString &argument);
 };
 
-const Command commands[] = {{"windows", windows},   {"widget", widget},   {"widgets", widgetsOfClass},
-                            {"tree", tree},         {"table", table},     {"menu", menu},
-                            {"selected", selected}, {"state", state},     {"dialog", dialog},
-                            {"focus", focus},       {"palette", palette}, {"font", font},
-                            {"hoard", hoard}};
+const Command commands[] = {{"windows", windows}, {"widget", widget}, {"widgets", widgetsOfClass},
+                            {"table", table},     {"menu", menu},     {"selected", selected},
+                            {"state", state},     {"dialog", dialog}, {"palette", palette},
+                            {"font", font},       {"hoard", hoard}};
 
 } // namespace
 
 QJsonObject answer(const QString &line)
 {
-    const QString name = line.section(QLatin1Char(' '), 0, 0);
-    const QString argument = line.section(QLatin1Char(' '), 1);
+    const QString name = line.section(' ', 0, 0);
+    const QString argument = line.section(' ', 1);
     for (const Command &command : commands) {
-        if (name == QLatin1String(command.name))
+        if (name == command.name) {
             return command.run(argument);
+        }
     }
-    return error(QStringLiteral("no such command: ") + name);
+    return error("no such command: " + name);
 }
 
 } // namespace probe

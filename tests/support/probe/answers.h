@@ -7,23 +7,21 @@
 
 namespace probe {
 
-/// The answer to one line. All but the last three only tell:
-///   windows        all visible top-level windows, popups too
+/// Answers one command line. All commands but the last three are read-only:
+///   windows        all visible top-level windows, including popups
 ///   widget NAME    the widget of that object name or, if there is none, the first visible one of that class
-///   widgets CLASS  all visible widgets of that class or derived from it
-///   tree           all named widgets
-///   table NAME     an item view, found as by `widget`, with headers and rows
+///   widgets CLASS  all visible widgets of that class or a subclass
+///   table NAME     an item view, found like `widget`, with headers and rows
 ///   menu           the entries of the menu bar, and the open menus, the innermost last
-///   selected NAME  {"id": the number that the model knows the selected row of an item view by}; {} if none
-///   state          in short: what is open, which page is shown, which mark came last (inputmarks.h)
+///   selected NAME  {"id": the internal id of the selected row of an item view in its model}; {} if none
+///   state          a summary: what is open, the current page and the latest mark (inputmarks.h)
 ///   dialog         the active modal dialog with its buttons; {} if there is none
-///   focus          the widget that has the focus; {} if there is none
-/// and these two do as the settings of the desktop do while programs run:
-///   palette COLOR  derives the program's palette from that colour of buttons, "#rrggbb"
-///   font SIZE      gives the program's font that size in points
-/// and this one as a leak would:
-///   hoard          takes every file descriptor that the program could still open
-/// A line that can't be answered gives an object with the one key "error".
+/// These two act like the settings of a desktop:
+///   palette COLOR  derives the program's palette from that button color, "#rrggbb"
+///   font SIZE      sets the size of the program's font, in points
+/// This one acts like a leak:
+///   hoard          opens every file descriptor that the program has left
+/// A line that can't be answered gives an object with the single key "error".
 QJsonObject answer(const QString &line);
 
 } // namespace probe

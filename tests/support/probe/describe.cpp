@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -19,37 +18,32 @@
 namespace probe {
 namespace {
 
-// Properties that are told when the widget has them.
-const char *const toldProperties[] = {"text",    "title",   "currentText",  "informativeText", "value",
-                                      "minimum", "maximum", "currentIndex", "checked",         "default"};
-
-QString name(const QObject *object)
-{
-    return object ? object->objectName() : QString();
-}
+/// The properties of a widget that are described if the widget has them.
+const char *const describedProperties[] = {"enabled",      "visible",     "focus",   "text",
+                                           "title",        "currentText", "value",   "minimum",
+                                           "currentIndex", "maximum",     "checked", "default"};
 
 void addAccessible(const QWidget *widget, QJsonObject &json)
 {
-    QAccessibleInterface *const accessible =
-        QAccessible::queryAccessibleInterface(const_cast<QWidget *>(widget));
-    if (!accessible)
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(const_cast<QWidget *>(widget));
+    if (!accessible) {
         return;
-    json[QStringLiteral("accessibleName")] = accessible->text(QAccessible::Name);
-    json[QStringLiteral("accessibleDescription")] = accessible->text(QAccessible::Description);
-    QAccessibleValueInterface *const value = accessible->valueInterface();
-    json[QStringLiteral("accessibleValue")] =
-        value ? value->currentValue().toString() : accessible->text(QAccessible::Value);
+    }
+    json["accessibleName"] = accessible->text(QAccessible::Name);
+    json["accessibleDescription"] = accessible->text(QAccessible::Description);
+    QAccessibleValueInterface *value = accessible->valueInterface();
+    json["accessibleValue"] = value ? value->currentValue().toString() : accessible->text(QAccessible::Value);
 }
 
 QJsonArray describeTabs(const QTabWidget *tabs)
 {
-    const QTabBar *const bar = tabs->tabBar();
+    const QTabBar *bar = tabs->tabBar();
     QJsonArray result;
     for (int i = 0; i < bar->count(); ++i) {
-        result.append(QJsonObject{{QStringLiteral("text"), bar->tabText(i)},
-                                  {QStringLiteral("enabled"), bar->isTabEnabled(i)},
-                                  {QStringLiteral("current"), i == bar->currentIndex()},
-                                  {QStringLiteral("rect"), globalRect(bar, bar->tabRect(i))}});
+        result.append(QJsonObject{{"text", bar->tabText(i)},
+                                  {"enabled", bar->isTabEnabled(i)},
+                                  {"current", i == bar->currentIndex()},
+                                  {"rect", globalRect(bar, bar->tabRect(i))}});
     }
     return result;
 }
@@ -57,23 +51,29 @@ QJsonArray describeTabs(const QTabWidget *tabs)
 QJsonArray comboItems(const QComboBox *combo)
 {
     QJsonArray items;
-    for (int i = 0; i < combo->count(); ++i)
+    for (int i = 0; i < combo->count(); ++i) {
         items.append(combo->itemText(i));
+    }
     return items;
 }
 
-QJsonObject describeAction(const QAction *action, const QJsonArray &rect)
+/// The entries of a menu or menu bar.
+template <typename Menu>
+QJsonArray describeActions(const Menu *menu)
 {
-    return {{QStringLiteral("text"), action->text()},
-            {QStringLiteral("shortcut"), action->shortcut().toString()},
-            {QStringLiteral("enabled"), action->isEnabled()},
-            {QStringLiteral("visible"), action->isVisible()},
-            {QStringLiteral("separator"), action->isSeparator()},
-            {QStringLiteral("checkable"), action->isCheckable()},
-            {QStringLiteral("checked"), action->isChecked()},
-            {QStringLiteral("icon"), !action->icon().isNull()},
-            {QStringLiteral("submenu"), action->menu() != nullptr},
-            {QStringLiteral("rect"), rect}};
+    QJsonArray actions;
+    for (QAction *action : menu->actions()) {
+        actions.append(QJsonObject{{"text", action->text()},
+                                   {"shortcut", action->shortcut().toString()},
+                                   {"enabled", action->isEnabled()},
+                                   {"visible", action->isVisible()},
+                                   {"separator", action->isSeparator()},
+                                   {"checkable", action->isCheckable()},
+                                   {"checked", action->isChecked()},
+                                   {"icon", !action->icon().isNull()},
+                                   {"rect", globalRect(menu, menu->actionGeometry(action))}});
+    }
+    return actions;
 }
 
 } // namespace
@@ -90,27 +90,25 @@ QJsonArray globalRect(const QWidget *widget, const QRect &rect)
 
 QJsonObject describeWidget(const QWidget *widget)
 {
-    QJsonObject json{{QStringLiteral("class"), QString::fromLatin1(widget->metaObject()->className())},
-                     {QStringLiteral("name"), widget->objectName()},
-                     {QStringLiteral("enabled"), widget->isEnabled()},
-                     {QStringLiteral("visible"), widget->isVisible()},
-                     {QStringLiteral("focus"), widget->hasFocus()},
-                     {QStringLiteral("rect"), globalRect(widget, widget->rect())},
-                     {QStringLiteral("sizeHint"), rectJson(QRect(QPoint(), widget->sizeHint()))},
-                     {QStringLiteral("toolTip"), widget->toolTip()}};
-    for (const char *property : toldProperties) {
+    QJsonObject json{{"class", widget->metaObject()->className()},
+                     {"name", widget->objectName()},
+                     {"rect", globalRect(widget, widget->rect())},
+                     {"sizeHint", rectJson(QRect(QPoint(), widget->sizeHint()))}};
+    for (const char *property : describedProperties) {
         const QVariant value = widget->property(property);
-        if (value.isValid())
-            json[QLatin1String(property)] = QJsonValue::fromVariant(value);
+        if (value.isValid()) {
+            json[property] = QJsonValue::fromVariant(value);
+        }
     }
-    if (widget->hasHeightForWidth())
-        json[QStringLiteral("heightForWidth")] = widget->heightForWidth(widget->width());
-    if (const auto *tabs = qobject_cast<const QTabWidget *>(widget))
-        json[QStringLiteral("tabs")] = describeTabs(tabs);
-    if (const auto *combo = qobject_cast<const QComboBox *>(widget))
-        json[QStringLiteral("items")] = comboItems(combo);
-    if (const auto *label = qobject_cast<const QLabel *>(widget))
-        json[QStringLiteral("buddy")] = name(label->buddy());
+    if (widget->hasHeightForWidth()) {
+        json["heightForWidth"] = widget->heightForWidth(widget->width());
+    }
+    if (const auto *tabs = qobject_cast<const QTabWidget *>(widget)) {
+        json["tabs"] = describeTabs(tabs);
+    }
+    if (const auto *combo = qobject_cast<const QComboBox *>(widget)) {
+        json["items"] = comboItems(combo);
+    }
     addAccessible(widget, json);
     return json;
 }
@@ -118,35 +116,29 @@ QJsonObject describeWidget(const QWidget *widget)
 QJsonObject describeWindow(const QWidget *window)
 {
     QJsonObject json = describeWidget(window);
-    const QWindow *const handle = window->windowHandle();
-    json[QStringLiteral("title")] = window->windowTitle();
-    json[QStringLiteral("id")] = double(window->winId());
-    json[QStringLiteral("frame")] = rectJson(window->frameGeometry());
-    json[QStringLiteral("minimumSize")] = rectJson(QRect(QPoint(), window->minimumSizeHint()));
-    json[QStringLiteral("active")] = window->isActiveWindow();
-    json[QStringLiteral("modal")] = window->isModal();
-    json[QStringLiteral("exposed")] = handle && handle->isExposed();
-    json[QStringLiteral("isMainWindow")] = qobject_cast<const QMainWindow *>(window) != nullptr;
+    const QWindow *handle = window->windowHandle();
+    json["title"] = window->windowTitle();
+    json["id"] = double(window->winId());
+    json["frame"] = rectJson(window->frameGeometry());
+    json["minimumSize"] = rectJson(QRect(QPoint(), window->minimumSizeHint()));
+    json["active"] = window->isActiveWindow();
+    json["modal"] = window->isModal();
+    json["exposed"] = handle && handle->isExposed();
+    json["isMainWindow"] = qobject_cast<const QMainWindow *>(window) != nullptr;
     return json;
 }
 
 QJsonObject describeMenu(const QMenu *menu)
 {
     QJsonObject json = describeWindow(menu);
-    QJsonArray actions;
-    for (QAction *action : menu->actions())
-        actions.append(describeAction(action, globalRect(menu, menu->actionGeometry(action))));
-    json[QStringLiteral("title")] = menu->title();
-    json[QStringLiteral("actions")] = actions;
+    json["title"] = menu->title();
+    json["actions"] = describeActions(menu);
     return json;
 }
 
 QJsonArray describeMenuBar(const QMenuBar *bar)
 {
-    QJsonArray actions;
-    for (QAction *action : bar->actions())
-        actions.append(describeAction(action, globalRect(bar, bar->actionGeometry(action))));
-    return actions;
+    return describeActions(bar);
 }
 
 } // namespace probe

@@ -5,7 +5,6 @@
 #include <QAbstractProxyModel>
 #include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QScrollBar>
 #include <QTableView>
 #include <QTreeView>
 
@@ -16,37 +15,36 @@ namespace {
 
 QHeaderView *headerOf(QAbstractItemView *view)
 {
-    if (const auto *tree = qobject_cast<QTreeView *>(view))
+    if (const auto *tree = qobject_cast<QTreeView *>(view)) {
         return tree->header();
-    if (const auto *table = qobject_cast<QTableView *>(view))
+    }
+    if (const auto *table = qobject_cast<QTableView *>(view)) {
         return table->horizontalHeader();
+    }
     return nullptr;
 }
 
 QJsonArray describeSections(const QHeaderView *header)
 {
-    const int top = 0;
     QJsonArray sections;
     for (int place = 0; place < header->count(); ++place) {
         const int section = header->logicalIndex(place);
-        const bool hidden = header->isSectionHidden(section);
-        const QRect rect(header->sectionViewportPosition(section), top, header->sectionSize(section),
+        const QRect rect(header->sectionViewportPosition(section), 0, header->sectionSize(section),
                          header->height());
-        sections.append(QJsonObject{
-            {QStringLiteral("section"), section},
-            {QStringLiteral("text"), header->model()->headerData(section, Qt::Horizontal).toString()},
-            {QStringLiteral("visible"), !hidden && header->isVisible()},
-            {QStringLiteral("rect"), globalRect(header->viewport(), rect)}});
+        sections.append(QJsonObject{{"section", section},
+                                    {"text", header->model()->headerData(section, Qt::Horizontal).toString()},
+                                    {"visible", header->isVisible() && !header->isSectionHidden(section)},
+                                    {"rect", globalRect(header->viewport(), rect)}});
     }
     return sections;
 }
 
-// One row of the view; rows are told depth first, each before its children.
-class RowTeller
+/// Describes the rows of a view, depth first, each before its children.
+class RowDescriber
 {
 public:
-    explicit RowTeller(QAbstractItemView *view)
-        : m_view(view), m_tree(qobject_cast<QTreeView *>(view)), m_selection(view->selectionModel())
+    explicit RowDescriber(QAbstractItemView *itemView)
+        : view(itemView), tree(qobject_cast<QTreeView *>(itemView)), selection(itemView->selectionModel())
     {
         collectShownRows();
     }
@@ -54,8 +52,8 @@ public:
     QJsonArray rows() const
     {
         QJsonArray result;
-        std::vector<QModelIndex> left; // a stack of its own: the tree may be deeper than ours
-        pushChildren(m_view->rootIndex(), left);
+        std::vector<QModelIndex> left; // instead of recursion: the tree can be deeper than the call stack
+        pushChildren(view->rootIndex(), left);
         while (!left.empty()) {
             const QModelIndex index = left.back();
             left.pop_back();
@@ -66,64 +64,68 @@ public:
     }
 
 private:
-    // Only for rows on the screen: finding the place of a row costs a walk through all rows.
+    /// Rectangles are looked up only for rows on the screen: each lookup walks through all rows.
     void collectShownRows()
     {
         const int step = 4;
-        for (int y = 0; y < m_view->viewport()->height(); y += step) {
-            const QModelIndex index = m_view->indexAt(QPoint(m_view->viewport()->width() / 2, y));
-            const QModelIndex first = index.isValid() ? index : m_view->indexAt(QPoint(1, y));
-            if (first.isValid())
-                m_shown.insert(first.sibling(first.row(), 0));
+        for (int y = 0; y < view->viewport()->height(); y += step) {
+            const QModelIndex index = view->indexAt(QPoint(view->viewport()->width() / 2, y));
+            const QModelIndex first = index.isValid() ? index : view->indexAt(QPoint(1, y));
+            if (first.isValid()) {
+                shownRows.insert(first.sibling(first.row(), 0));
+            }
         }
     }
 
     void pushChildren(const QModelIndex &parent, std::vector<QModelIndex> &left) const
     {
-        const QAbstractItemModel *const model = m_view->model();
-        for (int row = model->rowCount(parent) - 1; row >= 0; --row)
+        const QAbstractItemModel *model = view->model();
+        for (int row = model->rowCount(parent) - 1; row >= 0; --row) {
             left.push_back(model->index(row, 0, parent));
+        }
     }
 
     static int depth(QModelIndex index)
     {
         int result = 0;
-        while ((index = index.parent()).isValid())
+        while ((index = index.parent()).isValid()) {
             ++result;
+        }
         return result;
     }
 
     QJsonObject rowJson(const QModelIndex &index) const
     {
-        const bool shown = m_shown.contains(index);
+        const bool shown = shownRows.contains(index);
         QJsonArray texts;
         QJsonArray rects;
-        for (int column = 0; column < m_view->model()->columnCount(index.parent()); ++column) {
+        for (int column = 0; column < view->model()->columnCount(index.parent()); ++column) {
             const QModelIndex cell = index.sibling(index.row(), column);
             texts.append(cell.data().toString());
-            const QRect rect = shown ? m_view->visualRect(cell) & m_view->viewport()->rect() : QRect();
-            rects.append(rect.isEmpty() ? QJsonValue() : QJsonValue(globalRect(m_view->viewport(), rect)));
+            const QRect rect = shown ? view->visualRect(cell) & view->viewport()->rect() : QRect();
+            rects.append(rect.isEmpty() ? QJsonValue() : QJsonValue(globalRect(view->viewport(), rect)));
         }
-        QJsonObject row{{QStringLiteral("depth"), depth(index)},
-                        {QStringLiteral("texts"), texts},
-                        {QStringLiteral("expanded"), m_tree && m_tree->isExpanded(index)},
-                        {QStringLiteral("selected"), m_selection->isSelected(index)},
-                        {QStringLiteral("current"), isCurrentRow(index)}};
-        if (shown)
-            row[QStringLiteral("rects")] = rects;
+        QJsonObject row{{"depth", depth(index)},
+                        {"texts", texts},
+                        {"expanded", tree && tree->isExpanded(index)},
+                        {"selected", selection->isSelected(index)},
+                        {"current", isCurrentRow(index)}};
+        if (shown) {
+            row["rects"] = rects;
+        }
         return row;
     }
 
     bool isCurrentRow(const QModelIndex &index) const
     {
-        const QModelIndex current = m_selection->currentIndex();
+        const QModelIndex current = selection->currentIndex();
         return current.isValid() && current.sibling(current.row(), 0) == index;
     }
 
-    QAbstractItemView *m_view;
-    QTreeView *m_tree;
-    QItemSelectionModel *m_selection;
-    QSet<QModelIndex> m_shown;
+    QAbstractItemView *view;
+    QTreeView *tree;
+    QItemSelectionModel *selection;
+    QSet<QModelIndex> shownRows;
 };
 
 } // namespace
@@ -131,28 +133,27 @@ private:
 QJsonObject describeView(QAbstractItemView *view)
 {
     QJsonObject json = describeWidget(view);
-    if (const QHeaderView *const header = headerOf(view)) {
-        json[QStringLiteral("headers")] = describeSections(header);
-        json[QStringLiteral("sortSection")] = header->sortIndicatorSection();
-        json[QStringLiteral("sortDescending")] = header->sortIndicatorOrder() == Qt::DescendingOrder;
-        json[QStringLiteral("sortShown")] = header->isSortIndicatorShown();
+    if (const QHeaderView *header = headerOf(view)) {
+        json["headers"] = describeSections(header);
+        json["sortSection"] = header->sortIndicatorSection();
+        json["sortDescending"] = header->sortIndicatorOrder() == Qt::DescendingOrder;
     }
-    json[QStringLiteral("viewport")] = globalRect(view->viewport(), view->viewport()->rect());
-    json[QStringLiteral("verticalScroll")] = view->verticalScrollBar()->value();
-    json[QStringLiteral("verticalScrollMaximum")] = view->verticalScrollBar()->maximum();
-    json[QStringLiteral("rows")] = view->model() ? RowTeller(view).rows() : QJsonArray();
+    json["viewport"] = globalRect(view->viewport(), view->viewport()->rect());
+    json["rows"] = view->model() ? RowDescriber(view).rows() : QJsonArray();
     return json;
 }
 
 QJsonObject describeSelected(const QAbstractItemView *view)
 {
-    const QItemSelectionModel *const selection = view->selectionModel();
-    if (!selection || !selection->hasSelection())
+    const QItemSelectionModel *selection = view->selectionModel();
+    if (!selection || !selection->hasSelection()) {
         return {};
+    }
     QModelIndex index = selection->currentIndex();
-    while (const auto *proxy = qobject_cast<const QAbstractProxyModel *>(index.model()))
+    while (const auto *proxy = qobject_cast<const QAbstractProxyModel *>(index.model())) {
         index = proxy->mapToSource(index);
-    return index.isValid() ? QJsonObject{{QStringLiteral("id"), double(index.internalId())}} : QJsonObject();
+    }
+    return index.isValid() ? QJsonObject{{"id", double(index.internalId())}} : QJsonObject();
 }
 
 } // namespace probe

@@ -19,10 +19,11 @@ int InputMarks::latest()
 bool InputMarks::nativeEventFilter(const QByteArray &eventType, void *message, long *)
 {
     const unsigned char sentByClient = 0x80;
-    const auto *const event = static_cast<const xcb_client_message_event_t *>(message);
+    const auto *event = static_cast<const xcb_client_message_event_t *>(message);
     if (eventType != "xcb_generic_event_t" || event->response_type != (XCB_CLIENT_MESSAGE | sentByClient) ||
-        event->format != 32 || event->data.data32[1] != tag)
+        event->format != 32 || event->data.data32[1] != tag) {
         return false;
+    }
     latestMark = int(event->data.data32[0]);
     return true;
 }

@@ -4,14 +4,14 @@
 
 #include <QAbstractNativeEventFilter>
 
-/// What the driver of a desktop test puts between its events: a message to a window, with a number. When it
-/// comes, the toolkit has taken everything that was sent before.
+/// Receives the marks that the driver of a desktop test sends between its input events: numbered messages to
+/// a window. When a mark arrives, the toolkit has received everything sent before it.
 class InputMarks : public QAbstractNativeEventFilter
 {
 public:
     static constexpr unsigned tag = 0x7a736d31; ///< the second item of the message, after the number
 
-    static int latest(); ///< the number of the mark that came last; 0 before the first
+    static int latest(); ///< number of the latest mark; 0 before the first
 
     bool nativeEventFilter(const QByteArray &eventType, void *message, long *result) override;
 };

@@ -24,65 +24,70 @@ ProbeServer::ProbeServer(const QByteArray &path, QObject *parent) : QObject(pare
         return;
     }
     std::memcpy(address.sun_path, path.constData(), std::size_t(path.size()));
-    m_socket = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const auto *const generic = reinterpret_cast<const sockaddr *>(&address);
-    if (m_socket < 0 || bind(m_socket, generic, sizeof address) != 0 || listen(m_socket, 8) != 0) {
+    listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const auto *generic = reinterpret_cast<const sockaddr *>(&address);
+    if (listener < 0 || bind(listener, generic, sizeof address) != 0 || listen(listener, 8) != 0) {
         qWarning("probe: can't listen on %s: %s", path.constData(), std::strerror(errno));
         return;
     }
-    QCoreApplication::instance()->installNativeEventFilter(&m_marks);
-    auto *const notifier = new QSocketNotifier(m_socket, QSocketNotifier::Read, this);
+    QCoreApplication::instance()->installNativeEventFilter(&marks);
+    auto *notifier = new QSocketNotifier(listener, QSocketNotifier::Read, this);
     connect(notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), SLOT(acceptClient()));
 }
 
 ProbeServer::~ProbeServer()
 {
-    if (m_socket >= 0)
-        close(m_socket);
+    if (listener >= 0) {
+        close(listener);
+    }
 }
 
 void ProbeServer::acceptClient()
 {
-    const int client = accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
-    if (client >= 0)
+    const int client = accept4(listener, nullptr, nullptr, SOCK_CLOEXEC);
+    if (client >= 0) {
         new ProbeClient(client, this);
+    }
 }
 
-ProbeClient::ProbeClient(int socket, QObject *parent) : QObject(parent), m_socket(socket)
+ProbeClient::ProbeClient(int connection, QObject *parent) : QObject(parent), descriptor(connection)
 {
-    auto *const notifier = new QSocketNotifier(m_socket, QSocketNotifier::Read, this);
+    auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
     connect(notifier, SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), SLOT(readLines()));
 }
 
 ProbeClient::~ProbeClient()
 {
-    close(m_socket);
+    close(descriptor);
 }
 
 void ProbeClient::readLines()
 {
     char bytes[4096];
-    const ssize_t count = read(m_socket, bytes, sizeof bytes);
-    if (count < 0 && errno == EINTR)
+    const ssize_t count = read(descriptor, bytes, sizeof bytes);
+    if (count < 0 && errno == EINTR) {
         return;
+    }
     bool open = count > 0;
-    m_received.append(bytes, open ? int(count) : 0);
-    for (int end = 0; open && (end = m_received.indexOf('\n')) >= 0;) {
-        const QString line = QString::fromUtf8(m_received.left(end));
-        m_received.remove(0, end + 1);
+    received.append(bytes, open ? int(count) : 0);
+    for (int end = 0; open && (end = received.indexOf('\n')) >= 0;) {
+        const QString line = QString::fromUtf8(received.left(end));
+        received.remove(0, end + 1);
         open = send(QJsonDocument(probe::answer(line)).toJson(QJsonDocument::Compact) + '\n');
     }
-    if (!open)
+    if (!open) {
         deleteLater();
+    }
 }
 
 bool ProbeClient::send(const QByteArray &bytes) const
 {
     for (int sent = 0; sent < bytes.size();) {
         const ssize_t count =
-            ::send(m_socket, bytes.constData() + sent, std::size_t(bytes.size() - sent), MSG_NOSIGNAL);
-        if (count < 0 && errno != EINTR)
+            ::send(descriptor, bytes.constData() + sent, std::size_t(bytes.size() - sent), MSG_NOSIGNAL);
+        if (count < 0 && errno != EINTR) {
             return false;
+        }
         sent += count > 0 ? int(count) : 0;
     }
     return true;
@@ -90,16 +95,18 @@ bool ProbeClient::send(const QByteArray &bytes) const
 
 namespace {
 
-// Runs while the application object is being made; the socket waits for the event loop, where there are
-// windows to tell about.
+/// Runs in the constructor of the application object; the server is created by the event loop, when the
+/// windows exist.
 void startProbe()
 {
     const QByteArray path = qgetenv("ZSM_PROBE");
-    if (path.isEmpty())
+    if (path.isEmpty()) {
         return;
+    }
     QTimer::singleShot(0, qApp, [path] {
-        if (qobject_cast<QApplication *>(qApp))
+        if (qobject_cast<QApplication *>(qApp)) {
             new ProbeServer(path, qApp);
+        }
     });
 }
 

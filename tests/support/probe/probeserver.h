@@ -7,14 +7,14 @@
 #include <QByteArray>
 #include <QObject>
 
-/// Listens on a Unix socket; each line that comes in is answered by one line of JSON. Runs in the event loop
-/// of the program that it was preloaded into, inside modal dialogs and open menus too.
+/// Listens on a Unix socket and answers each line with one line of JSON. Runs in the event loop of the
+/// program that it is preloaded into, including those of modal dialogs and open menus.
 class ProbeServer : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Without a usable path it writes a warning and listens to nothing.
+    /// Prints a warning and does not listen if the path is unusable.
     ProbeServer(const QByteArray &path, QObject *parent);
     ~ProbeServer() override;
 
@@ -22,17 +22,18 @@ private Q_SLOTS:
     void acceptClient();
 
 private:
-    InputMarks m_marks;
-    int m_socket = -1;
+    InputMarks marks;
+    int listener = -1;
 };
 
+/// One connection.
 class ProbeClient : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Takes over the descriptor.
-    ProbeClient(int socket, QObject *parent);
+    /// Owns the descriptor of the connection.
+    ProbeClient(int connection, QObject *parent);
     ~ProbeClient() override;
 
 private Q_SLOTS:
@@ -41,8 +42,8 @@ private Q_SLOTS:
 private:
     bool send(const QByteArray &bytes) const;
 
-    int m_socket;
-    QByteArray m_received;
+    int descriptor;
+    QByteArray received;
 };
 
 #endif

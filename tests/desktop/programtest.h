@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#ifndef TESTS_DESKTOP_PROGRAMTEST_H
+#define TESTS_DESKTOP_PROGRAMTEST_H
+
+#include "tests/desktop/processespage.h"
+#include "tests/desktop/sampleprocess.h"
+
+#include <QJsonArray>
+#include <QtTest>
+
+#include <algorithm>
+
+/// Base of the tests that act on processes and settings: the program in a session of its own, and the steps
+/// that these tests share.
+class ProgramTest : public QObject
+{
+protected:
+    void startProgram(const SessionOptions &options, const QStringList &arguments = {"processes"})
+    {
+        session = std::make_unique<DesktopSession>(asTestUser(options));
+        page = std::make_unique<ProcessesPage>(*session);
+        QVERIFY2(session->start(arguments), qPrintable(session->error()));
+    }
+
+    void startWithProcessInterval(int seconds)
+    {
+        SessionOptions options;
+        options.settings = "[interval]\nprocs=" + QByteArray::number(seconds) + '\n';
+        startProgram(options);
+    }
+
+    bool clickMenus(const QStringList &way)
+    {
+        return std::all_of(way.begin(), way.end(),
+                           [&](const QString &menu) { return session->clickMenu(menu); });
+    }
+
+    /// After a failed test function: prints why and saves a picture of the screen.
+    void reportFailure()
+    {
+        if (QTest::currentTestFailed()) {
+            qWarning("%s", qPrintable(session->error()));
+            session->savePicture(QString("failed-") + QTest::currentTestFunction());
+        }
+    }
+
+    void reportFailureAndCloseAll()
+    {
+        reportFailure();
+        QVERIFY(page->dismissAll());
+    }
+
+    void verifyQuitsCleanly()
+    {
+        QVERIFY2(page->quit(), qPrintable(session->error()));
+        QCOMPARE(session->standardError(), QByteArray());
+        QCOMPARE(session->exitCode(), 0);
+    }
+
+    /// A process of the user as whom the program runs.
+    static SampleProcess sample(const char *name, SampleProcess::What what = SampleProcess::Sleeping)
+    {
+        return SampleProcess(name, what, testUser());
+    }
+
+    bool isListed(const SampleProcess &process)
+    {
+        return process.isReady() && page->waitForRow(process.pid());
+    }
+
+    /// Waits until the process list has been refreshed.
+    bool waitForRefresh() { return isListed(sample("ltr")); }
+
+    bool clickOk() { return session->clickButton("OK") && page->waitForNoDialog(); }
+
+    /// Of the active dialog.
+    bool okIsEnabled()
+    {
+        const QJsonArray buttons = session->dialog().value("buttons").toArray();
+        return std::any_of(buttons.begin(), buttons.end(), [](const QJsonValue &button) {
+            return button["text"].toString().remove('&') == "OK" && button["enabled"].toBool();
+        });
+    }
+
+    /// False if there is no dialog.
+    bool closeDialogByFrame()
+    {
+        const auto id = static_cast<unsigned long>(session->dialog().value("id").toDouble());
+        session->x().closeWindow(id);
+        return id != 0;
+    }
+
+    bool isChecked(const char *menuEntry) { return session->menuEntry(menuEntry).value("checked").toBool(); }
+
+    std::unique_ptr<DesktopSession> session;
+    std::unique_ptr<ProcessesPage> page;
+};
+
+#endif
