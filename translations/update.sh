@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Updates the catalogues from the sources: adds new texts as unfinished and drops texts that no longer exist. Updates
-# all catalogues, or creates or updates those that are given:
+# Brings the catalogues up to date with the texts in the sources: new texts come in unfinished, texts that are
+# gone leave. It renews every catalogue, or makes or renews those that are named:
 #   translations/update.sh translations/zarn-system-monitor_fi.ts
-# A new language must also be added to CMakeLists.txt.
+# A new language is also named in CMakeLists.txt.
 set -euo pipefail
 
 catalogues=()
