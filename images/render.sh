@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Renders the PNG files from the SVG drawings. Needs rsvg-convert.
+# Renders the pictures from their drawings. Needs rsvg-convert.
 set -eu
 cd "$(dirname "$0")"
 
@@ -8,13 +8,14 @@ render() { # <drawing> <size> <picture>
     rsvg-convert --width "$2" --height "$2" --output "$3" "$1"
 }
 
-# Embedded. The icons are shown at 16 to 24 pixels, doubled on high-DPI screens.
+# Embedded. The icons are shown at 16 to 24 pixels, at twice that where the screen is dense.
 for icon in exit pause continue hard cd; do
     render "$icon.svg" 64 "$icon.png"
 done
 render zarn-system-monitor.svg 168 diobin_logo.png
 
-# Installed for the desktop. The smallest have separate, pixel-aligned drawings; 22 is 24 without its margin.
+# Installed for the desktop. The smallest have drawings of their own, on their grid of pixels; 22 is
+# 24 without its margin.
 render zarn-system-monitor-16.svg 16 zarn-system-monitor-16.png
 sed 's/viewBox="0 0 24 24"/viewBox="1 1 22 22"/' zarn-system-monitor-24.svg |
     rsvg-convert --width 22 --height 22 --output zarn-system-monitor-22.png
