@@ -1,59 +1,35 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Measures what the monitor costs, in a real window on a virtual display and on its libraries alone, beside the
-# four libgtop calls that a process list takes. Prints a table and writes it to build/bench/results.md and .txt.
-#   SIZES="2000 8000 20000"  numbers of sleeping processes      REFRESHES=20  refreshes in a measurement
-#   REPEATS=3                measurements of each kind           TICKS=600     seconds of the test of growth
+# Measures CPU time and memory of the monitor in a real window on a virtual display, and of its libraries alone, against
+# the four libgtop calls that a process list needs. Prints a table and writes it to build/bench/results.md and .txt.
+#   SIZES="2000 8000 20000"  numbers of sleeping processes      REFRESHES=20  refreshes per measurement
+#   REPEATS=3                measurements of each kind           TICKS=600     seconds of the test for growth
+# PROGRAM and RESULTS replace the measured program and the path of the results.
 set -euo pipefail
 cd "$(dirname "$0")"
-. ./setup.sh
+. scripts/setup.sh
+. scripts/desktop.sh
 
-need_packages $build_packages $window_packages
+need_packages "${build_packages[@]}" "${window_packages[@]}"
 build bench zarn-system-monitor bench_spawner bench_calls bench_list bench_refreshcounter bench_machine gtopstandin_preload
-bin=$PWD/build/bench/benchmarks
-program=${PROGRAM:-$PWD/build/bench/zarn-system-monitor}
+bin=build/bench/benchmarks # relative, since LD_PRELOAD takes no blanks
+program=${PROGRAM:-build/bench/zarn-system-monitor}
 results=${RESULTS:-build/bench/results}
 sizes=${SIZES:-2000 8000 20000}
 refreshes=${REFRESHES:-20}
 repeats=${REPEATS:-3}
 ticks=${TICKS:-600}
 
-work=$(mktemp -d)
-children=()
-cleanup() {
-    exec 8>&- # a load ends with its input
-    [ ${#children[@]} -eq 0 ] || kill "${children[@]}" 2>/dev/null || true
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
+trap 'exec 8>&-; stop_desktop' EXIT # the spawner of bench processes exits at the end of its input
 
-start_desktop() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -dpi 96 -nolisten tcp -noreset 3>"$work/display" 2>"$work/xvfb.log" &
-    children+=($!)
-    until [ -s "$work/display" ]; do sleep 0.1; done
-    DISPLAY=:$(cat "$work/display")
-    export DISPLAY
-    mkdir -m 700 "$work/config" "$work/runtime"
-    export XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime
-    openbox >"$work/openbox.log" 2>&1 &
-    children+=($!)
-    until xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; do sleep 0.1; done
-}
-
-# start_monitor <page> <interval> [<preloaded library>]: sets `monitor` and `window`; all intervals are as given.
+# start_monitor <page> <interval of all pages> [<preloaded library>]: sets `monitor` and `window`.
 start_monitor() {
-    local page
     mkdir -p "$work/config/Telmorra"
     printf '[interval]\ngeneral=%s\nprocs=%s\nfs=%s\n' "$2" "$2" "$2" >"$work/config/Telmorra/zarn-system-monitor.conf"
     rm -f "$work/refreshes"
     LD_PRELOAD=${3:-} ZSM_REFRESHES=$work/refreshes ZSM_STANDIN=$work/machine "$program" "$1" &
     monitor=$!
-    window=
-    until [ -n "$window" ]; do
-        kill -0 "$monitor"
-        window=$(xdotool search --onlyvisible --pid "$monitor" --name . 2>/dev/null | head -n 1 || true)
-    done
+    wait_for_window "$monitor"
 }
 
 stop_monitor() {
@@ -66,12 +42,15 @@ cpu_time() { awk '{ sum += $1 } END { printf "%.0f", sum }' /proc/"$monitor"/tas
 resident_mb() { awk '/^VmRSS/ { printf "%.1f", $2 / 1024 }' "/proc/$monitor/status"; }
 count_refreshes() { od -An -t u8 "$work/refreshes" | tr -d ' '; }
 wait_refreshes() {
-    local until=$(($(count_refreshes) + $1))
-    while [ "$(count_refreshes)" -lt "$until" ]; do sleep 0.05; done
+    local last=$(($(count_refreshes) + $1))
+    while [ "$(count_refreshes)" -lt "$last" ]; do sleep 0.05; done
 }
-processes() { ls /proc | grep -c '^[0-9]'; }
+processes() {
+    local folders=(/proc/[0-9]*)
+    echo ${#folders[@]}
+}
 
-# spread: of the numbers on the input, "min / median / max".
+# spread: "min / median / max" of the numbers on the input.
 spread() { sort -g | awk '{ v[NR] = $1 } END { printf "%.2f / %.2f / %.2f", v[1], v[int((NR + 1) / 2)], v[NR] }'; }
 median() { sort -g | awk '{ v[NR] = $1 } END { printf "%.3f", v[int((NR + 1) / 2)] }'; }
 
@@ -82,23 +61,23 @@ note() { # note <what> <file of numbers> [<file of reference numbers>]
     line "$1" "$(spread <"$2")" "$ratio"
 }
 
-# One refresh of the process page, all processes, flat, default columns: µs of CPU per process.
+# CPU time of a refresh of the process page (all processes, flat, default columns), µs per process.
 measure_refresh() {
     start_monitor processes 1 "$bin/libbench_refreshcounter.so"
     xdotool windowactivate --sync "$window" key --clearmodifiers ctrl+a
     wait_refreshes 4
-    local cpu count done
-    wait_refreshes 1 # from the end of one refresh to the end of another
-    cpu=$(cpu_time) done=$(count_refreshes)
+    local cpu count refreshed
+    wait_refreshes 1 # measures from the end of a refresh to the end of another
+    cpu=$(cpu_time) refreshed=$(count_refreshes)
     wait_refreshes "$refreshes"
     count=$(processes)
-    awk -v ns=$(($(cpu_time) - cpu)) -v r=$(($(count_refreshes) - done)) -v n="$count" \
+    awk -v ns=$(($(cpu_time) - cpu)) -v r=$(($(count_refreshes) - refreshed)) -v n="$count" \
         'BEGIN { printf "%.2f\n", ns / 1000 / r / n }' >>"$work/page"
     resident_mb >>"$work/rss"; echo >>"$work/rss"
     stop_monitor
 }
 
-measure_size() { # <processes beside those that are there>
+measure_size() { # <additional processes>
     rm -f "$work"/{calls,page,rss,read,show}
     mkfifo "$work/load.$1"
     "$bin/bench_spawner" "$1" <"$work/load.$1" >"$work/spawned" &
@@ -125,14 +104,14 @@ measure_size() { # <processes beside those that are there>
     wait "$spawner"
 }
 
-measure_start() { # <page> [<processes>]: CPU time until the window is there, ms
+measure_start() { # <page> [<processes>]: CPU time until the window is shown, ms
     rm -f "$work/start"
     for _ in $(seq "$repeats"); do
         start_monitor "$1" 3
         awk -v ns="$(cpu_time)" 'BEGIN { printf "%.1f\n", ns / 1e6 }' >>"$work/start"
         stop_monitor
     done
-    note "start on the page $1${2:+ with $2 processes} until its window is shown, ms of CPU" "$work/start"
+    note "start on page $1${2:+ with $2 processes} until its window is shown, ms of CPU" "$work/start"
 }
 
 measure_idle() { # <page> <what> [<preloaded library>]: CPU per second at the default interval, ms
@@ -146,7 +125,7 @@ measure_idle() { # <page> <what> [<preloaded library>]: CPU per second at the de
         awk -v ns=$(($(cpu_time) - cpu)) 'BEGIN { printf "%.2f\n", ns / 15e6 }' >>"$work/idle"
     done
     stop_monitor
-    note "page $1 left alone, $2, ms of CPU per second" "$work/idle"
+    note "page $1 idle, $2, ms of CPU per second" "$work/idle"
 }
 
 measure_growth() {
@@ -159,9 +138,9 @@ measure_growth() {
     stop_monitor
 }
 
-start_desktop
+start_desktop 1280x1024 96
 {
-    echo "$(LC_ALL=C date +%Y-%m-%d), $(nproc) cores, $(awk -F ': ' '/model name/ { print $2; exit }' /proc/cpuinfo), Linux $(uname -r), load $(cut -d ' ' -f 1 /proc/loadavg); $repeats measurements of each"
+    echo "$(LC_ALL=C date +%Y-%m-%d), $(nproc) cores, $(awk -F ': ' '/model name/ { print $2; exit }' /proc/cpuinfo), Linux $(uname -r), load $(cut -d ' ' -f 1 /proc/loadavg); $repeats measurements of each kind"
     echo
     echo '| measured | min / median / max | median / four calls |'
     echo '|---|---|---|'

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // bench_calls <rounds>: the reference. CPU time in microseconds per process of the four libgtop calls that an
-// ordinary column set takes, made in turn for every process; one line for each round.
+// ordinary set of columns needs, made in turn for every process; one line per round.
 #include <glibtop.h>
 #include <glibtop/open.h>
 #include <glibtop/proclist.h>
@@ -26,7 +26,7 @@ double cpuMicroseconds()
 std::vector<pid_t> listPids()
 {
     glibtop_proclist info = {};
-    pid_t *const list = glibtop_get_proclist(&info, GLIBTOP_KERN_PROC_ALL, 0);
+    pid_t *list = glibtop_get_proclist(&info, GLIBTOP_KERN_PROC_ALL, 0);
     const std::vector<pid_t> pids(list, list + info.number);
     g_free(list);
     return pids;

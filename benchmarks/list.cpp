@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// bench_list <rounds>: the libraries alone, without a window of the desktop. CPU time in microseconds per
-// process of a snapshot as the program takes it, and of model, proxy and view brought up to it; one line a
-// round.
+// bench_list <rounds>: the libraries alone, on Qt's offscreen platform. CPU time in microseconds per process
+// of a snapshot as the program takes it, and of updating model, proxy and view with it; one line per round.
 #include "process/gtop_wrappers/filler.h"
 #include "process/proxyprocmodel.h"
 
@@ -32,7 +31,7 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     glibtop_init();
-    ProcessFiller *const filler = ProcessFiller::instance();
+    auto *filler = ProcessFiller::instance();
     filler->setEagerColumns(std::vector<bool>(filler->size(), false));
     QTreeView view;
     ProxyProcModel list(nullptr);
@@ -44,7 +43,7 @@ int main(int argc, char **argv)
     view.show();
     unsigned long total = 0;
     const int rounds = argc > 1 ? std::atoi(argv[1]) : 1;
-    for (int i = -2; i < rounds; ++i) { // the first rounds fill the list
+    for (int i = -2; i < rounds; ++i) { // warm-up rounds fill the list
         const double start = cpuMicroseconds();
         const ProcModel::Snapshot snapshot = filler->getProcesses(gtop_wrappers::AllProcesses);
         const double read = cpuMicroseconds();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// bench_machine <file>: writes a machine of 1,024 cores, 500 mounts and 500 interfaces for the stand-in.
+// bench_machine <file>: writes a machine with 1,024 cores, 500 mounts and 500 interfaces for the stand-in.
 #include "tests/support/gtopstandin.h"
 
 #include <cstdint>

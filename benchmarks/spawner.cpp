@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// bench_spawner <n>: keeps n sleeping processes until its standard input ends; says "ready" when all are
-// there.
+// bench_spawner <n>: keeps n sleeping processes until the end of its standard input; prints "ready" when all
+// are started.
 #include <signal.h>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -14,7 +14,7 @@ int main(int argc, char **argv)
     for (int i = 0; i < count; ++i) {
         const int pid = fork();
         if (pid == 0) {
-            prctl(PR_SET_PDEATHSIG, SIGKILL); // none is left, however this program ends
+            prctl(PR_SET_PDEATHSIG, SIGKILL); // leaves no process behind, even if this one is killed
             for (;;) {
                 pause();
             }

@@ -1,24 +1,24 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Makes the package's changelog from the one for people:
+# Converts CHANGELOG.md to the Debian format:
 #   debianchangelog.sh <package> <maintainer> < CHANGELOG.md > changelog
-# A heading "## <version> (<yyyy-mm-dd>)" begins an entry; of its text, the points of lists are taken over.
+# A heading "## <version> (<yyyy-mm-dd>)" starts an entry, which consists of the list items below it.
 set -eu
 export LC_ALL=C.UTF-8
 
 package=$1
 maintainer=$2
 day=
-point=
+item=
 
-# Writes the point gathered so far, in lines of at most 79 characters.
-close_point() {
-    [ -z "$day" ] || [ -z "$point" ] || printf '%s\n' "$point" | fold -s -w 75 | sed '1s/^/  * /; 1!s/^/    /; s/ *$//'
-    point=
+# Prints the current list item, in lines of at most 79 characters.
+close_item() {
+    [ -z "$day" ] || [ -z "$item" ] || printf '%s\n' "$item" | fold -s -w 75 | sed '1s/^/  * /; 1!s/^/    /; s/ *$//'
+    item=
 }
 
 close_entry() {
-    close_point
+    close_item
     [ -z "$day" ] || printf '\n -- %s  %s\n\n' "$maintainer" "$(LC_ALL=C date -u -R -d "$day")"
 }
 
@@ -36,11 +36,11 @@ while IFS= read -r line || [ -n "$line" ]; do
             begin_entry "${line#'## '}"
             ;;
         '- '*)
-            close_point
-            point=${line#'- '}
+            close_item
+            item=${line#'- '}
             ;;
-        '  '*) point="$point ${line#'  '}" ;;
-        *) close_point ;;
+        '  '*) item="$item ${line#'  '}" ;;
+        *) close_item ;;
     esac
 done
 close_entry

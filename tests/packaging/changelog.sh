@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The changelog for people becomes the package's: entries in order with weekdays, points joined and wrapped, other
-# text left out, and nothing lost where the last line has no end.
+# Checks the conversion of CHANGELOG.md: entries in order with weekdays, list items joined and wrapped, other text left
+# out, nothing lost if the last line has no newline.
 #   changelog.sh <debianchangelog.sh>
 set -eu
 work=$(mktemp -d)

@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Installs what is built into a clean root and checks it:
+# Installs a build into a clean root and checks it:
 #   install.sh <build folder>
 set -eu
 root=$(mktemp -d)

@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Checks a root that holds the installed program and nothing else: exactly the files of installed_files.txt
-# with their permissions, and each of them what it should be.
+# Checks a root that contains only the installed program: exactly the files of installed_files.txt with their
+# permissions and the right contents.
 #   installed.sh <root>
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
@@ -10,16 +10,16 @@ cd "$1"
 
 fail() { echo "$*" >&2; exit 1; }
 
-# dpkg keeps its own records under var/.
+# dpkg keeps its records in var/.
 find . -path ./var -prune -o ! -type d -printf '%P %m\n' | sort | diff "$here/installed_files.txt" - ||
-    fail "the installed files (>) are not those meant (<)"
+    fail "the installed files (>) differ from the expected ones (<)"
 
-# The program finds its libraries where every program does, not where it was built.
-readelf -d usr/bin/zarn-system-monitor | grep -E 'R(UN)?PATH' && fail "the program names a library path of its own"
+# Libraries are found by the system's search path, not in the build folder.
+readelf -d usr/bin/zarn-system-monitor | grep -E 'R(UN)?PATH' && fail "the program has a run path"
 [ "$(ldd usr/bin/zarn-system-monitor | grep -c 'not found')" -eq 0 ] || fail "a library is missing"
 
 for picture in usr/share/icons/hicolor/*/apps/*.png; do
     size=${picture#usr/share/icons/hicolor/}
     size=${size%%/*}
-    file "$picture" | grep -q "PNG image data, ${size%x*} x ${size#*x}," || fail "$picture: not a PNG picture of $size"
+    file "$picture" | grep -q "PNG image data, ${size%x*} x ${size#*x}," || fail "$picture: not a PNG file of $size"
 done

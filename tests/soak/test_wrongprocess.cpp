@@ -56,7 +56,6 @@ private Q_SLOTS:
             pressing(QMessageBox::Ok)(dialog);
         });
         killAction()->trigger();
-        QCOMPARE(driver.count(), std::size_t(1));
         QCOMPARE(asked->waitForSignal(), SIGKILL);
         QCOMPARE(other->endAndTell(), SIGVTALRM);
     }
@@ -69,10 +68,9 @@ private Q_SLOTS:
         QFETCH(Change, change);
         change();
         const bool offered = killAction()->isVisible() && killAction()->isEnabled();
-        const ModalDriver driver(pressing(QMessageBox::Ok));
         if (offered) {
+            const ModalDriver driver(pressing(QMessageBox::Ok));
             killAction()->trigger();
-            QCOMPARE(driver.count(), std::size_t(1));
             QCOMPARE(asked->waitForSignal(), SIGKILL);
         }
         QCOMPARE(other->endAndTell(), SIGVTALRM);

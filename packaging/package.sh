@@ -1,25 +1,22 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Makes the Debian package in build/package/ and checks it: validators, lintian, installed into a clean root, started
-# from there on a virtual display, removed without a trace.
+# Builds the Debian package in build/package/ and checks it: runs lintian, installs it into a clean root, validates the
+# installed files, starts the program from there on a virtual display and removes it without a trace.
 set -euo pipefail
-cd "$(dirname "$0")"
-. ./setup.sh
-# Folders of the package must be open to everybody, whatever the umask of the one who packs.
-umask 022
+cd "$(dirname "$0")/.."
+. scripts/setup.sh
+umask 022 # of the folders in the package
 
-need_packages $build_packages $window_packages $check_packages dpkg-dev fakeroot lintian
+need_packages "${build_packages[@]}" "${window_packages[@]}" "${check_packages[@]}" dpkg-dev fakeroot lintian
 build release
 folder=$PWD/build/package
 mkdir -p "$folder"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-step() { printf '%s\n' "$*"; }
 fail() { printf '%s\n' "$*" >&2; exit 1; }
 
-# make_package: sets `package`. The day of the changelog stands for the time of everything that is packed, so the
-# same sources make the same package.
+# make_package: sets `package`. All files carry the date of the changelog, which makes the package reproducible.
 make_package() {
     local day
     day=$(sed -n 's/^## [^ ]* (\(.*\))$/\1/p' CHANGELOG.md | head -n 1)
@@ -29,19 +26,21 @@ make_package() {
     package=$(echo "$folder"/*.deb)
 }
 
-# Besides errors and warnings also lintian's weaker remarks. Left out of these, with the reason:
-# - hardening-no-fortify-functions: it is built with _FORTIFY_SOURCE, but of the few calls that this could guard, the
-#   compiler knows all bounds beforehand or none.
+# Fails on any remark of lintian, including info and pedantic ones. Suppressed:
+# - hardening-no-fortify-functions: the program is built with _FORTIFY_SOURCE, but for each of the few calls that this
+#   could guard the compiler knows either all bounds or none.
 # - binary-has-unneeded-section: 30 bytes that name the compiler.
 run_lintian() {
     local remarks status=0
     remarks=$(lintian --allow-root --display-info --pedantic \
         --suppress-tags hardening-no-fortify-functions,binary-has-unneeded-section "$package" 2>&1) || status=$?
-    [ "$status" -eq 0 ] && [ -z "$remarks" ] || fail "lintian ended with status $status:" "$remarks"
+    if [ "$status" -ne 0 ] || [ -n "$remarks" ]; then
+        fail "lintian exited with $status:" "$remarks"
+    fi
 }
 
-# on_root <dpkg argument>...: dpkg on the clean root, where what the package depends on isn't installed. Containers
-# are often set to leave out manual pages; here every file counts.
+# on_root <dpkg argument>...: dpkg on the clean root, without the package's dependencies. Containers often exclude
+# manual pages; here every file is installed.
 on_root() {
     fakeroot dpkg --root="$work/root" --force-not-root --force-depends --path-include='*' --log="$work/dpkg.log" "$@" \
         >"$work/dpkg.out" 2>&1 || { cat "$work/dpkg.out" >&2; return 1; }
@@ -54,9 +53,9 @@ install_into_clean_root() {
     tests/packaging/installed.sh "$work/root"
 }
 
-# Starts it on each page as the actions of the menu entry do, until its window has come and was closed.
+# Starts the program on each page as the actions of the menu entry do and closes its window.
 start_installed() {
-    ./pictures.sh "$work/root/usr/bin/zarn-system-monitor" "$folder/pictures" >"$work/pictures.log" ||
+    scripts/pictures.sh "$work/root/usr/bin/zarn-system-monitor" "$folder/pictures" >"$work/pictures.log" ||
         { cat "$work/pictures.log" >&2; return 1; }
 }
 
@@ -64,22 +63,22 @@ remove_from_root() {
     local left
     on_root --remove zarn-system-monitor
     left=$(find "$work/root" -mindepth 1 -path "$work/root/var" -prune -o -print)
-    [ -z "$left" ] || fail "left behind after the removal:" "$left"
+    [ -z "$left" ] || fail "left behind by the removal:" "$left"
     [ -z "$(fakeroot dpkg-query --admindir="$work/root/var/lib/dpkg" -W 2>/dev/null)" ] || fail "dpkg still knows the package"
 }
 
-step "Packing"
+echo "Building the package"
 make_package
-step "Asking lintian"
+echo "Running lintian"
 run_lintian
-step "Installing into a clean root"
+echo "Installing into a clean root"
 install_into_clean_root
-step "Validating what was installed"
+echo "Validating the installed files"
 for file in "$work/root/usr/share/"{applications/*.desktop,metainfo/*.metainfo.xml,man/man1/*.1.gz}; do
     tests/packaging/validate.sh "$file" >/dev/null
 done
-step "Starting it from there"
+echo "Starting the installed program"
 SETTLE=1 start_installed
-step "Removing"
+echo "Removing"
 remove_from_root
-step "$package"
+echo "$package"

@@ -1,23 +1,23 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Long forms of the tests of faults, load and time, and the fuzz targets: builds with and without the sanitizers and
-# prints figures. Goes on to the end whatever fails, and then ends with 1.
-#   ZSM_FUZZ_SECONDS=60      for each fuzz target        ZSM_SOAK_SECONDS=60  of processes forked 200 times a second
-#   ZSM_SOAK_TICKS=10000     of the controller           ZSM_SOAK_FILES=10000 settings files
-#   ZSM_MONKEY_SEEDS="11 12 13 14"  runs of 5,000 actions of a user
+# Runs the fuzz targets and the long forms of the tests of faults, load and duration, built with and without the
+# sanitizers, and prints their figures. Does not stop at a failure, but exits with 1 in the end.
+#   ZSM_FUZZ_SECONDS=60    seconds per fuzz target       ZSM_SOAK_SECONDS=60   seconds of 200 forks per second
+#   ZSM_SOAK_TICKS=10000   ticks of the controller       ZSM_SOAK_FILES=10000  settings files
+#   ZSM_MONKEY_SEEDS="11 12 13 14"  seeds of the runs of 5,000 user actions
 set -euo pipefail
-cd "$(dirname "$0")"
-. ./setup.sh
+cd "$(dirname "$0")/.."
+. scripts/setup.sh
 
-need_packages $build_packages $window_packages $check_packages $fuzz_packages
+need_packages "${build_packages[@]}" "${window_packages[@]}" "${check_packages[@]}" "${fuzz_packages[@]}"
 build fuzz fuzzers
 build asan fuzzers test_damagedsettings test_window_geometry test_worstmachine test_monkey
 build dev test_time test_forks
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 QTEST_FUNCTION_TIMEOUT=3600000
-export LSAN_OPTIONS="suppressions=$PWD/tests/support/leaks.supp:print_suppressions=0"
+export LSAN_OPTIONS="suppressions='$PWD/tests/support/leaks.supp':print_suppressions=0"
 
 failed=0
-# run <program> [<function>]: prints the figures that it logs.
+# run <program> [<function>]: runs a test program and prints the figures that it logs.
 run() {
     echo "== $*"
     local log
@@ -27,13 +27,13 @@ run() {
 figures() {
     grep -E "^(QINFO|FAIL|PASS|Totals|   )|ERROR|SUMMARY|does not hold" <<<"$1" | grep -v "TestCase()" || true
 }
-# fuzz <program>: guided by coverage, from the seeds. What it learns and finds is kept in build/fuzz/found.
+# fuzz <program>: coverage-guided, starting from the seeds. Corpus and findings are kept in build/fuzz/found.
 fuzz() {
     local name=${1##*/fuzz_} found=build/fuzz/found
     echo "== $1"
     mkdir -p "$found/$name"
     local log=$found/$name.log
-    # Whether anything leaks is told by the same bodies in the tests.
+    # Leaks are detected by the tests that share the bodies of the fuzz targets.
     "$1" -max_total_time="${ZSM_FUZZ_SECONDS:-60}" -detect_leaks=0 -malloc_limit_mb=256 -print_final_stats=1 \
         -artifact_prefix="$found/$name-" "$found/$name" "tests/fuzz/corpus/$name" >"$log" 2>&1 ||
         { failed=1; echo "FAILED: $1"; }
@@ -50,7 +50,7 @@ done
 for target in build/asan/tests/fuzz/test_fuzz_*; do
     [ ! -f "$target" ] || ZSM_SOAK_TEXTS=100000 run "$target" holdsOnAnyText
 done
-# Memory of the sanitizer grows with each window, so in runs of 1,000.
+# In runs of 1,000, since the memory of the sanitizer grows with each window.
 for ((seed = 0; seed < ${ZSM_SOAK_FILES:-10000}; seed += 1000)); do
     ZSM_SOAK_FILES=1000 ZSM_SOAK_SEED=$seed run build/asan/tests/soak/test_damagedsettings anyFileGivesAWindowThatRefreshesAndSaves
 done
