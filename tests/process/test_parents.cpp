@@ -9,6 +9,7 @@
 #include <functional>
 
 using namespace gtop_wrappers;
+using madeup::at;
 using madeup::now;
 
 using Change = std::function<void()>;
@@ -58,11 +59,10 @@ ProcessRecord TestParents::resolved()
 void TestParents::isReadOnlyOnceAndAlone()
 {
     resolved();
-    madeup::at(11).nice = 5;
+    at(11).nice = 5;
     standin::resetCalls();
     const ProcessRecord record = resolved();
-    // State and time of four, and two calls each for the parents of 1, which has none, and of 99, which is
-    // young.
+    // State and time of four; the parents of 1, which has none, and of the young 99, with their start.
     QCOMPARE(standin::calls().processData, 4U * 2 + 2 * 2);
     QCOMPARE(record.parent, 10);
     QCOMPARE(record.nice, 0);
@@ -78,37 +78,37 @@ void TestParents::isReadAgain_data()
         QTest::newRow(name) << prepare << change << parent;
     };
     const Change nothing = [] {};
-    const auto passASecond = [this] { time += std::chrono::seconds(1); };
+    const Change passASecond = [this] { time += std::chrono::seconds(1); };
     row("not while both run", nothing, nothing, 10);
     row("parent exited", nothing, [] { madeup::remove(10); });
-    row("parent is a zombie", nothing, [] { madeup::at(10).state = GLIBTOP_PROCESS_ZOMBIE; });
-    row("parent is dead", nothing, [] { madeup::at(10).state = GLIBTOP_PROCESS_DEAD; });
-    row("parent's pid was reused", nothing, [] { madeup::at(10).startTime = now; });
-    row("pid was reused", nothing, [] { madeup::at(11).startTime = now - 39; });
-    row(
-        "process had no parent", [] { madeup::at(11).parent = 0; }, nothing);
-    row(
-        "parent was not listed", [] { madeup::at(11).parent = 77; }, nothing);
-    row("process was not listed", nothing, [this] {
-        const auto process = madeup::at(11);
+    row("parent is a zombie", nothing, [] { at(10).state = GLIBTOP_PROCESS_ZOMBIE; });
+    row("parent is dead", nothing, [] { at(10).state = GLIBTOP_PROCESS_DEAD; });
+    row("parent's pid was reused", nothing, [] { at(10).startTime = now; });
+    row("pid was reused", nothing, [] { at(11).startTime = now - 39; });
+    const Change hadNoParent = [] { at(11).parent = 0; };
+    row("process had no parent", hadNoParent, nothing);
+    const Change wasNotListed = [] { at(11).parent = 77; };
+    row("parent was not listed", wasNotListed, nothing);
+    const Change comeBack = [this] {
+        const auto process = at(11);
         madeup::remove(11);
         resolved();
         standin::machine().processes->insert({11, process});
-    });
-    row(
-        "process was young", [] { madeup::at(11).startTime = now; }, passASecond);
-    row(
-        "parent was young", [] { madeup::at(10).startTime = now; }, passASecond);
-    row(
-        "process was young and read entirely",
-        [this] {
-            madeup::at(11).startTime = now;
-            eager = ReadUid;
-        },
-        [this] {
-            time += std::chrono::seconds(1);
-            eager = 0;
-        });
+    };
+    row("process was not listed for a while", nothing, comeBack);
+    const Change childIsYoung = [] { at(11).startTime = now; };
+    row("process was young", childIsYoung, passASecond);
+    const Change parentIsYoung = [] { at(10).startTime = now; };
+    row("parent was young", parentIsYoung, passASecond);
+    const Change readYoungEntirely = [this] {
+        at(11).startTime = now;
+        eager = ReadUid;
+    };
+    const Change growOld = [this] {
+        time += std::chrono::seconds(1);
+        eager = 0;
+    };
+    row("process was young and its nice value eager", readYoungEntirely, growOld);
     row("nice value became eager", nothing, [this] { eager = ReadUid; });
 }
 
@@ -117,12 +117,12 @@ void TestParents::isReadAgain()
     QFETCH(Change, prepare);
     QFETCH(Change, change);
     prepare();
-    const int before = madeup::at(11).parent;
+    const int before = at(11).parent;
     for (int i = 0; i < 2; ++i) {
         QCOMPARE(resolved().parent, before);
     }
     change();
-    madeup::at(11).parent = 1;
+    at(11).parent = 1;
     QTEST(resolved().parent, "parent");
 }
 
