@@ -9,20 +9,122 @@ class TestActionsRefused : public ProgramTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void initTestCase()
+    {
+        if (testUser() < 0) {
+            QSKIP("only root can start processes of two users");
+        }
+        SessionOptions options;
+        // Sorted by user: ids without a name come first, in the part of the full list that does not move.
+        options.settings = "[General]\nproc_sort_column=3\n[interval]\nprocs=1\n[column]\nNice=true\n";
+        startProgram(options);
+    }
+
     void cleanup() { reportFailureAndCloseAll(); }
-    void cleanupTestCase();
-    void signalToAProcessOfAnotherUserIsReported_data();
-    void signalToAProcessOfAnotherUserIsReported();
-    void priorityCanBeLowered();
-    void refusedPriorityIsReported();
-    void unchangedPriorityIsNotSet();
-    void cancelledPriorityIsNotSet();
+    void cleanupTestCase()
+    {
+        if (session) {
+            verifyQuitsCleanly();
+        }
+    }
+
+    void signalToAProcessOfAnotherUserIsReported_data()
+    {
+        QTest::addColumn<QString>("shortcut");
+        for (const char *shortcut : {"ctrl+s", "ctrl+t", "ctrl+k"}) {
+            QTest::newRow(shortcut) << shortcut;
+        }
+    }
+
+    void signalToAProcessOfAnotherUserIsReported()
+    {
+        QFETCH(QString, shortcut);
+        const int anotherUser = testUser() + 40000;
+        const SampleProcess foreign("for", SampleProcess::Sleeping, anotherUser);
+        QVERIFY(foreign.isReady());
+        QVERIFY(session->key("ctrl+a"));
+        QVERIFY(page->waitForRow(foreign.pid()));
+        QVERIFY(page->select(foreign.pid()));
+        QVERIFY(session->key(shortcut));
+        QVERIFY(session->clickButton("OK"));
+        QVERIFY(acceptError("Unable send signal to process. Reason - Operation not permitted"));
+        QCOMPARE(foreign.state(), 'S');
+        QVERIFY(session->key("ctrl+m"));
+        QVERIFY(page->waitForNoRow(foreign.pid()));
+    }
+
+    void priorityCanBeLowered()
+    {
+        const SampleProcess process = sample("nic");
+        QCOMPARE(niceOf(process), 0);
+        QVERIFY(openPriorityDialog(process));
+        QVERIFY(pressInPriorityDialog({"Right", "Right", "Right"}));
+        QVERIFY(clickOk());
+        QVERIFY(session->waitFor([&] { return niceOf(process) == 3; }));
+        QVERIFY(page->waitForText(process.pid(), "Nice", "3"));
+    }
+
+    void refusedPriorityIsReported()
+    {
+        const SampleProcess process = sample("ref");
+        QVERIFY(openPriorityDialog(process));
+        QVERIFY(pressInPriorityDialog({"Left"}));
+        QVERIFY(session->clickButton("OK"));
+        QVERIFY(acceptError("Unable change priority. Reason - Permission denied"));
+        QCOMPARE(niceOf(process), 0);
+    }
+
+    /// The process has exited: setting its priority would be reported as an error.
+    void unchangedPriorityIsNotSet()
+    {
+        std::optional<SampleProcess> process(std::in_place, "sam", SampleProcess::Sleeping, testUser());
+        QVERIFY(openPriorityDialog(*process));
+        QVERIFY(pressInPriorityDialog({"Right", "Left"}));
+        const int pid = process->pid();
+        process.reset();
+        QVERIFY(page->waitForNoRow(pid));
+        QVERIFY(clickOk());
+        QVERIFY(waitForRefresh());
+        QVERIFY(session->dialog().isEmpty());
+    }
+
+    void cancelledPriorityIsNotSet()
+    {
+        const SampleProcess process = sample("can");
+        QVERIFY(openPriorityDialog(process));
+        QVERIFY(pressInPriorityDialog({"Right"}));
+        QVERIFY(session->key("Escape"));
+        QVERIFY(page->waitForNoDialog());
+        QVERIFY(waitForRefresh());
+        QCOMPARE(niceOf(process), 0);
+    }
 
 private:
-    bool openPriorityDialog(const SampleProcess &process);
-    bool pressInPriorityDialog(const QStringList &keys);
-    bool acceptError(const QString &text);
+    bool openPriorityDialog(const SampleProcess &process)
+    {
+        return isListed(process) && page->openContextMenu(process.pid()) &&
+               session->clickMenu("Change priority...") && page->waitForDialog("Change priority") &&
+               !okIsEnabled();
+    }
+
+    /// The slider has the focus as soon as the dialog is open; moving it enables OK.
+    bool pressInPriorityDialog(const QStringList &keys)
+    {
+        const auto press = [&](const QString &key) { return session->key(key); };
+        return std::all_of(keys.begin(), keys.end(), press) &&
+               session->waitFor([&] { return okIsEnabled(); });
+    }
+
+    /// Accepts the error box if it is the expected one and nothing follows it.
+    bool acceptError(const QString &text)
+    {
+        const int warningIcon = 2;
+        if (!page->waitForDialog("Error")) {
+            return false;
+        }
+        const QJsonObject box = session->dialog();
+        return box.value("text").toString() == text && box.value("icon").toInt() == warningIcon && clickOk();
+    }
 };
 
 namespace {
@@ -33,120 +135,6 @@ int niceOf(const SampleProcess &process)
 }
 
 } // namespace
-
-void TestActionsRefused::initTestCase()
-{
-    if (testUser() < 0) {
-        QSKIP("only root can start processes of two users");
-    }
-    SessionOptions options;
-    // Sorted by user: ids without a name come first, in the part of the full list that does not move.
-    options.settings = "[General]\nproc_sort_column=3\n[interval]\nprocs=1\n[column]\nNice=true\n";
-    startProgram(options);
-}
-
-void TestActionsRefused::cleanupTestCase()
-{
-    if (session) {
-        verifyQuitsCleanly();
-    }
-}
-
-/// Accepts the error box if it is the expected one and nothing follows it.
-bool TestActionsRefused::acceptError(const QString &text)
-{
-    const int warningIcon = 2;
-    if (!page->waitForDialog("Error")) {
-        return false;
-    }
-    const QJsonObject box = session->dialog();
-    return box.value("text").toString() == text && box.value("icon").toInt() == warningIcon && clickOk();
-}
-
-void TestActionsRefused::signalToAProcessOfAnotherUserIsReported_data()
-{
-    QTest::addColumn<QString>("shortcut");
-    for (const char *shortcut : {"ctrl+s", "ctrl+t", "ctrl+k"}) {
-        QTest::newRow(shortcut) << shortcut;
-    }
-}
-
-void TestActionsRefused::signalToAProcessOfAnotherUserIsReported()
-{
-    QFETCH(QString, shortcut);
-    const int anotherUser = testUser() + 40000;
-    const SampleProcess foreign("for", SampleProcess::Sleeping, anotherUser);
-    QVERIFY(foreign.isReady());
-    QVERIFY(session->key("ctrl+a"));
-    QVERIFY(page->waitForRow(foreign.pid()));
-    QVERIFY(page->select(foreign.pid()));
-    QVERIFY(session->key(shortcut));
-    QVERIFY(session->clickButton("OK"));
-    QVERIFY(acceptError("Unable send signal to process. Reason - Operation not permitted"));
-    QCOMPARE(foreign.state(), 'S');
-    QVERIFY(session->key("ctrl+m"));
-    QVERIFY(page->waitForNoRow(foreign.pid()));
-}
-
-bool TestActionsRefused::openPriorityDialog(const SampleProcess &process)
-{
-    return isListed(process) && page->openContextMenu(process.pid()) &&
-           session->clickMenu("Change priority...") && page->waitForDialog("Change priority") &&
-           !okIsEnabled();
-}
-
-/// The slider has the focus as soon as the dialog is open; moving it enables OK.
-bool TestActionsRefused::pressInPriorityDialog(const QStringList &keys)
-{
-    const auto press = [&](const QString &key) { return session->key(key); };
-    return std::all_of(keys.begin(), keys.end(), press) && session->waitFor([&] { return okIsEnabled(); });
-}
-
-void TestActionsRefused::priorityCanBeLowered()
-{
-    const SampleProcess process = sample("nic");
-    QCOMPARE(niceOf(process), 0);
-    QVERIFY(openPriorityDialog(process));
-    QVERIFY(pressInPriorityDialog({"Right", "Right", "Right"}));
-    QVERIFY(clickOk());
-    QVERIFY(session->waitFor([&] { return niceOf(process) == 3; }));
-    QVERIFY(page->waitForText(process.pid(), "Nice", "3"));
-}
-
-void TestActionsRefused::refusedPriorityIsReported()
-{
-    const SampleProcess process = sample("ref");
-    QVERIFY(openPriorityDialog(process));
-    QVERIFY(pressInPriorityDialog({"Left"}));
-    QVERIFY(session->clickButton("OK"));
-    QVERIFY(acceptError("Unable change priority. Reason - Permission denied"));
-    QCOMPARE(niceOf(process), 0);
-}
-
-/// The process has exited: setting its priority would be reported as an error.
-void TestActionsRefused::unchangedPriorityIsNotSet()
-{
-    std::optional<SampleProcess> process(std::in_place, "sam", SampleProcess::Sleeping, testUser());
-    QVERIFY(openPriorityDialog(*process));
-    QVERIFY(pressInPriorityDialog({"Right", "Left"}));
-    const int pid = process->pid();
-    process.reset();
-    QVERIFY(page->waitForNoRow(pid));
-    QVERIFY(clickOk());
-    QVERIFY(waitForRefresh());
-    QVERIFY(session->dialog().isEmpty());
-}
-
-void TestActionsRefused::cancelledPriorityIsNotSet()
-{
-    const SampleProcess process = sample("can");
-    QVERIFY(openPriorityDialog(process));
-    QVERIFY(pressInPriorityDialog({"Right"}));
-    QVERIFY(session->key("Escape"));
-    QVERIFY(page->waitForNoDialog());
-    QVERIFY(waitForRefresh());
-    QCOMPARE(niceOf(process), 0);
-}
 
 QTEST_GUILESS_MAIN(TestActionsRefused)
 #include "test_actions_refused.moc"

@@ -10,98 +10,89 @@ class TestDescriptorsTaken : public ProgramTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void withNoneLeftItGoesOnAndSavesItsSettings();
-    void withTooFewItKeepsItsListUntilThereAreMore();
+    void init()
+    {
+        SessionOptions options;
+        options.settings = "[interval]\nprocs=1\n";
+        session = std::make_unique<DesktopSession>(options);
+        page = std::make_unique<ProcessesPage>(*session);
+        QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
+        QVERIFY2(page->waitForRow(getpid()), qPrintable(session->error()));
+    }
+
+    void withNoneLeftItGoesOnAndSavesItsSettings()
+    {
+        QVERIFY(limitDescriptors(lowestUsefulLimit()));
+        QVERIFY(!session->probe("hoard").contains("error"));
+        const SampleProcess process("desc");
+        QVERIFY2(isListed(process), qPrintable(session->error()));
+        for (const char *tab : {"System", "File systems", "Network", "Processes"}) {
+            QVERIFY2(page->showPage(tab), qPrintable(session->error()));
+        }
+        verifyQuitsAndSaves();
+    }
+
+    void withTooFewItKeepsItsListUntilThereAreMore()
+    {
+        const rlim_t enough = lowestUsefulLimit();
+        QVERIFY(limitDescriptors(3));
+        const QStringList before = page->list().column("PID");
+        QVERIFY(!before.isEmpty());
+        const SampleProcess process("desc");
+        QVERIFY(process.isReady());
+        QVERIFY2(waitForTicks(), qPrintable(session->error()));
+        QCOMPARE(page->list().column("PID"), before);
+        QVERIFY(limitDescriptors(enough));
+        QVERIFY2(page->waitForRow(process.pid()), qPrintable(session->error()));
+        verifyQuitsAndSaves();
+    }
 
 private:
-    bool limitDescriptors(rlim_t limit);
-    rlim_t lowestUsefulLimit();
-    bool waitForTicks();
-    void verifyQuitsAndSaves();
+    bool limitDescriptors(rlim_t limit)
+    {
+        rlimit limits = {};
+        const auto pid = static_cast<pid_t>(session->pid());
+        if (prlimit(pid, RLIMIT_NOFILE, nullptr, &limits) != 0) {
+            return false;
+        }
+        limits.rlim_cur = limit;
+        return prlimit(pid, RLIMIT_NOFILE, &limits, nullptr) == 0;
+    }
+
+    /// Just above the highest open descriptor, those that the program holds in reserve included.
+    rlim_t lowestUsefulLimit()
+    {
+        const QDir folder(QString("/proc/%1/fd").arg(session->pid()));
+        int highest = 0;
+        for (const QString &descriptor : folder.entryList(QDir::Files | QDir::System)) {
+            highest = std::max(highest, descriptor.toInt());
+        }
+        return static_cast<rlim_t>(highest) + 1;
+    }
+
+    /// Counts wake-ups of the program: unless probed, it wakes up only for its tick.
+    bool waitForTicks()
+    {
+        const auto wakeUps = [&] {
+            QFile file(QString("/proc/%1/status").arg(session->pid()));
+            const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+            const QByteArray key = "\nvoluntary_ctxt_switches:";
+            return status.mid(status.indexOf(key) + key.size()).split('\n').value(0).trimmed().toLong();
+        };
+        const long before = wakeUps();
+        return session->waitFor([&] { return wakeUps() >= before + 3; });
+    }
+
+    void verifyQuitsAndSaves()
+    {
+        QVERIFY2(page->quit(), qPrintable(session->error()));
+        QCOMPARE(session->exitCode(), 0);
+        QFile file(session->settingsFile());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray settings = file.readAll();
+        QVERIFY2(settings.contains("procs=1") && settings.contains("nwt=3"), settings.constData());
+    }
 };
-
-void TestDescriptorsTaken::init()
-{
-    SessionOptions options;
-    options.settings = "[interval]\nprocs=1\n";
-    session = std::make_unique<DesktopSession>(options);
-    page = std::make_unique<ProcessesPage>(*session);
-    QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
-    QVERIFY2(page->waitForRow(getpid()), qPrintable(session->error()));
-}
-
-bool TestDescriptorsTaken::limitDescriptors(rlim_t limit)
-{
-    rlimit limits = {};
-    const auto pid = static_cast<pid_t>(session->pid());
-    if (prlimit(pid, RLIMIT_NOFILE, nullptr, &limits) != 0) {
-        return false;
-    }
-    limits.rlim_cur = limit;
-    return prlimit(pid, RLIMIT_NOFILE, &limits, nullptr) == 0;
-}
-
-/// Just above the highest open descriptor, those that the program holds in reserve included.
-rlim_t TestDescriptorsTaken::lowestUsefulLimit()
-{
-    const QDir folder(QString("/proc/%1/fd").arg(session->pid()));
-    int highest = 0;
-    for (const QString &descriptor : folder.entryList(QDir::Files | QDir::System)) {
-        highest = std::max(highest, descriptor.toInt());
-    }
-    return static_cast<rlim_t>(highest) + 1;
-}
-
-/// Counts wake-ups of the program: unless probed, it wakes up only for its tick.
-bool TestDescriptorsTaken::waitForTicks()
-{
-    const auto wakeUps = [&] {
-        QFile file(QString("/proc/%1/status").arg(session->pid()));
-        const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        const QByteArray key = "\nvoluntary_ctxt_switches:";
-        return status.mid(status.indexOf(key) + key.size()).split('\n').value(0).trimmed().toLong();
-    };
-    const long before = wakeUps();
-    return session->waitFor([&] { return wakeUps() >= before + 3; });
-}
-
-void TestDescriptorsTaken::verifyQuitsAndSaves()
-{
-    QVERIFY2(page->quit(), qPrintable(session->error()));
-    QCOMPARE(session->exitCode(), 0);
-    QFile file(session->settingsFile());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray settings = file.readAll();
-    QVERIFY2(settings.contains("procs=1") && settings.contains("nwt=3"), settings.constData());
-}
-
-void TestDescriptorsTaken::withNoneLeftItGoesOnAndSavesItsSettings()
-{
-    QVERIFY(limitDescriptors(lowestUsefulLimit()));
-    QVERIFY(!session->probe("hoard").contains("error"));
-    const SampleProcess process("desc");
-    QVERIFY2(isListed(process), qPrintable(session->error()));
-    for (const char *tab : {"System", "File systems", "Network", "Processes"}) {
-        QVERIFY2(page->showPage(tab), qPrintable(session->error()));
-    }
-    verifyQuitsAndSaves();
-}
-
-void TestDescriptorsTaken::withTooFewItKeepsItsListUntilThereAreMore()
-{
-    const rlim_t enough = lowestUsefulLimit();
-    QVERIFY(limitDescriptors(3));
-    const QStringList before = page->list().column("PID");
-    QVERIFY(!before.isEmpty());
-    const SampleProcess process("desc");
-    QVERIFY(process.isReady());
-    QVERIFY2(waitForTicks(), qPrintable(session->error()));
-    QCOMPARE(page->list().column("PID"), before);
-    QVERIFY(limitDescriptors(enough));
-    QVERIFY2(page->waitForRow(process.pid()), qPrintable(session->error()));
-    verifyQuitsAndSaves();
-}
 
 QTEST_GUILESS_MAIN(TestDescriptorsTaken)
 #include "test_descriptors_taken.moc"

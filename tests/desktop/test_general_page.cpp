@@ -9,24 +9,196 @@ class TestGeneralPage : public QObject
 
 private Q_SLOTS:
     void cleanup() { QVERIFY(session->endsCleanly()); }
-    void memoryAndDiskFollowTheMachine();
-    void theLoadOfEachCpuFollowsItsCounters();
-    void unchangedCountersShowAHundredPercent();
-    void aSingleCpuIsNotCalledACore();
-    void missingDataShowsNoUndefinedNumbers_data();
-    void missingDataShowsNoUndefinedNumbers();
-    void theWindowOpensAtItsDefaultSizeAndEachGaugeCanBeReached_data();
-    void theWindowOpensAtItsDefaultSizeAndEachGaugeCanBeReached();
+    void memoryAndDiskFollowTheMachine()
+    {
+        standin::Machine machine = machineWithCpus(1);
+        machine.mounts->push_back(mount("overlay", "/var", 5000000, 5000000)); // no disk, so not counted
+        start(machine);
+        QVERIFY(session->waitForTexts(
+            {{"lblMemTotal", "8.00 GB"}, {"lblMemFree", "4.00 GB"}, {"lblDiskFree", "976.56 MB"}}));
+        QCOMPARE(value(memoryGauge), 50.0);
+        QCOMPARE(value(diskGauge), 25.0);
+        QVERIFY(
+            session->waitFor([&] { return isFilled(memoryGauge, 'b', 50) && isFilled(diskGauge, 'r', 25); }));
+
+        machine.memory = standin::Memory{300, 3, 1, 1};
+        machine.mounts->front().availBlocks = 999999;
+        machine.mounts->push_back(mount("/dev/sdb1", "/data", 1000000, 0));
+        session->setMachine(machine);
+        QVERIFY(session->waitForTexts(
+            {{"lblMemTotal", "300.00 B"}, {"lblMemFree", "5.00 B"}, {"lblDiskFree", "3.81 GB"}}));
+        QCOMPARE(value(memoryGauge), 1.0); // 1.67 and 49.99995 are truncated, not rounded
+        QCOMPARE(value(diskGauge), 49.0);
+        QVERIFY(
+            session->waitFor([&] { return isFilled(memoryGauge, 'b', 1) && isFilled(diskGauge, 'r', 49); }));
+    }
+
+    void theLoadOfEachCpuFollowsItsCounters()
+    {
+        standin::Machine machine = machineWithCpus(3);
+        start(machine);
+        // The counters advance with each poll, so that each refresh finds the same shares of idle time.
+        const auto advanceUntil = [&](const std::vector<standin::Cpu> &step,
+                                      const std::function<bool()> &condition) {
+            return session->waitFor([&] {
+                for (std::size_t i = 0; i < step.size(); ++i) {
+                    (*machine.cpus)[i].idle += step[i].idle;
+                    (*machine.cpus)[i].total += step[i].total;
+                }
+                session->setMachine(machine);
+                return condition();
+            });
+        };
+        const auto shows = [&](int cpu, double load) {
+            return value(loadGauge(cpu)) == load && loadText(cpu) == QString("%1 %").arg(load);
+        };
+        const std::vector<standin::Cpu> step{{63, 100}, {100, 100}, {0, 100}};
+        QVERIFY(advanceUntil(step, [&] { return shows(1, 37) && shows(2, 0) && shows(3, 100); }));
+        QVERIFY(advanceUntil(step, [&] {
+            return isFilled(loadGauge(1), 'g', 37) && filledTicks(loadGauge(2), 'g') == 0 &&
+                   isFilled(loadGauge(3), 'g', 100);
+        }));
+        QVERIFY(advanceUntil({{997, 1000}, {500, 1000}, {100, 1000}},
+                             [&] { return shows(1, 1) && shows(2, 50) && shows(3, 90); }));
+    }
+
+    void unchangedCountersShowAHundredPercent()
+    {
+        start(machineWithCpus(2));
+        QVERIFY(session->waitFor([&] { return value(loadGauge(2)) == 100.0; }));
+        QCOMPARE(loadText(2), QString("100 %"));
+    }
+
+    void aSingleCpuIsNotCalledACore()
+    {
+        start(machineWithCpus(1));
+        QVERIFY(!gauge("CPU load").isEmpty());
+        QVERIFY(gauge(loadGauge(1)).isEmpty());
+    }
+
+    void missingDataShowsNoUndefinedNumbers_data()
+    {
+        QTest::addColumn<bool>("mountListFails");
+        QTest::addColumn<QString>("device");
+        QTest::newRow("zeroed records") << false << "/dev/sda1";
+        QTest::newRow("no disk") << false << "overlay";
+        QTest::newRow("no mount") << false << "";
+        QTest::newRow("no mount list") << true << "";
+    }
+
+    void missingDataShowsNoUndefinedNumbers()
+    {
+        QFETCH(bool, mountListFails);
+        QFETCH(QString, device);
+        standin::Machine machine = machineWithCpus(2);
+        machine.memory = standin::Memory{};
+        machine.mountListFails = mountListFails;
+        machine.mounts->front().device = device.toStdString();
+        machine.mounts->front().fails = device.startsWith('/');
+        if (device.isEmpty()) {
+            machine.mounts->clear();
+        }
+        start(machine);
+        QVERIFY(session->waitForTexts(
+            {{"lblMemTotal", "0.00 B"}, {"lblMemFree", "0.00 B"}, {"lblDiskFree", "0.00 B"}}));
+        QCOMPARE(value(memoryGauge), 0.0);
+        QCOMPARE(value(diskGauge), 0.0);
+        QCOMPARE(filledTicks(memoryGauge, 'b'), 0);
+        QCOMPARE(session->undefinedNumber(), QString());
+    }
+
+    void theWindowOpensAtItsDefaultSizeAndEachGaugeCanBeReached_data()
+    {
+        QTest::addColumn<int>("cpus");
+        for (const int cpus : {1, 2, 8, 16, 64, 256, 1024}) {
+            QTest::addRow("%d CPUs", cpus) << cpus;
+        }
+    }
+
+    void theWindowOpensAtItsDefaultSizeAndEachGaugeCanBeReached()
+    {
+        QFETCH(int, cpus);
+        start(machineWithCpus(cpus));
+        const QRect rect = session->windowRect();
+        const QRect frame = rectOf(session->mainWindow().value("frame"));
+        QVERIFY2(frame.top() < rect.top(), "the window manager draws a title bar");
+        QVERIFY2(QRect(QPoint(), SessionOptions().screen).contains(frame | rect),
+                 "the window is on the screen");
+        const QRect area = session->widgetRect("generalScroll");
+        const bool scrolls = !area.isNull();
+        QVERIFY(scrolls ? cpus > 2 : cpus < 64);
+        const QSize least = scrolls ? QSize() : rectOf(session->mainWindow().value("minimumSize")).size();
+        QCOMPARE(rect.size(), QSize(640, 480).expandedTo(least));
+        QCOMPARE(session->widgets("QProg").size(), cpus + 2);
+        if (lastGaugeIsShown()) {
+            return;
+        }
+        QVERIFY(session->clickWidget("lblHost"));
+        QVERIFY(sendUntil([&] { session->key("Page_Down"); }, [&] { return lastGaugeIsShown(); }));
+        // With the wheel from the bottom to the top and back.
+        session->x().moveTo(area.center());
+        QVERIFY(sendUntil([&] { session->x().click(4); },
+                          [&] { return area.contains(session->widgetRect("lblHost")); }));
+        QVERIFY(sendUntil([&] { session->x().click(5); }, [&] { return lastGaugeIsShown(); }));
+    }
 
 private:
-    void start(const standin::Machine &machine);
+    void start(const standin::Machine &machine)
+    {
+        session = std::make_unique<PageSession>(machine);
+        QVERIFY(session->start({"general"}));
+    }
+
     QJsonObject gauge(const QString &name) { return session->named("QProg", name); }
     double value(const QString &name) { return gauge(name).value("value").toDouble(-1); }
-    int filledTicks(const QString &name, char color);
-    bool isFilled(const QString &name, char color, double percent);
-    QString loadText(int cpu);
-    bool lastGaugeIsShown();
-    bool sendUntil(const std::function<void()> &input, const std::function<bool()> &condition);
+    // A gauge has a tick every 10 pixels from 20 on; this counts the fields between them that the bar fills.
+    int filledTicks(const QString &name, char color)
+    {
+        const QImage picture = session->picture(gauge(name));
+        int filled = 0;
+        for (int x = 25; x < picture.width(); x += 10) {
+            filled += shade(picture, {x, picture.height() / 2}) == color;
+        }
+        return filled;
+    }
+
+    bool isFilled(const QString &name, char color, double percent)
+    {
+        const double bar = (session->picture(gauge(name)).width() - 10) * percent / 100.0;
+        const int expected = qMax(0, int((10 + bar - 25) / 10) + 1);
+        return qAbs(filledTicks(name, color) - expected) <= 1;
+    }
+
+    // The number is between the caption and the gauge.
+    QString loadText(int cpu)
+    {
+        const QVector<QJsonObject> labels = session->widgets("QLabel");
+        for (int i = 0; i + 1 < labels.size(); ++i) {
+            if (labels[i].value("text").toString() == loadGauge(cpu)) {
+                return labels[i + 1].value("text").toString();
+            }
+        }
+        return {};
+    }
+
+    // The gauges are below one another, so a view that shows the last one has passed all of them.
+    bool lastGaugeIsShown()
+    {
+        const QRect area = session->widgetRect("generalScroll");
+        const QRect last = rectOf(session->widgets("QProg").last().value("rect"));
+        return (area.isNull() ? session->windowRect() : area).contains(last);
+    }
+
+    bool sendUntil(const std::function<void()> &input, const std::function<bool()> &condition) ::function<bool()> &condition)
+    {
+        return session->waitFor([&] {
+            for (int i = 0; i < 100; ++i) {
+                input();
+            }
+            return condition();
+        });
+    }
+
     std::unique_ptr<PageSession> session;
 };
 
@@ -56,190 +228,6 @@ standin::Machine machineWithCpus(int count)
 }
 
 } // namespace
-
-void TestGeneralPage::start(const standin::Machine &machine)
-{
-    session = std::make_unique<PageSession>(machine);
-    QVERIFY(session->start({"general"}));
-}
-
-// A gauge has a tick every 10 pixels from 20 on; this counts the fields between them that the bar fills.
-int TestGeneralPage::filledTicks(const QString &name, char color)
-{
-    const QImage picture = session->picture(gauge(name));
-    int filled = 0;
-    for (int x = 25; x < picture.width(); x += 10) {
-        filled += shade(picture, {x, picture.height() / 2}) == color;
-    }
-    return filled;
-}
-
-bool TestGeneralPage::isFilled(const QString &name, char color, double percent)
-{
-    const double bar = (session->picture(gauge(name)).width() - 10) * percent / 100.0;
-    const int expected = qMax(0, int((10 + bar - 25) / 10) + 1);
-    return qAbs(filledTicks(name, color) - expected) <= 1;
-}
-
-// The number is between the caption and the gauge.
-QString TestGeneralPage::loadText(int cpu)
-{
-    const QVector<QJsonObject> labels = session->widgets("QLabel");
-    for (int i = 0; i + 1 < labels.size(); ++i) {
-        if (labels[i].value("text").toString() == loadGauge(cpu)) {
-            return labels[i + 1].value("text").toString();
-        }
-    }
-    return {};
-}
-
-void TestGeneralPage::memoryAndDiskFollowTheMachine()
-{
-    standin::Machine machine = machineWithCpus(1);
-    machine.mounts->push_back(mount("overlay", "/var", 5000000, 5000000)); // no disk, so not counted
-    start(machine);
-    QVERIFY(session->waitForTexts(
-        {{"lblMemTotal", "8.00 GB"}, {"lblMemFree", "4.00 GB"}, {"lblDiskFree", "976.56 MB"}}));
-    QCOMPARE(value(memoryGauge), 50.0);
-    QCOMPARE(value(diskGauge), 25.0);
-    QVERIFY(session->waitFor([&] { return isFilled(memoryGauge, 'b', 50) && isFilled(diskGauge, 'r', 25); }));
-
-    machine.memory = standin::Memory{300, 3, 1, 1};
-    machine.mounts->front().availBlocks = 999999;
-    machine.mounts->push_back(mount("/dev/sdb1", "/data", 1000000, 0));
-    session->setMachine(machine);
-    QVERIFY(session->waitForTexts(
-        {{"lblMemTotal", "300.00 B"}, {"lblMemFree", "5.00 B"}, {"lblDiskFree", "3.81 GB"}}));
-    QCOMPARE(value(memoryGauge), 1.0); // 1.67 and 49.99995 are truncated, not rounded
-    QCOMPARE(value(diskGauge), 49.0);
-    QVERIFY(session->waitFor([&] { return isFilled(memoryGauge, 'b', 1) && isFilled(diskGauge, 'r', 49); }));
-}
-
-void TestGeneralPage::theLoadOfEachCpuFollowsItsCounters()
-{
-    standin::Machine machine = machineWithCpus(3);
-    start(machine);
-    // The counters advance with each poll, so that each refresh finds the same shares of idle time.
-    const auto advanceUntil = [&](const std::vector<standin::Cpu> &step,
-                                  const std::function<bool()> &condition) {
-        return session->waitFor([&] {
-            for (std::size_t i = 0; i < step.size(); ++i) {
-                (*machine.cpus)[i].idle += step[i].idle;
-                (*machine.cpus)[i].total += step[i].total;
-            }
-            session->setMachine(machine);
-            return condition();
-        });
-    };
-    const auto shows = [&](int cpu, double load) {
-        return value(loadGauge(cpu)) == load && loadText(cpu) == QString("%1 %").arg(load);
-    };
-    const std::vector<standin::Cpu> step{{63, 100}, {100, 100}, {0, 100}};
-    QVERIFY(advanceUntil(step, [&] { return shows(1, 37) && shows(2, 0) && shows(3, 100); }));
-    QVERIFY(advanceUntil(step, [&] {
-        return isFilled(loadGauge(1), 'g', 37) && filledTicks(loadGauge(2), 'g') == 0 &&
-               isFilled(loadGauge(3), 'g', 100);
-    }));
-    QVERIFY(advanceUntil({{997, 1000}, {500, 1000}, {100, 1000}},
-                         [&] { return shows(1, 1) && shows(2, 50) && shows(3, 90); }));
-}
-
-void TestGeneralPage::unchangedCountersShowAHundredPercent()
-{
-    start(machineWithCpus(2));
-    QVERIFY(session->waitFor([&] { return value(loadGauge(2)) == 100.0; }));
-    QCOMPARE(loadText(2), QString("100 %"));
-}
-
-void TestGeneralPage::aSingleCpuIsNotCalledACore()
-{
-    start(machineWithCpus(1));
-    QVERIFY(!gauge("CPU load").isEmpty());
-    QVERIFY(gauge(loadGauge(1)).isEmpty());
-}
-
-void TestGeneralPage::missingDataShowsNoUndefinedNumbers_data()
-{
-    QTest::addColumn<bool>("mountListFails");
-    QTest::addColumn<QString>("device");
-    QTest::newRow("zeroed records") << false << "/dev/sda1";
-    QTest::newRow("no disk") << false << "overlay";
-    QTest::newRow("no mount") << false << "";
-    QTest::newRow("no mount list") << true << "";
-}
-
-void TestGeneralPage::missingDataShowsNoUndefinedNumbers()
-{
-    QFETCH(bool, mountListFails);
-    QFETCH(QString, device);
-    standin::Machine machine = machineWithCpus(2);
-    machine.memory = standin::Memory{};
-    machine.mountListFails = mountListFails;
-    machine.mounts->front().device = device.toStdString();
-    machine.mounts->front().fails = device.startsWith('/');
-    if (device.isEmpty()) {
-        machine.mounts->clear();
-    }
-    start(machine);
-    QVERIFY(session->waitForTexts(
-        {{"lblMemTotal", "0.00 B"}, {"lblMemFree", "0.00 B"}, {"lblDiskFree", "0.00 B"}}));
-    QCOMPARE(value(memoryGauge), 0.0);
-    QCOMPARE(value(diskGauge), 0.0);
-    QCOMPARE(filledTicks(memoryGauge, 'b'), 0);
-    QCOMPARE(session->undefinedNumber(), QString());
-}
-
-void TestGeneralPage::theWindowOpensAtItsDefaultSizeAndEachGaugeCanBeReached_data()
-{
-    QTest::addColumn<int>("cpus");
-    for (const int cpus : {1, 2, 8, 16, 64, 256, 1024}) {
-        QTest::addRow("%d CPUs", cpus) << cpus;
-    }
-}
-
-void TestGeneralPage::theWindowOpensAtItsDefaultSizeAndEachGaugeCanBeReached()
-{
-    QFETCH(int, cpus);
-    start(machineWithCpus(cpus));
-    const QRect rect = session->windowRect();
-    const QRect frame = rectOf(session->mainWindow().value("frame"));
-    QVERIFY2(frame.top() < rect.top(), "the window manager draws a title bar");
-    QVERIFY2(QRect(QPoint(), SessionOptions().screen).contains(frame | rect), "the window is on the screen");
-    const QRect area = session->widgetRect("generalScroll");
-    const bool scrolls = !area.isNull();
-    QVERIFY(scrolls ? cpus > 2 : cpus < 64);
-    const QSize least = scrolls ? QSize() : rectOf(session->mainWindow().value("minimumSize")).size();
-    QCOMPARE(rect.size(), QSize(640, 480).expandedTo(least));
-    QCOMPARE(session->widgets("QProg").size(), cpus + 2);
-    if (lastGaugeIsShown()) {
-        return;
-    }
-    QVERIFY(session->clickWidget("lblHost"));
-    QVERIFY(sendUntil([&] { session->key("Page_Down"); }, [&] { return lastGaugeIsShown(); }));
-    // With the wheel from the bottom to the top and back.
-    session->x().moveTo(area.center());
-    QVERIFY(sendUntil([&] { session->x().click(4); },
-                      [&] { return area.contains(session->widgetRect("lblHost")); }));
-    QVERIFY(sendUntil([&] { session->x().click(5); }, [&] { return lastGaugeIsShown(); }));
-}
-
-// The gauges are below one another, so a view that shows the last one has passed all of them.
-bool TestGeneralPage::lastGaugeIsShown()
-{
-    const QRect area = session->widgetRect("generalScroll");
-    const QRect last = rectOf(session->widgets("QProg").last().value("rect"));
-    return (area.isNull() ? session->windowRect() : area).contains(last);
-}
-
-bool TestGeneralPage::sendUntil(const std::function<void()> &input, const std::function<bool()> &condition)
-{
-    return session->waitFor([&] {
-        for (int i = 0; i < 100; ++i) {
-            input();
-        }
-        return condition();
-    });
-}
 
 QTEST_GUILESS_MAIN(TestGeneralPage)
 #include "test_general_page.moc"

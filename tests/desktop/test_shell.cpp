@@ -11,15 +11,105 @@ class TestShell : public QObject
 private Q_SLOTS:
     void init() { session = std::make_unique<DesktopSession>(); }
     void cleanup() { QVERIFY(session->endsCleanly()); }
-    void theFirstArgumentChoosesThePage_data();
-    void theFirstArgumentChoosesThePage();
-    void windowTabsAndHostNameHaveTheirTexts();
-    void ctrlQQuitsFromEveryPage_data();
-    void ctrlQQuitsFromEveryPage();
-    void exitInTheFileMenuQuits();
-    void closingTheWindowQuits();
-    void aClickOnATabShowsItsPage_data();
-    void aClickOnATabShowsItsPage();
+    void theFirstArgumentChoosesThePage_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("page");
+        QTest::addColumn<QByteArray>("output");
+        QTest::newRow("none") << QStringList() << 0 << QByteArray();
+        for (int page = 0; page < pages.size(); ++page) {
+            for (const QString &argument : {pages[page], QString("-tab=%1").arg(page + 1)}) {
+                QTest::newRow(qPrintable(argument)) << QStringList{argument} << page << QByteArray();
+            }
+        }
+        for (const char *unknown : {"Network", "-tab=5", "-tab=0", "--help", "general ", ""}) {
+            QTest::addRow("unknown: \"%s\"", unknown) << QStringList{unknown} << 0 << usage;
+        }
+        QTest::newRow("second unknown") << QStringList{"general", "foo"} << 0 << QByteArray();
+        QTest::newRow("first unknown") << QStringList{"foo", "network"} << 0 << usage;
+    }
+
+    void theFirstArgumentChoosesThePage()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QByteArray, output);
+        QVERIFY(session->start(arguments));
+        QTEST(currentTab(), "page");
+        QCOMPARE(session->standardOutput(), output);
+        QCOMPARE(session->standardError(), QByteArray());
+        QVERIFY(session->isRunning());
+    }
+
+    void windowTabsAndHostNameHaveTheirTexts()
+    {
+        QVERIFY(session->start());
+        QCOMPARE(session->mainWindow().value("title").toString(), QString("System monitor"));
+        QStringList texts;
+        const QJsonArray tabs = session->widget("tabWidget").value("tabs").toArray();
+        for (const QJsonValue &tab : tabs) {
+            texts.append(tab["text"].toString());
+        }
+        QCOMPARE(texts, tabTexts);
+        const QString host = session->text("lblHost");
+        QVERIFY2(host.startsWith(QSysInfo::machineHostName()), qPrintable(host));
+    }
+
+    void ctrlQQuitsFromEveryPage_data()
+    {
+        QTest::addColumn<QString>("page");
+        for (const QString &page : pages) {
+            QTest::newRow(qPrintable(page)) << page;
+        }
+    }
+
+    void ctrlQQuitsFromEveryPage()
+    {
+        QFETCH(QString, page);
+        QVERIFY(session->start({page}));
+        QVERIFY(session->key("ctrl+q"));
+        QVERIFY(session->exitsCleanly());
+    }
+
+    void exitInTheFileMenuQuits()
+    {
+        QVERIFY(session->start());
+        QVERIFY(session->clickMenu("File"));
+        QVERIFY(session->clickMenu("Exit"));
+        QVERIFY(session->exitsCleanly());
+    }
+
+    void closingTheWindowQuits()
+    {
+        QVERIFY(session->start());
+        session->closeMainWindow();
+        QVERIFY(session->exitsCleanly());
+    }
+
+    void aClickOnATabShowsItsPage_data()
+    {
+        QTest::addColumn<int>("dpi");
+        QTest::addColumn<QSize>("screen");
+        QTest::newRow("96 dpi") << 96 << QSize(1280, 1024);
+        QTest::newRow("192 dpi") << 192 << QSize(2560, 2048);
+    }
+
+    void aClickOnATabShowsItsPage()
+    {
+        QFETCH(int, dpi);
+        QFETCH(QSize, screen);
+        SessionOptions options;
+        options.dpi = dpi;
+        options.screen = screen;
+        session = std::make_unique<DesktopSession>(options);
+        QVERIFY(session->start());
+        for (const int page : {3, 1, 2, 0}) {
+            QVERIFY(session->clickTab(tabTexts[page]));
+            QVERIFY(session->waitFor([&] {
+                return currentTab() == page && session->widget(shownWidgets[page]).value("visible").toBool();
+            }));
+            QVERIFY(session->savePicture(QString("page%1-%2dpi").arg(page + 1).arg(dpi)));
+        }
+    }
 
 private:
     int currentTab() { return session->widget("tabWidget").value("currentIndex").toInt(-1); }
@@ -40,106 +130,6 @@ const QByteArray usage = "Usage: zarn-system-monitor [tab]\n"
                          "  network or -tab=4 - fourth page with network info\n";
 
 } // namespace
-
-void TestShell::theFirstArgumentChoosesThePage_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QByteArray>("output");
-    QTest::newRow("none") << QStringList() << 0 << QByteArray();
-    for (int page = 0; page < pages.size(); ++page) {
-        for (const QString &argument : {pages[page], QString("-tab=%1").arg(page + 1)}) {
-            QTest::newRow(qPrintable(argument)) << QStringList{argument} << page << QByteArray();
-        }
-    }
-    for (const char *unknown : {"Network", "-tab=5", "-tab=0", "--help", "general ", ""}) {
-        QTest::addRow("unknown: \"%s\"", unknown) << QStringList{unknown} << 0 << usage;
-    }
-    QTest::newRow("second unknown") << QStringList{"general", "foo"} << 0 << QByteArray();
-    QTest::newRow("first unknown") << QStringList{"foo", "network"} << 0 << usage;
-}
-
-void TestShell::theFirstArgumentChoosesThePage()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QByteArray, output);
-    QVERIFY(session->start(arguments));
-    QTEST(currentTab(), "page");
-    QCOMPARE(session->standardOutput(), output);
-    QCOMPARE(session->standardError(), QByteArray());
-    QVERIFY(session->isRunning());
-}
-
-void TestShell::windowTabsAndHostNameHaveTheirTexts()
-{
-    QVERIFY(session->start());
-    QCOMPARE(session->mainWindow().value("title").toString(), QString("System monitor"));
-    QStringList texts;
-    const QJsonArray tabs = session->widget("tabWidget").value("tabs").toArray();
-    for (const QJsonValue &tab : tabs) {
-        texts.append(tab["text"].toString());
-    }
-    QCOMPARE(texts, tabTexts);
-    const QString host = session->text("lblHost");
-    QVERIFY2(host.startsWith(QSysInfo::machineHostName()), qPrintable(host));
-}
-
-void TestShell::ctrlQQuitsFromEveryPage_data()
-{
-    QTest::addColumn<QString>("page");
-    for (const QString &page : pages) {
-        QTest::newRow(qPrintable(page)) << page;
-    }
-}
-
-void TestShell::ctrlQQuitsFromEveryPage()
-{
-    QFETCH(QString, page);
-    QVERIFY(session->start({page}));
-    QVERIFY(session->key("ctrl+q"));
-    QVERIFY(session->exitsCleanly());
-}
-
-void TestShell::exitInTheFileMenuQuits()
-{
-    QVERIFY(session->start());
-    QVERIFY(session->clickMenu("File"));
-    QVERIFY(session->clickMenu("Exit"));
-    QVERIFY(session->exitsCleanly());
-}
-
-void TestShell::closingTheWindowQuits()
-{
-    QVERIFY(session->start());
-    session->closeMainWindow();
-    QVERIFY(session->exitsCleanly());
-}
-
-void TestShell::aClickOnATabShowsItsPage_data()
-{
-    QTest::addColumn<int>("dpi");
-    QTest::addColumn<QSize>("screen");
-    QTest::newRow("96 dpi") << 96 << QSize(1280, 1024);
-    QTest::newRow("192 dpi") << 192 << QSize(2560, 2048);
-}
-
-void TestShell::aClickOnATabShowsItsPage()
-{
-    QFETCH(int, dpi);
-    QFETCH(QSize, screen);
-    SessionOptions options;
-    options.dpi = dpi;
-    options.screen = screen;
-    session = std::make_unique<DesktopSession>(options);
-    QVERIFY(session->start());
-    for (const int page : {3, 1, 2, 0}) {
-        QVERIFY(session->clickTab(tabTexts[page]));
-        QVERIFY(session->waitFor([&] {
-            return currentTab() == page && session->widget(shownWidgets[page]).value("visible").toBool();
-        }));
-        QVERIFY(session->savePicture(QString("page%1-%2dpi").arg(page + 1).arg(dpi)));
-    }
-}
 
 QTEST_GUILESS_MAIN(TestShell)
 #include "test_shell.moc"

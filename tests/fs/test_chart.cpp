@@ -91,186 +91,171 @@ class TestChart : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void thePieKeepsAMarginAndIsLeftOfTheCentre_data();
-    void thePieKeepsAMarginAndIsLeftOfTheCentre();
-    void anglesAreTruncatedSeparately_data();
-    void anglesAreTruncatedSeparately();
-    void usedIsRedAndAvailableIsBlue();
-    void noValueShowsTheEmptyCircle_data();
-    void noValueShowsTheEmptyCircle();
-    void sharesAreDrawnFromThreeOClock_data();
-    void sharesAreDrawnFromThreeOClock();
-    void nothingIsDrawnOutsideThePie();
-    void smallWidgetsAreDrawnWithANegativeDiameter();
-    void everySizeAndValueIsDrawn();
-    void aNewValueIsPaintedAndStays();
-    void noSignalsSlotsOrPropertiesOfItsOwn();
-};
-
-void TestChart::thePieKeepsAMarginAndIsLeftOfTheCentre_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("x");
-    QTest::addColumn<int>("diameter");
-    QTest::newRow("240 x 200") << QSize(240, 200) << 30 << 160;
-    QTest::newRow("200 x 240") << QSize(200, 240) << 10 << 160;
-    QTest::newRow("241 x 200, truncated") << QSize(241, 200) << 30 << 160;
-    QTest::newRow("40 x 40") << QSize(40, 40) << 10 << 0;
-    QTest::newRow("39 x 200") << QSize(39, 200) << 10 << -1;
-    QTest::newRow("200 x 39") << QSize(200, 39) << 90 << -1;
-    QTest::newRow("20 x 20") << QSize(20, 20) << 10 << -20;
-    QTest::newRow("nothing") << QSize(0, 0) << 10 << -40;
-}
-
-void TestChart::thePieKeepsAMarginAndIsLeftOfTheCentre()
-{
-    QFETCH(QSize, size);
-    QTEST(chartGeometry(size).x, "x");
-    QTEST(chartGeometry(size).diameter, "diameter");
-}
-
-void TestChart::anglesAreTruncatedSeparately_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("usedSpan");
-    QTest::addColumn<int>("availSpan");
-    QTest::newRow("all available") << 100.0 << 0 << 5760;
-    QTest::newRow("full disk") << 0.0 << 5760 << 0;
-    QTest::newRow("a quarter") << 25.0 << 4320 << 1440;
-    QTest::newRow("one short of the circle") << 33.3 << 3841 << 1918;
-    QTest::newRow("toward zero below zero") << 100.01 << 0 << 5760;
-    QTest::newRow("more than all") << 150.0 << -2880 << 8640;
-    QTest::newRow("less than none") << -50.0 << 8640 << -2880;
-    QTest::newRow("more than an int holds") << 1e300 << lowestInt << highestInt;
-    QTest::newRow("less than an int holds") << -1e300 << highestInt << lowestInt;
-    QTest::newRow("the largest number") << largest << lowestInt << highestInt;
-}
-
-void TestChart::anglesAreTruncatedSeparately()
-{
-    QFETCH(double, value);
-    const ChartAngles angles = chartAngles(value);
-    QTEST(angles.usedSpan, "usedSpan");
-    QTEST(angles.availSpan, "availSpan");
-    QCOMPARE(angles.availStart, angles.usedSpan);
-}
-
-void TestChart::usedIsRedAndAvailableIsBlue()
-{
-    QCOMPARE(Chart::usedColor(), red);
-    QCOMPARE(Chart::availColor(), blue);
-}
-
-void TestChart::noValueShowsTheEmptyCircle_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::newRow("-1") << -1.0;
-    QTest::newRow("not a number") << notANumber;
-    QTest::newRow("negative not a number") << -notANumber;
-    QTest::newRow("infinite") << infinite;
-    QTest::newRow("negative infinite") << -infinite;
-}
-
-void TestChart::noValueShowsTheEmptyCircle()
-{
-    QFETCH(double, value);
-    Chart chart;
-    const QImage image = pictureOf(chart);
-    for (int degrees = 0; degrees < 360; degrees += 45) {
-        QCOMPARE(colorAt(image, degrees), paper);
+    void thePieKeepsAMarginAndIsLeftOfTheCentre_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<int>("x");
+        QTest::addColumn<int>("diameter");
+        QTest::newRow("240 x 200") << QSize(240, 200) << 30 << 160;
+        QTest::newRow("200 x 240") << QSize(200, 240) << 10 << 160;
+        QTest::newRow("241 x 200, truncated") << QSize(241, 200) << 30 << 160;
+        QTest::newRow("40 x 40") << QSize(40, 40) << 10 << 0;
+        QTest::newRow("39 x 200") << QSize(39, 200) << 10 << -1;
+        QTest::newRow("200 x 39") << QSize(200, 39) << 90 << -1;
+        QTest::newRow("20 x 20") << QSize(20, 20) << 10 << -20;
+        QTest::newRow("nothing") << QSize(0, 0) << 10 << -40;
     }
-    QVERIFY(outlineFillsTheSquare(image));
-    QCOMPARE(image.pixelColor(110, 20), paper);
-    chart.setValue(value);
-    QCOMPARE(pictureOf(chart), image);
-    QCOMPARE(accessibleTextOf(chart), QString("Disk usage: No file system selected"));
-}
 
-void TestChart::sharesAreDrawnFromThreeOClock_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("usedUpTo"); // degrees
-    QTest::addColumn<QString>("accessibleText");
-    QTest::newRow("full disk") << 0.0 << 360 << "Disk usage: 0% available";
-    QTest::newRow("a quarter available") << 25.0 << 270 << "Disk usage: 25% available";
-    QTest::newRow("half available") << 50.0 << 180 << "Disk usage: 50% available";
-    QTest::newRow("rounded") << 66.6 << 120 << "Disk usage: 67% available";
-    QTest::newRow("all available") << 100.0 << 0 << "Disk usage: 100% available";
-    QTest::newRow("less than none") << -1.5 << 360 << "Disk usage: -2% available";
-    QTest::newRow("nearly no value") << std::nextafter(-1.0, 0.0) << 360 << "Disk usage: -1% available";
-}
-
-void TestChart::sharesAreDrawnFromThreeOClock()
-{
-    QFETCH(double, value);
-    QFETCH(int, usedUpTo);
-    Chart chart;
-    QCOMPARE(accessibleTextOf(chart), QString("Disk usage: No file system selected"));
-    chart.setValue(value);
-    const QImage image = pictureOf(chart);
-    for (int degrees = 15; degrees < 360; degrees += 20) {
-        QCOMPARE(colorAt(image, degrees), degrees < usedUpTo ? red : blue);
+    void thePieKeepsAMarginAndIsLeftOfTheCentre()
+    {
+        QFETCH(QSize, size);
+        QTEST(chartGeometry(size).x, "x");
+        QTEST(chartGeometry(size).diameter, "diameter");
     }
-    QVERIFY(outlineFillsTheSquare(image));
-    QTEST(accessibleTextOf(chart), "accessibleText");
-}
 
-void TestChart::nothingIsDrawnOutsideThePie()
-{
-    const QImage image = picture(25.0);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (std::hypot(x + 0.5 - 110, y + 0.5 - 90) > 82) {
-                QCOMPARE(image.pixelColor(x, y), paper);
+    void anglesAreTruncatedSeparately_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("usedSpan");
+        QTest::addColumn<int>("availSpan");
+        QTest::newRow("all available") << 100.0 << 0 << 5760;
+        QTest::newRow("full disk") << 0.0 << 5760 << 0;
+        QTest::newRow("a quarter") << 25.0 << 4320 << 1440;
+        QTest::newRow("one short of the circle") << 33.3 << 3841 << 1918;
+        QTest::newRow("toward zero below zero") << 100.01 << 0 << 5760;
+        QTest::newRow("more than all") << 150.0 << -2880 << 8640;
+        QTest::newRow("less than none") << -50.0 << 8640 << -2880;
+        QTest::newRow("more than an int holds") << 1e300 << lowestInt << highestInt;
+        QTest::newRow("less than an int holds") << -1e300 << highestInt << lowestInt;
+        QTest::newRow("the largest number") << largest << lowestInt << highestInt;
+    }
+
+    void anglesAreTruncatedSeparately()
+    {
+        QFETCH(double, value);
+        const ChartAngles angles = chartAngles(value);
+        QTEST(angles.usedSpan, "usedSpan");
+        QTEST(angles.availSpan, "availSpan");
+        QCOMPARE(angles.availStart, angles.usedSpan);
+    }
+
+    void usedIsRedAndAvailableIsBlue()
+    {
+        QCOMPARE(Chart::usedColor(), red);
+        QCOMPARE(Chart::availColor(), blue);
+    }
+
+    void noValueShowsTheEmptyCircle_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::newRow("-1") << -1.0;
+        QTest::newRow("not a number") << notANumber;
+        QTest::newRow("negative not a number") << -notANumber;
+        QTest::newRow("infinite") << infinite;
+        QTest::newRow("negative infinite") << -infinite;
+    }
+
+    void noValueShowsTheEmptyCircle()
+    {
+        QFETCH(double, value);
+        Chart chart;
+        const QImage image = pictureOf(chart);
+        for (int degrees = 0; degrees < 360; degrees += 45) {
+            QCOMPARE(colorAt(image, degrees), paper);
+        }
+        QVERIFY(outlineFillsTheSquare(image));
+        QCOMPARE(image.pixelColor(110, 20), paper);
+        chart.setValue(value);
+        QCOMPARE(pictureOf(chart), image);
+        QCOMPARE(accessibleTextOf(chart), QString("Disk usage: No file system selected"));
+    }
+
+    void sharesAreDrawnFromThreeOClock_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("usedUpTo"); // degrees
+        QTest::addColumn<QString>("accessibleText");
+        QTest::newRow("full disk") << 0.0 << 360 << "Disk usage: 0% available";
+        QTest::newRow("a quarter available") << 25.0 << 270 << "Disk usage: 25% available";
+        QTest::newRow("half available") << 50.0 << 180 << "Disk usage: 50% available";
+        QTest::newRow("rounded") << 66.6 << 120 << "Disk usage: 67% available";
+        QTest::newRow("all available") << 100.0 << 0 << "Disk usage: 100% available";
+        QTest::newRow("less than none") << -1.5 << 360 << "Disk usage: -2% available";
+        QTest::newRow("nearly no value") << std::nextafter(-1.0, 0.0) << 360 << "Disk usage: -1% available";
+    }
+
+    void sharesAreDrawnFromThreeOClock()
+    {
+        QFETCH(double, value);
+        QFETCH(int, usedUpTo);
+        Chart chart;
+        QCOMPARE(accessibleTextOf(chart), QString("Disk usage: No file system selected"));
+        chart.setValue(value);
+        const QImage image = pictureOf(chart);
+        for (int degrees = 15; degrees < 360; degrees += 20) {
+            QCOMPARE(colorAt(image, degrees), degrees < usedUpTo ? red : blue);
+        }
+        QVERIFY(outlineFillsTheSquare(image));
+        QTEST(accessibleTextOf(chart), "accessibleText");
+    }
+
+    void nothingIsDrawnOutsideThePie()
+    {
+        const QImage image = picture(25.0);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (std::hypot(x + 0.5 - 110, y + 0.5 - 90) > 82) {
+                    QCOMPARE(image.pixelColor(x, y), paper);
+                }
             }
         }
     }
-}
 
-void TestChart::smallWidgetsAreDrawnWithANegativeDiameter()
-{
-    // The square (10, 10, -20, -20) extends from (-10, -10) to (10, 10).
-    const QImage full = picture(0.0, QSize(20, 20));
-    QCOMPARE(full.pixelColor(3, 3), red);
-    QCOMPARE(full.pixelColor(15, 15), paper);
-    QCOMPARE(picture(100.0, QSize(20, 20)).pixelColor(3, 3), blue);
-    QCOMPARE(picture(notANumber, QSize(20, 20)).pixelColor(3, 3), paper);
-}
+    void smallWidgetsAreDrawnWithANegativeDiameter()
+    {
+        // The square (10, 10, -20, -20) extends from (-10, -10) to (10, 10).
+        const QImage full = picture(0.0, QSize(20, 20));
+        QCOMPARE(full.pixelColor(3, 3), red);
+        QCOMPARE(full.pixelColor(15, 15), paper);
+        QCOMPARE(picture(100.0, QSize(20, 20)).pixelColor(3, 3), blue);
+        QCOMPARE(picture(notANumber, QSize(20, 20)).pixelColor(3, 3), paper);
+    }
 
-void TestChart::everySizeAndValueIsDrawn()
-{
-    for (const QSize size : {QSize(1, 1), QSize(39, 39), QSize(40, 40), QSize(41, 41), QSize(1, 500)}) {
-        for (const double value :
-             {-1.0, 0.0, 25.0, 100.0, 150.0, -50.0, 1e300, -1e300, largest, notANumber}) {
-            QCOMPARE(picture(value, size).size(), size);
+    void everySizeAndValueIsDrawn()
+    {
+        for (const QSize size : {QSize(1, 1), QSize(39, 39), QSize(40, 40), QSize(41, 41), QSize(1, 500)}) {
+            for (const double value :
+                 {-1.0, 0.0, 25.0, 100.0, 150.0, -50.0, 1e300, -1e300, largest, notANumber}) {
+                QCOMPARE(picture(value, size).size(), size);
+            }
         }
     }
-}
 
-void TestChart::aNewValueIsPaintedAndStays()
-{
-    CountingChart chart;
-    chart.resize(usual);
-    chart.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&chart));
-    QTRY_VERIFY(chart.paints > 0);
-    const int before = chart.paints;
-    chart.setValue(0.0);
-    QTRY_VERIFY(chart.paints > before);
-    for (int repaint = 0; repaint < 3; ++repaint) {
-        QCOMPARE(colorAt(chart.grab().toImage(), 45), red);
+    void aNewValueIsPaintedAndStays()
+    {
+        CountingChart chart;
+        chart.resize(usual);
+        chart.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&chart));
+        QTRY_VERIFY(chart.paints > 0);
+        const int before = chart.paints;
+        chart.setValue(0.0);
+        QTRY_VERIFY(chart.paints > before);
+        for (int repaint = 0; repaint < 3; ++repaint) {
+            QCOMPARE(colorAt(chart.grab().toImage(), 45), red);
+        }
+        chart.setValue(100.0);
+        QCOMPARE(colorAt(chart.grab().toImage(), 45), blue);
     }
-    chart.setValue(100.0);
-    QCOMPARE(colorAt(chart.grab().toImage(), 45), blue);
-}
 
-void TestChart::noSignalsSlotsOrPropertiesOfItsOwn()
-{
-    const QMetaObject &meta = Chart::staticMetaObject;
-    QCOMPARE(meta.className(), "Chart");
-    QCOMPARE(meta.methodCount(), QWidget::staticMetaObject.methodCount());
-    QCOMPARE(meta.propertyCount(), QWidget::staticMetaObject.propertyCount());
-}
+    void noSignalsSlotsOrPropertiesOfItsOwn()
+    {
+        const QMetaObject &meta = Chart::staticMetaObject;
+        QCOMPARE(meta.className(), "Chart");
+        QCOMPARE(meta.methodCount(), QWidget::staticMetaObject.methodCount());
+        QCOMPARE(meta.propertyCount(), QWidget::staticMetaObject.propertyCount());
+    }
+};
 
 QTEST_MAIN(TestChart)
 #include "test_chart.moc"

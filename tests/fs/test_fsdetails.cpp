@@ -27,42 +27,40 @@ class TestFsDetails : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void detailsComeFromTheRecord_data();
-    void detailsComeFromTheRecord();
+    void detailsComeFromTheRecord_data()
+    {
+        QTest::addColumn<FSInfo>("info");
+        QTest::addColumn<double>("percentAvailable");
+        QTest::addColumn<QString>("texts"); // device, type; total, used and available size
+        const auto row = [](const char *name, const FSInfo &info, double percentAvailable,
+                            const char *texts) { QTest::newRow(name) << info << percentAvailable << texts; };
+        row("names", mount("/dev/sda1", "/home"), 30.0, "/dev/sda1, ext4; 3.91 MB, 2.73 MB, 1.17 MB");
+        row("the reserve counts as used", blocks(1024, 1000, 256, 1024), 25.0,
+            ", ; 1.00 MB, 768.00 KB, 256.00 KB");
+        row("a fraction of a percent", blocks(3, 0, 1, 1), 100.0 / 3.0, ", ; 3.00 B, 2.00 B, 1.00 B");
+        row("all available", blocks(3, 0, 3, 1), 100.0, ", ; 3.00 B, 0.00 B, 3.00 B");
+        row("none available", blocks(3, 0, 0, 1), 0.0, ", ; 3.00 B, 3.00 B, 0.00 B");
+        row("an empty record", FSInfo(), notANumber, ", ; 0.00 B, 0.00 B, 0.00 B");
+        row("available blocks without any blocks", blocks(0, 0, 5, 0), notANumber,
+            ", ; 0.00 B, 0.00 B, 0.00 B");
+        row("wrapped counts stay signed", blocks(-2, 0, 1, 4096), -50.0,
+            ", ; -8192.00 B, -12288.00 B, 4.00 KB");
+        row("the difference wraps to positive", blocks(lowest, 0, 1, 1), 100.0 / lowest,
+            ", ; -2147483648.00 B, 2.00 GB, 1.00 B");
+        row("the difference wraps to negative", blocks(highest, 0, -1, 1), -100.0 / highest,
+            ", ; 2.00 GB, -2147483648.00 B, -1.00 B");
+    }
+
+    void detailsComeFromTheRecord()
+    {
+        QFETCH(FSInfo, info);
+        const FsDetails details = fsDetails(info);
+        const QString names = QStringList{details.device, details.type}.join(", ");
+        const QString sizes = QStringList{details.total, details.used, details.avail}.join(", ");
+        QTEST(details.percentAvailable, "percentAvailable");
+        QTEST(names + "; " + sizes, "texts");
+    }
 };
-
-void TestFsDetails::detailsComeFromTheRecord_data()
-{
-    QTest::addColumn<FSInfo>("info");
-    QTest::addColumn<double>("percentAvailable");
-    QTest::addColumn<QString>("texts"); // device, type; total, used and available size
-    const auto row = [](const char *name, const FSInfo &info, double percentAvailable, const char *texts) {
-        QTest::newRow(name) << info << percentAvailable << texts;
-    };
-    row("names", mount("/dev/sda1", "/home"), 30.0, "/dev/sda1, ext4; 3.91 MB, 2.73 MB, 1.17 MB");
-    row("the reserve counts as used", blocks(1024, 1000, 256, 1024), 25.0,
-        ", ; 1.00 MB, 768.00 KB, 256.00 KB");
-    row("a fraction of a percent", blocks(3, 0, 1, 1), 100.0 / 3.0, ", ; 3.00 B, 2.00 B, 1.00 B");
-    row("all available", blocks(3, 0, 3, 1), 100.0, ", ; 3.00 B, 0.00 B, 3.00 B");
-    row("none available", blocks(3, 0, 0, 1), 0.0, ", ; 3.00 B, 3.00 B, 0.00 B");
-    row("an empty record", FSInfo(), notANumber, ", ; 0.00 B, 0.00 B, 0.00 B");
-    row("available blocks without any blocks", blocks(0, 0, 5, 0), notANumber, ", ; 0.00 B, 0.00 B, 0.00 B");
-    row("wrapped counts stay signed", blocks(-2, 0, 1, 4096), -50.0, ", ; -8192.00 B, -12288.00 B, 4.00 KB");
-    row("the difference wraps to positive", blocks(lowest, 0, 1, 1), 100.0 / lowest,
-        ", ; -2147483648.00 B, 2.00 GB, 1.00 B");
-    row("the difference wraps to negative", blocks(highest, 0, -1, 1), -100.0 / highest,
-        ", ; 2.00 GB, -2147483648.00 B, -1.00 B");
-}
-
-void TestFsDetails::detailsComeFromTheRecord()
-{
-    QFETCH(FSInfo, info);
-    const FsDetails details = fsDetails(info);
-    const QString names = QStringList{details.device, details.type}.join(", ");
-    const QString sizes = QStringList{details.total, details.used, details.avail}.join(", ");
-    QTEST(details.percentAvailable, "percentAvailable");
-    QTEST(names + "; " + sizes, "texts");
-}
 
 QTEST_APPLESS_MAIN(TestFsDetails)
 #include "test_fsdetails.moc"

@@ -44,49 +44,45 @@ class TestFsIcons : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void theIconFollowsTypeAndTheme_data();
-    void theIconFollowsTypeAndTheme();
+    void initTestCase()
+    {
+        QVERIFY(themes.isValid());
+        QVERIFY(writeTheme(themes.path()));
+        QIcon::setThemeSearchPaths({themes.path()});
+        QIcon::setFallbackSearchPaths({});
+    }
+
+    void theIconFollowsTypeAndTheme_data()
+    {
+        QTest::addColumn<bool>("optical");
+        for (const char *type : {"iso9660", "iso", "isofs", "udf"}) {
+            QTest::newRow(type) << true;
+        }
+        for (const char *type : {"ISO9660", "Iso", "is", "aiso", "UDF", "udf2", "ext4", ""}) {
+            QTest::newRow(*type ? type : "no type") << false;
+        }
+    }
+
+    void theIconFollowsTypeAndTheme()
+    {
+        QFETCH(bool, optical);
+        const QString tag = QLatin1String(QTest::currentDataTag());
+        const QString type = tag == QLatin1String("no type") ? QString() : tag;
+        FSModel model;
+        model.update({mount(QStringLiteral("/dev/sr0"), QStringLiteral("/media"), type)});
+        const auto color = [&model] { return colorOf(model.index(0, 0).data(Qt::DecorationRole)); };
+        for (int change = 0; change < 2; ++change) {
+            QIcon::setThemeName(QStringLiteral("colors"));
+            QCOMPARE(color(), optical ? themeOptical : themeDisk);
+            QIcon::setThemeName(QStringLiteral("no such theme"));
+            QCOMPARE(color(), optical ? ownCd : ownHard);
+        }
+        QVERIFY(!model.index(0, 1).data(Qt::DecorationRole).isValid());
+    }
 
 private:
     QTemporaryDir themes;
 };
-
-void TestFsIcons::initTestCase()
-{
-    QVERIFY(themes.isValid());
-    QVERIFY(writeTheme(themes.path()));
-    QIcon::setThemeSearchPaths({themes.path()});
-    QIcon::setFallbackSearchPaths({});
-}
-
-void TestFsIcons::theIconFollowsTypeAndTheme_data()
-{
-    QTest::addColumn<bool>("optical");
-    for (const char *type : {"iso9660", "iso", "isofs", "udf"}) {
-        QTest::newRow(type) << true;
-    }
-    for (const char *type : {"ISO9660", "Iso", "is", "aiso", "UDF", "udf2", "ext4", ""}) {
-        QTest::newRow(*type ? type : "no type") << false;
-    }
-}
-
-void TestFsIcons::theIconFollowsTypeAndTheme()
-{
-    QFETCH(bool, optical);
-    const QString tag = QLatin1String(QTest::currentDataTag());
-    const QString type = tag == QLatin1String("no type") ? QString() : tag;
-    FSModel model;
-    model.update({mount(QStringLiteral("/dev/sr0"), QStringLiteral("/media"), type)});
-    const auto color = [&model] { return colorOf(model.index(0, 0).data(Qt::DecorationRole)); };
-    for (int change = 0; change < 2; ++change) {
-        QIcon::setThemeName(QStringLiteral("colors"));
-        QCOMPARE(color(), optical ? themeOptical : themeDisk);
-        QIcon::setThemeName(QStringLiteral("no such theme"));
-        QCOMPARE(color(), optical ? ownCd : ownHard);
-    }
-    QVERIFY(!model.index(0, 1).data(Qt::DecorationRole).isValid());
-}
 
 QTEST_MAIN(TestFsIcons)
 #include "test_fsicons.moc"

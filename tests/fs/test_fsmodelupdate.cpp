@@ -130,123 +130,116 @@ class TestFSModelUpdate : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void rowsFollowTheMounts_data();
-    void rowsFollowTheMounts();
-    void aKnownDeviceIsUpdatedInItsRow();
-    void aDeviceMountedTwiceShowsTheLaterMount();
-    void randomRefreshesAgreeWithThePlainOnes();
-    void tenThousandMountsComeAndGo();
+    void rowsFollowTheMounts_data()
+    {
+        QTest::addColumn<QByteArray>("before");
+        QTest::addColumn<Refreshes>("refreshes");
+        QTest::addColumn<bool>("keepsProtocol");
+        const auto row = [](const char *title, const char *before, const Refreshes &refreshes,
+                            bool keepsProtocol = false) {
+            QTest::newRow(title) << QByteArray(before) << refreshes << keepsProtocol;
+        };
+        row("an empty list on an empty model", "", {{"", "", ""}});
+        row("new mounts are appended in list order", "", {{"cab", "cab", "+0 +1 +2"}}, true);
+        row("known devices are updated in their rows", "abc", {{"cab", "abc", "~2 ~0 ~1"}});
+        row("a device mounted twice has one row", "",
+            {{"aa>z", "a>z", "+0 ~0"}, {"aa>z", "a>z", "~0 ~0"}, {"aa>z", "a>z", "~0 ~0"}});
+        row("a device that moves keeps its row", "ab", {{"a>zb", "a>zb", "~0 ~1"}});
+        row("a row stays while another device is on its mount point", "a",
+            {{"n>a", "an>a", "+1"}, {"n>a", "an>a", "~1"}});
+        row("mounts are replaced", "a",
+            {{"b", "b", "+1 -0"}, {"cd", "cd", "+1 +2 -0"}, {"", "d", "-0"}, {"", "", "-0"}}, true);
+        row("none is removed", "abc", {{"abc", "abc", "~0 ~1 ~2"}});
+        row("the only one is removed", "a", {{"", "", "-0"}});
+        row("the first is removed", "abc", {{"bc", "bc", "~1 ~2 -0"}});
+        row("the middle one is removed", "abc", {{"ac", "ac", "~0 ~2 -1"}});
+        row("the last is removed", "abc", {{"ab", "ab", "~0 ~1 -2"}});
+        row("first and third of three are removed", "abc", {{"b", "b", "~1 -0 -0"}});
+        row("of two adjacent the second is skipped until the next refresh", "abcd",
+            {{"ad", "acd", "~0 ~3 -1"}, {"ad", "ad", "~0 ~2 -1"}});
+        row("of the last two the second is skipped", "abc", {{"a", "ac", "~0 -1"}});
+        row("the row after a gap isn't counted", "abcde", {{"bde", "bde", "~1 ~3 ~4 -0 -0"}});
+        row("each earlier removal lowers the number", "abcdefg", {{"bdf", "bdf", "~1 ~3 ~5 -0 -0 -0 -0"}});
+        row("counting continues after a gap", "abcdef", {{"abde", "abde", "~0 ~1 ~3 ~4 -2 -3"}});
+        row("six are removed in three refreshes", "abcdef",
+            {{"", "bdf", "-0 -0 -0"}, {"", "d", "-0 -0"}, {"", "", "-0"}, {"", "", ""}});
+        row("a new one counts at the end", "ab", {{"x", "bx", "+2 -0"}});
+    }
+
+    void rowsFollowTheMounts()
+    {
+        using Tester = QAbstractItemModelTester;
+        QFETCH(QByteArray, before);
+        QFETCH(Refreshes, refreshes);
+        QFETCH(bool, keepsProtocol);
+        OpenModel model;
+        std::unique_ptr<Tester> tester;
+        if (keepsProtocol) {
+            tester = std::make_unique<Tester>(&model, Tester::FailureReportingMode::QtTest);
+        }
+        model.update(mounts(before));
+        Announcements announcements(model);
+        for (const Refresh &refresh : qAsConst(refreshes)) {
+            model.update(mounts(refresh.mounted));
+            QCOMPARE(model.rowTexts(), QString(refresh.rows));
+            QCOMPARE(announcements.take(), QString(refresh.announced));
+        }
+    }
+
+    void aKnownDeviceIsUpdatedInItsRow()
+    {
+        FSModel model;
+        model.update(mounts("abc"));
+        std::list<FSInfo> list = mounts("cba");
+        list.front().availBlocks = 1;
+        list.front().type = QStringLiteral("xfs");
+        model.update(list);
+        QCOMPARE(shownDirs(model), QString("/a /b /c"));
+        QCOMPARE(model.index(2, 1).data().toString(), QString("xfs"));
+        QCOMPARE(model.itemByMountDir("/c").availBlocks, 1);
+    }
+
+    void aDeviceMountedTwiceShowsTheLaterMount()
+    {
+        std::list<FSInfo> list = mounts("aa>z");
+        list.back().availBlocks = 7;
+        FSModel model;
+        for (int refresh = 0; refresh < 3; ++refresh) {
+            model.update(list);
+            QCOMPARE(shownDirs(model), QString("/z"));
+            QCOMPARE(model.itemByMountDir("/z").availBlocks, 7);
+            QVERIFY(model.itemByMountDir("/a").device.isEmpty());
+        }
+    }
+
+    void randomRefreshesAgreeWithThePlainOnes()
+    {
+        OpenModel model;
+        PlainRefresh plain;
+        Announcements announcements(model);
+        std::mt19937 random(20260101); // a fixed seed: the same refreshes in every run
+        for (int refresh = 0; refresh < 2000; ++refresh) {
+            const std::list<FSInfo> list = randomMounts(random, 12, 14);
+            model.update(list);
+            plain.update(list);
+            QCOMPARE(model.rowTexts(), plain.rowTexts());
+            QCOMPARE(announcements.take(), std::exchange(plain.announced, {}).join(' '));
+        }
+    }
+
+    void tenThousandMountsComeAndGo()
+    {
+        FSModel model;
+        const std::list<FSInfo> list = manyMounts(10000);
+        model.update(list);
+        model.update(list);
+        QCOMPARE(model.rowCount(), 10000);
+        QCOMPARE(model.totalDevSpace(), qint64{10000} * 1000 * 4096);
+        model.update({});
+        QCOMPARE(model.rowCount(), 5000);
+        QCOMPARE(model.index(4999, 0).data().toString(), QStringLiteral("/mnt/9999"));
+    }
 };
-
-void TestFSModelUpdate::rowsFollowTheMounts_data()
-{
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<Refreshes>("refreshes");
-    QTest::addColumn<bool>("keepsProtocol");
-    const auto row = [](const char *title, const char *before, const Refreshes &refreshes,
-                        bool keepsProtocol = false) {
-        QTest::newRow(title) << QByteArray(before) << refreshes << keepsProtocol;
-    };
-    row("an empty list on an empty model", "", {{"", "", ""}});
-    row("new mounts are appended in list order", "", {{"cab", "cab", "+0 +1 +2"}}, true);
-    row("known devices are updated in their rows", "abc", {{"cab", "abc", "~2 ~0 ~1"}});
-    row("a device mounted twice has one row", "",
-        {{"aa>z", "a>z", "+0 ~0"}, {"aa>z", "a>z", "~0 ~0"}, {"aa>z", "a>z", "~0 ~0"}});
-    row("a device that moves keeps its row", "ab", {{"a>zb", "a>zb", "~0 ~1"}});
-    row("a row stays while another device is on its mount point", "a",
-        {{"n>a", "an>a", "+1"}, {"n>a", "an>a", "~1"}});
-    row("mounts are replaced", "a",
-        {{"b", "b", "+1 -0"}, {"cd", "cd", "+1 +2 -0"}, {"", "d", "-0"}, {"", "", "-0"}}, true);
-    row("none is removed", "abc", {{"abc", "abc", "~0 ~1 ~2"}});
-    row("the only one is removed", "a", {{"", "", "-0"}});
-    row("the first is removed", "abc", {{"bc", "bc", "~1 ~2 -0"}});
-    row("the middle one is removed", "abc", {{"ac", "ac", "~0 ~2 -1"}});
-    row("the last is removed", "abc", {{"ab", "ab", "~0 ~1 -2"}});
-    row("first and third of three are removed", "abc", {{"b", "b", "~1 -0 -0"}});
-    row("of two adjacent the second is skipped until the next refresh", "abcd",
-        {{"ad", "acd", "~0 ~3 -1"}, {"ad", "ad", "~0 ~2 -1"}});
-    row("of the last two the second is skipped", "abc", {{"a", "ac", "~0 -1"}});
-    row("the row after a gap isn't counted", "abcde", {{"bde", "bde", "~1 ~3 ~4 -0 -0"}});
-    row("each earlier removal lowers the number", "abcdefg", {{"bdf", "bdf", "~1 ~3 ~5 -0 -0 -0 -0"}});
-    row("counting continues after a gap", "abcdef", {{"abde", "abde", "~0 ~1 ~3 ~4 -2 -3"}});
-    row("six are removed in three refreshes", "abcdef",
-        {{"", "bdf", "-0 -0 -0"}, {"", "d", "-0 -0"}, {"", "", "-0"}, {"", "", ""}});
-    row("a new one counts at the end", "ab", {{"x", "bx", "+2 -0"}});
-}
-
-void TestFSModelUpdate::rowsFollowTheMounts()
-{
-    using Tester = QAbstractItemModelTester;
-    QFETCH(QByteArray, before);
-    QFETCH(Refreshes, refreshes);
-    QFETCH(bool, keepsProtocol);
-    OpenModel model;
-    std::unique_ptr<Tester> tester;
-    if (keepsProtocol) {
-        tester = std::make_unique<Tester>(&model, Tester::FailureReportingMode::QtTest);
-    }
-    model.update(mounts(before));
-    Announcements announcements(model);
-    for (const Refresh &refresh : qAsConst(refreshes)) {
-        model.update(mounts(refresh.mounted));
-        QCOMPARE(model.rowTexts(), QString(refresh.rows));
-        QCOMPARE(announcements.take(), QString(refresh.announced));
-    }
-}
-
-void TestFSModelUpdate::aKnownDeviceIsUpdatedInItsRow()
-{
-    FSModel model;
-    model.update(mounts("abc"));
-    std::list<FSInfo> list = mounts("cba");
-    list.front().availBlocks = 1;
-    list.front().type = QStringLiteral("xfs");
-    model.update(list);
-    QCOMPARE(shownDirs(model), QString("/a /b /c"));
-    QCOMPARE(model.index(2, 1).data().toString(), QString("xfs"));
-    QCOMPARE(model.itemByMountDir("/c").availBlocks, 1);
-}
-
-void TestFSModelUpdate::aDeviceMountedTwiceShowsTheLaterMount()
-{
-    std::list<FSInfo> list = mounts("aa>z");
-    list.back().availBlocks = 7;
-    FSModel model;
-    for (int refresh = 0; refresh < 3; ++refresh) {
-        model.update(list);
-        QCOMPARE(shownDirs(model), QString("/z"));
-        QCOMPARE(model.itemByMountDir("/z").availBlocks, 7);
-        QVERIFY(model.itemByMountDir("/a").device.isEmpty());
-    }
-}
-
-void TestFSModelUpdate::randomRefreshesAgreeWithThePlainOnes()
-{
-    OpenModel model;
-    PlainRefresh plain;
-    Announcements announcements(model);
-    std::mt19937 random(20260101); // a fixed seed: the same refreshes in every run
-    for (int refresh = 0; refresh < 2000; ++refresh) {
-        const std::list<FSInfo> list = randomMounts(random, 12, 14);
-        model.update(list);
-        plain.update(list);
-        QCOMPARE(model.rowTexts(), plain.rowTexts());
-        QCOMPARE(announcements.take(), std::exchange(plain.announced, {}).join(' '));
-    }
-}
-
-void TestFSModelUpdate::tenThousandMountsComeAndGo()
-{
-    FSModel model;
-    const std::list<FSInfo> list = manyMounts(10000);
-    model.update(list);
-    model.update(list);
-    QCOMPARE(model.rowCount(), 10000);
-    QCOMPARE(model.totalDevSpace(), qint64{10000} * 1000 * 4096);
-    model.update({});
-    QCOMPARE(model.rowCount(), 5000);
-    QCOMPARE(model.index(4999, 0).data().toString(), QStringLiteral("/mnt/9999"));
-}
 
 QTEST_MAIN(TestFSModelUpdate)
 #include "test_fsmodelupdate.moc"

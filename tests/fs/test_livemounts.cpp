@@ -27,35 +27,32 @@ class TestLiveMounts : public QObject
 private Q_SLOTS:
     void initTestCase() { glibtop_init(); }
     void cleanupTestCase() { glibtop_close(); }
-    void everyMountOfThisMachineHasAMountPointAndBlocks();
-    void libgtopDoesNotRescanTheMountTablePerMount();
+    void everyMountOfThisMachineHasAMountPointAndBlocks()
+    {
+        const std::list<FSInfo> mounts = collectMountList();
+        if (mounts.empty()) {
+            QSKIP("no file system with blocks is mounted here");
+        }
+        for (const FSInfo &info : mounts) {
+            QVERIFY(info.mountDir.startsWith(QLatin1Char('/')));
+            QVERIFY(info.type != QLatin1String("tmpfs"));
+            QVERIFY(info.blocks != 0);
+            QVERIFY(info.blockSize != 0);
+        }
+    }
+
+    void libgtopDoesNotRescanTheMountTablePerMount()
+    {
+        const unsigned long kernel = glibtop_global_server->os_version_code;
+        QVERIFY(kernel != 0);
+        collectMountList();
+        if (kernelWhileUsageIsRead == 1) {
+            QSKIP("nothing is mounted here");
+        }
+        QCOMPARE(kernelWhileUsageIsRead, 0UL);
+        QCOMPARE(glibtop_global_server->os_version_code, kernel);
+    }
 };
-
-void TestLiveMounts::everyMountOfThisMachineHasAMountPointAndBlocks()
-{
-    const std::list<FSInfo> mounts = collectMountList();
-    if (mounts.empty()) {
-        QSKIP("no file system with blocks is mounted here");
-    }
-    for (const FSInfo &info : mounts) {
-        QVERIFY(info.mountDir.startsWith(QLatin1Char('/')));
-        QVERIFY(info.type != QLatin1String("tmpfs"));
-        QVERIFY(info.blocks != 0);
-        QVERIFY(info.blockSize != 0);
-    }
-}
-
-void TestLiveMounts::libgtopDoesNotRescanTheMountTablePerMount()
-{
-    const unsigned long kernel = glibtop_global_server->os_version_code;
-    QVERIFY(kernel != 0);
-    collectMountList();
-    if (kernelWhileUsageIsRead == 1) {
-        QSKIP("nothing is mounted here");
-    }
-    QCOMPARE(kernelWhileUsageIsRead, 0UL);
-    QCOMPARE(glibtop_global_server->os_version_code, kernel);
-}
 
 QTEST_APPLESS_MAIN(TestLiveMounts)
 #include "test_livemounts.moc"

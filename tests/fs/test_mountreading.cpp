@@ -68,86 +68,77 @@ class TestMountReading : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void allFileSystemsAreQueried();
-    void aMissingMountListGivesAnEmptyList();
-    void countsComeFromTheUsageOfTheMountPoint();
-    void usageIsQueriedInOrderByTheBytesOfTheMountPoint();
-    void aVanishedMountIsDropped();
-    void namesThatFillTheirArrayWithoutNulAreReadInFull();
-    void nothingIsKeptBetweenReadings();
+    void init()
+    {
+        machine = Machine();
+        machine.usage.blocks = 10;
+        machine.usage.bfree = 9;
+        machine.usage.bavail = 8;
+        machine.usage.files = 7;
+        machine.usage.ffree = 6;
+        machine.usage.block_size = 512;
+    }
+
+    void allFileSystemsAreQueried()
+    {
+        QVERIFY(collectMountList().empty());
+        QCOMPARE(machine.askedForAll, std::vector<int>{1});
+    }
+
+    void aMissingMountListGivesAnEmptyList()
+    {
+        machine.mounts = {mountEntry("/dev/sda1", "/", "ext4")};
+        machine.hasList = false;
+        QVERIFY(collectMountList().empty());
+        QVERIFY(machine.askedForUsage.empty());
+    }
+
+    void countsComeFromTheUsageOfTheMountPoint()
+    {
+        machine.mounts = {mountEntry("/dev/sda1", "/", "ext4")};
+        const std::list<FSInfo> mounts = collectMountList();
+        QCOMPARE(mounts.size(), std::size_t{1});
+        QCOMPARE(namesOf(mounts.front()), QString("/dev/sda1, /, ext4"));
+        QCOMPARE(countsOf(mounts.front()), (QVector<qint32>{10, 9, 8, 7, 512}));
+    }
+
+    void usageIsQueriedInOrderByTheBytesOfTheMountPoint()
+    {
+        machine.mounts = {mountEntry("a", "/b\xff", "ext4"), mountEntry("b", "/a", "tmpfs"),
+                          mountEntry("c", "/c\xc3\xa9", "xfs")};
+        QCOMPARE(collectMountList().size(), std::size_t{2});
+        QCOMPARE(machine.askedForUsage, (std::vector<std::string>{"/b\xff", "/a", "/c\xc3\xa9"}));
+    }
+
+    void aVanishedMountIsDropped()
+    {
+        machine.mounts = {mountEntry("/dev/sdb1", "/gone", "vfat")};
+        machine.usage = glibtop_fsusage{};
+        QVERIFY(collectMountList().empty());
+    }
+
+    void namesThatFillTheirArrayWithoutNulAreReadInFull()
+    {
+        constexpr std::size_t full = GLIBTOP_MOUNTENTRY_LEN + 1;
+        machine.mounts = {
+            mountEntry(std::string(full, 'd'), std::string(full, 'm'), std::string(full, 't')),
+        };
+        const std::list<FSInfo> mounts = collectMountList();
+        QCOMPARE(mounts.size(), std::size_t{1});
+        QCOMPARE(mounts.front().device, QString(int{full}, QLatin1Char('d')));
+        QCOMPARE(mounts.front().mountDir, QString(int{full}, QLatin1Char('m')));
+        QCOMPARE(mounts.front().type, QString(int{full}, QLatin1Char('t')));
+        QCOMPARE(machine.askedForUsage, std::vector<std::string>{std::string(full, 'm')});
+    }
+
+    void nothingIsKeptBetweenReadings()
+    {
+        machine.mounts.assign(500, mountEntry("/dev/sda1", "/", "ext4"));
+        QCOMPARE(collectMountList().size(), std::size_t{500});
+        machine.mounts.resize(1);
+        QCOMPARE(collectMountList().size(), std::size_t{1});
+    }
 };
-
-void TestMountReading::init()
-{
-    machine = Machine();
-    machine.usage.blocks = 10;
-    machine.usage.bfree = 9;
-    machine.usage.bavail = 8;
-    machine.usage.files = 7;
-    machine.usage.ffree = 6;
-    machine.usage.block_size = 512;
-}
-
-void TestMountReading::allFileSystemsAreQueried()
-{
-    QVERIFY(collectMountList().empty());
-    QCOMPARE(machine.askedForAll, std::vector<int>{1});
-}
-
-void TestMountReading::aMissingMountListGivesAnEmptyList()
-{
-    machine.mounts = {mountEntry("/dev/sda1", "/", "ext4")};
-    machine.hasList = false;
-    QVERIFY(collectMountList().empty());
-    QVERIFY(machine.askedForUsage.empty());
-}
-
-void TestMountReading::countsComeFromTheUsageOfTheMountPoint()
-{
-    machine.mounts = {mountEntry("/dev/sda1", "/", "ext4")};
-    const std::list<FSInfo> mounts = collectMountList();
-    QCOMPARE(mounts.size(), std::size_t{1});
-    QCOMPARE(namesOf(mounts.front()), QString("/dev/sda1, /, ext4"));
-    QCOMPARE(countsOf(mounts.front()), (QVector<qint32>{10, 9, 8, 7, 512}));
-}
-
-void TestMountReading::usageIsQueriedInOrderByTheBytesOfTheMountPoint()
-{
-    machine.mounts = {mountEntry("a", "/b\xff", "ext4"), mountEntry("b", "/a", "tmpfs"),
-                      mountEntry("c", "/c\xc3\xa9", "xfs")};
-    QCOMPARE(collectMountList().size(), std::size_t{2});
-    QCOMPARE(machine.askedForUsage, (std::vector<std::string>{"/b\xff", "/a", "/c\xc3\xa9"}));
-}
-
-void TestMountReading::aVanishedMountIsDropped()
-{
-    machine.mounts = {mountEntry("/dev/sdb1", "/gone", "vfat")};
-    machine.usage = glibtop_fsusage{};
-    QVERIFY(collectMountList().empty());
-}
-
-void TestMountReading::namesThatFillTheirArrayWithoutNulAreReadInFull()
-{
-    constexpr std::size_t full = GLIBTOP_MOUNTENTRY_LEN + 1;
-    machine.mounts = {
-        mountEntry(std::string(full, 'd'), std::string(full, 'm'), std::string(full, 't')),
-    };
-    const std::list<FSInfo> mounts = collectMountList();
-    QCOMPARE(mounts.size(), std::size_t{1});
-    QCOMPARE(mounts.front().device, QString(int{full}, QLatin1Char('d')));
-    QCOMPARE(mounts.front().mountDir, QString(int{full}, QLatin1Char('m')));
-    QCOMPARE(mounts.front().type, QString(int{full}, QLatin1Char('t')));
-    QCOMPARE(machine.askedForUsage, std::vector<std::string>{std::string(full, 'm')});
-}
-
-void TestMountReading::nothingIsKeptBetweenReadings()
-{
-    machine.mounts.assign(500, mountEntry("/dev/sda1", "/", "ext4"));
-    QCOMPARE(collectMountList().size(), std::size_t{500});
-    machine.mounts.resize(1);
-    QCOMPARE(collectMountList().size(), std::size_t{1});
-}
 
 QTEST_APPLESS_MAIN(TestMountReading)
 #include "test_mountreading.moc"

@@ -28,59 +28,54 @@ class TestImages : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Q_INIT_RESOURCE(images); }
-    void picturesAreTransparentAndShowOnLightAndDark_data();
-    void picturesAreTransparentAndShowOnLightAndDark();
-    void iconsDiffer();
-    void allPicturesTogetherStaySmall();
+    void picturesAreTransparentAndShowOnLightAndDark_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("side");
+        QTest::newRow("logo") << QStringLiteral(":/images/diobin_logo.png") << 168;
+        QTest::newRow("exit") << QStringLiteral(":/images/exit") << 64;
+        QTest::newRow("pause") << QStringLiteral(":/images/pause") << 64;
+        QTest::newRow("continue") << QStringLiteral(":/images/continue") << 64;
+        QTest::newRow("hard disk") << QStringLiteral(":/images/hard") << 64;
+        QTest::newRow("optical disc") << QStringLiteral(":/images/cd") << 64;
+    }
+
+    void picturesAreTransparentAndShowOnLightAndDark()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, side);
+        const QImage picture(name);
+        QCOMPARE(picture.size(), QSize(side, side));
+        QVERIFY(picture.hasAlphaChannel());
+        QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
+        QVERIFY(picture.pixelColor(side / 2, side / 4).alpha() > 0);
+        QVERIFY(!QIcon(name).pixmap(16, 16).isNull());
+        for (int grey : {0xff, 0x80, 0x20}) {
+            QVERIFY2(visibleOn(picture, grey) > 0.15, qPrintable(QString::number(grey)));
+        }
+    }
+
+    void iconsDiffer()
+    {
+        QVector<QImage> seen;
+        for (const char *name : {"exit", "pause", "continue", "hard", "cd"}) {
+            const QImage icon = QImage(QStringLiteral(":/images/") + QLatin1String(name));
+            QVERIFY2(!seen.contains(icon), name);
+            seen << icon;
+        }
+    }
+
+    void allPicturesTogetherStaySmall()
+    {
+        qint64 bytes = 0;
+        const QFileInfoList files = QDir(QStringLiteral(":/images")).entryInfoList(QDir::Files);
+        QCOMPARE(files.size(), 6);
+        for (const QFileInfo &file : files) {
+            bytes += file.size();
+        }
+        QVERIFY2(bytes < 60 * 1024, qPrintable(QString::number(bytes)));
+    }
 };
-
-void TestImages::picturesAreTransparentAndShowOnLightAndDark_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("side");
-    QTest::newRow("logo") << QStringLiteral(":/images/diobin_logo.png") << 168;
-    QTest::newRow("exit") << QStringLiteral(":/images/exit") << 64;
-    QTest::newRow("pause") << QStringLiteral(":/images/pause") << 64;
-    QTest::newRow("continue") << QStringLiteral(":/images/continue") << 64;
-    QTest::newRow("hard disk") << QStringLiteral(":/images/hard") << 64;
-    QTest::newRow("optical disc") << QStringLiteral(":/images/cd") << 64;
-}
-
-void TestImages::picturesAreTransparentAndShowOnLightAndDark()
-{
-    QFETCH(QString, name);
-    QFETCH(int, side);
-    const QImage picture(name);
-    QCOMPARE(picture.size(), QSize(side, side));
-    QVERIFY(picture.hasAlphaChannel());
-    QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
-    QVERIFY(picture.pixelColor(side / 2, side / 4).alpha() > 0);
-    QVERIFY(!QIcon(name).pixmap(16, 16).isNull());
-    for (int grey : {0xff, 0x80, 0x20}) {
-        QVERIFY2(visibleOn(picture, grey) > 0.15, qPrintable(QString::number(grey)));
-    }
-}
-
-void TestImages::iconsDiffer()
-{
-    QVector<QImage> seen;
-    for (const char *name : {"exit", "pause", "continue", "hard", "cd"}) {
-        const QImage icon = QImage(QStringLiteral(":/images/") + QLatin1String(name));
-        QVERIFY2(!seen.contains(icon), name);
-        seen << icon;
-    }
-}
-
-void TestImages::allPicturesTogetherStaySmall()
-{
-    qint64 bytes = 0;
-    const QFileInfoList files = QDir(QStringLiteral(":/images")).entryInfoList(QDir::Files);
-    QCOMPARE(files.size(), 6);
-    for (const QFileInfo &file : files) {
-        bytes += file.size();
-    }
-    QVERIFY2(bytes < 60 * 1024, qPrintable(QString::number(bytes)));
-}
 
 QTEST_MAIN(TestImages)
 #include "test_images.moc"

@@ -60,26 +60,288 @@ class TestWindowGeometry : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        directory = std::make_unique<QTemporaryDir>();
+        QVERIFY(directory->isValid());
+    }
+
     void cleanup() { directory.reset(); }
 
-    void titleBarDecidesWhetherARectangleLiesOnAScreen_data();
-    void titleBarDecidesWhetherARectangleLiesOnAScreen();
+    void titleBarDecidesWhetherARectangleLiesOnAScreen_data()
+    {
+        QTest::addColumn<QRect>("client");
+        QTest::addColumn<int>("titleBar");
+        QTest::addColumn<QVector<QRect>>("screens");
+        QTest::addColumn<QRect>("fitted");
 
-    void firstStartGivesTheDefault();
-    void geometryIsKeptUnderOneKey();
-    void geometryComesBack_data();
-    void geometryComesBack();
-    void repeatedSessionsDontDrift();
-    void windowThatWasNeverShownKeepsItsGeometry();
-    void visibleMaximizedWindowCanBeGivenTheDefault();
-    void oversizedGeometryIsCutToTheScreen();
-    void unusableValuesGiveTheDefault_data();
-    void unusableValuesGiveTheDefault();
-    void damagedFileGivesTheDefault_data();
-    void damagedFileGivesTheDefault();
-    void anyFileGivesAWindowThatCanBeDragged();
-    void toolBarsAreKeptOnlyWhenAskedFor();
+        // A panel of 30 pixels along the top of the left screen, and a lower screen to the right of it.
+        const QVector<QRect> one{QRect(0, 30, 1920, 1050)};
+        const QVector<QRect> two{QRect(0, 30, 1920, 1050), QRect(1920, 200, 1280, 720)};
+        const QVector<QRect> negative{QRect(-1280, 0, 1280, 720)};
+        const auto fits = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
+                              int titleBar = 25) {
+            QTest::newRow(name) << client << titleBar << screens << client;
+        };
+        const auto isLost = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
+                                int titleBar = 25) {
+            QTest::newRow(name) << client << titleBar << screens << QRect();
+        };
+        const auto isCut = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
+                               const QRect &fitted) {
+            QTest::newRow(name) << client << 25 << screens << fitted;
+        };
+
+        fits("inside", QRect(100, 100, 640, 480), one);
+        fits("on the second screen", QRect(2000, 300, 640, 480), two);
+        isLost("second screen gone", QRect(2000, 300, 640, 480), one);
+        isLost("no screen", QRect(100, 100, 640, 480), {});
+        fits("left of a screen at negative coordinates", QRect(-1200, 100, 640, 480), negative);
+
+        fits("64 pixels left at the right edge", QRect(1856, 100, 640, 480), one);
+        isLost("63 pixels left at the right edge", QRect(1857, 100, 640, 480), one);
+        fits("64 pixels left at the left edge", QRect(-576, 100, 640, 480), one);
+        isLost("63 pixels left at the left edge", QRect(-577, 100, 640, 480), one);
+
+        fits("title bar just below the panel", QRect(100, 55, 640, 480), one);
+        fits("8 pixels of the title bar below the panel", QRect(100, 38, 640, 480), one);
+        isLost("7 pixels of the title bar below the panel", QRect(100, 37, 640, 480), one);
+        isLost("title bar wholly above the screen", QRect(100, 30, 640, 480), one);
+        fits("frameless at the top edge", QRect(0, 30, 640, 480), one, 0);
+        isLost("frameless above the top edge", QRect(0, 0, 640, 480), one, 0);
+        fits("title bar at the bottom edge", QRect(100, 1097, 640, 480), one);
+        isLost("title bar below the bottom edge", QRect(100, 1098, 640, 480), one);
+
+        isCut("wider than the screen", QRect(-50, 100, 4000, 480), one, QRect(0, 100, 1920, 480));
+        isCut("higher than the screen", QRect(100, 100, 640, 4000), one, QRect(100, 55, 640, 1025));
+        fits("as large as the screen", QRect(0, 55, 1920, 1025), one);
+        isCut("cut to the screen that shows most of it", QRect(1800, 300, 1300, 480), two,
+              QRect(1920, 300, 1280, 480));
+
+        fits("smallest", QRect(100, 100, 64, 32), one);
+        isLost("too narrow", QRect(100, 100, 63, 480), one);
+        isLost("too low", QRect(100, 100, 640, 31), one);
+        isLost("negative size", QRect(100, 100, -640, -480), one);
+        isLost("no size", QRect(), one, 0);
+    }
+
+    void titleBarDecidesWhetherARectangleLiesOnAScreen()
+    {
+        QFETCH(QRect, client);
+        QFETCH(int, titleBar);
+        QFETCH(QVector<QRect>, screens);
+        QTEST(zarnFitToScreens(client, titleBar, screens), "fitted");
+    }
+
+    void firstStartGivesTheDefault()
+    {
+        Window window;
+        restore(window);
+        QCOMPARE(window.pos(), QPoint(0, 0));
+        QCOMPARE(window.size(), QSize(640, 480));
+        window.show();
+        QCOMPARE(window.frameGeometry().topLeft(), QPoint(0, 0));
+        QCOMPARE(window.size(), QSize(640, 480));
+    }
+
+    void geometryIsKeptUnderOneKey()
+    {
+        Window window;
+        window.setGeometry(savedRect);
+        window.show();
+        save(window);
+        const QSettings settings(path(), QSettings::IniFormat);
+        QCOMPARE(settings.allKeys(), QStringList{QStringLiteral("geometry")});
+        const int titleBar = window.geometry().top() - window.frameGeometry().top();
+        QCOMPARE(settings.value(QStringLiteral("geometry")).toStringList().join(QLatin1Char(' ')),
+                 QStringLiteral("40 60 500 300 %1 0").arg(titleBar));
+    }
+
+    void geometryComesBack_data()
+    {
+        QTest::addColumn<Qt::WindowState>("state");
+        QTest::newRow("normal") << Qt::WindowNoState;
+        QTest::newRow("maximized, with its normal size") << Qt::WindowMaximized;
+        QTest::newRow("full screen, as a normal window") << Qt::WindowFullScreen;
+        QTest::newRow("minimized, as an open window") << Qt::WindowMinimized;
+    }
+
+    void geometryComesBack()
+    {
+        QFETCH(Qt::WindowState, state);
+        const bool maximized = state == Qt::WindowMaximized;
+        Window before;
+        before.setGeometry(savedRect);
+        before.show();
+        before.setWindowState(state);
+        if (maximized) {
+            QTRY_VERIFY(before.width() > savedRect.width());
+        }
+        save(before);
+
+        Window after;
+        restore(after);
+        after.show();
+        QCOMPARE(after.isMaximized(), maximized);
+        QVERIFY(!after.isFullScreen());
+        QVERIFY(!after.isMinimized());
+        if (maximized) {
+            QTRY_VERIFY(after.width() > savedRect.width());
+            after.showNormal();
+        }
+        QTRY_COMPARE(after.geometry(), savedRect);
+    }
+
+    void repeatedSessionsDontDrift()
+    {
+        store(QVariant(fields(40, 60, 500, 300)));
+        for (bool maximized : {false, true, true, false}) {
+            Window window;
+            restore(window);
+            window.setWindowState(maximized ? Qt::WindowMaximized : Qt::WindowNoState);
+            window.show();
+            QCOMPARE(window.normalGeometry(), savedRect);
+            save(window);
+        }
+    }
+
+    void windowThatWasNeverShownKeepsItsGeometry()
+    {
+        QWidget before;
+        before.setGeometry(savedRect);
+        save(before);
+        Window after;
+        restore(after);
+        QCOMPARE(after.geometry(), savedRect);
+    }
+
+    void visibleMaximizedWindowCanBeGivenTheDefault()
+    {
+        Window window;
+        window.showMaximized();
+        restore(window);
+        QVERIFY(!window.isMaximized());
+        QCOMPARE(window.size(), defaultRect.size());
+    }
+
+    void oversizedGeometryIsCutToTheScreen()
+    {
+        store(QVariant(fields(0, 20, 100000, 100000, 20)));
+        Window window;
+        restore(window);
+        QCOMPARE(window.geometry(), screenArea().adjusted(0, 20, 0, 0));
+    }
+
+    void unusableValuesGiveTheDefault_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QWidget other;
+        const QByteArray bytes = other.saveGeometry();
+        QTest::newRow("invalid") << QVariant();
+        QTest::newRow("empty text") << QVariant(QString());
+        QTest::newRow("text") << QVariant(QStringLiteral("nonsense"));
+        QTest::newRow("number") << QVariant(7);
+        QTest::newRow("true") << QVariant(true);
+        QTest::newRow("rectangle") << QVariant(savedRect);
+        QTest::newRow("foreign bytes") << QVariant(bytes);
+        QTest::newRow("truncated bytes") << QVariant(bytes.left(7));
+        QTest::newRow("random bytes") << QVariant(QByteArray("\xff\x00\x80,1,2\n@", 9));
+        QTest::newRow("a megabyte") << QVariant(QByteArray(1 << 20, ','));
+        QTest::newRow("empty list") << QVariant(QVariantList());
+        QTest::newRow("five fields") << QVariant(fields(40, 60, 500, 300).mid(0, 5));
+        QTest::newRow("seven fields") << QVariant(fields(40, 60, 500, 300) << 1);
+        QTest::newRow("words for numbers")
+            << QVariant(QStringLiteral("x,,500,300,0,0").split(QLatin1Char(',')));
+        QTest::newRow("beyond int") << QVariant(
+            QStringLiteral("99999999999,60,500,300,0,0").split(QLatin1Char(',')));
+        QTest::newRow("lowest ints") << QVariant(
+            fields(INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MIN));
+        QTest::newRow("highest ints")
+            << QVariant(fields(INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX));
+        QTest::newRow("highest size") << QVariant(fields(0, 0, INT_MAX, INT_MAX));
+        QTest::newRow("off the screen") << QVariant(fields(5000, 5000, 500, 300, 25, 1));
+        QTest::newRow("1 x 1") << QVariant(fields(40, 60, 1, 1));
+        QTest::newRow("0 x 0") << QVariant(fields(40, 60, 0, 0));
+        QTest::newRow("negative size") << QVariant(fields(40, 60, -500, -300));
+        QTest::newRow("negative title bar") << QVariant(fields(40, 60, 500, 300, -1));
+        QTest::newRow("title bar of 501") << QVariant(fields(40, 560, 500, 300, 501));
+    }
+
+    void unusableValuesGiveTheDefault()
+    {
+        QFETCH(QVariant, value);
+        store(value);
+        Window window;
+        restore(window);
+        window.show();
+        QCOMPARE(window.frameGeometry().topLeft(), defaultRect.topLeft());
+        QCOMPARE(window.size(), defaultRect.size());
+        QVERIFY(!window.isMaximized());
+    }
+
+    void damagedFileGivesTheDefault_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("binary") << QByteArray("\x00\x01\xfe\xff[[[=\n\r\x80", 12);
+        const std::pair<const char *, const char *> values[] = {
+            {"unfinished value", "\"40, 60"},
+            {"unfinished variant", "@Variant(\\0\\0\\0\n"},
+            {"variant of an unknown type", "@Variant(\\0\\0\\xff\\xff\\xff\\xff)\n"},
+            {"unfinished rectangle", "@Rect(40 60\n"}};
+        for (const auto &value : values) {
+            QTest::newRow(value.first) << QByteArray("[General]\ngeometry=") + value.second;
+        }
+    }
+
+    void damagedFileGivesTheDefault()
+    {
+        QFETCH(QByteArray, contents);
+        write(contents);
+        Window window;
+        restore(window);
+        QCOMPARE(window.geometry(), defaultRect);
+    }
+
+    /// ZSM_SOAK_FILES sets the number of files.
+    void anyFileGivesAWindowThatCanBeDragged()
+    {
+        const int files = qEnvironmentVariableIsSet("ZSM_SOAK_FILES")
+                              ? qEnvironmentVariableIntValue("ZSM_SOAK_FILES")
+                              : 300;
+        std::mt19937 random(1);
+        const QRect screen = screenArea();
+        for (int i = 0; i < files; ++i) {
+            const QByteArray contents = "[General]\ngeometry=" + randomFields(random) + '\n';
+            write(contents);
+            Window window;
+            restore(window);
+            window.show();
+            const QRect grip = QRect(window.geometry().topLeft(), QSize(window.width(), 16)) & screen;
+            QVERIFY2(grip.width() >= 64 && grip.height() >= 8, contents.constData());
+            QVERIFY2(window.width() <= screen.width() && window.height() <= screen.height(),
+                     contents.constData());
+        }
+        qInfo("%d settings files", files);
+    }
+
+    void toolBarsAreKeptOnlyWhenAskedFor()
+    {
+        const auto toolBarOf = [](Window &window) {
+            QToolBar *bar = window.addToolBar(QStringLiteral("bar"));
+            bar->setObjectName(QStringLiteral("bar"));
+            return bar;
+        };
+        Window before;
+        toolBarOf(before);
+        before.addToolBar(Qt::LeftToolBarArea, before.findChild<QToolBar *>());
+        save(before, true);
+        for (bool asked : {false, true}) {
+            Window after;
+            QToolBar *bar = toolBarOf(after);
+            restore(after, asked);
+            QCOMPARE(after.toolBarArea(bar), asked ? Qt::LeftToolBarArea : Qt::TopToolBarArea);
+        }
+    }
 
 private:
     QString path() const { return directory->filePath(QStringLiteral("settings.ini")); }
@@ -107,281 +369,6 @@ private:
 
     std::unique_ptr<QTemporaryDir> directory;
 };
-
-void TestWindowGeometry::init()
-{
-    directory = std::make_unique<QTemporaryDir>();
-    QVERIFY(directory->isValid());
-}
-
-void TestWindowGeometry::titleBarDecidesWhetherARectangleLiesOnAScreen_data()
-{
-    QTest::addColumn<QRect>("client");
-    QTest::addColumn<int>("titleBar");
-    QTest::addColumn<QVector<QRect>>("screens");
-    QTest::addColumn<QRect>("fitted");
-
-    // A panel of 30 pixels along the top of the left screen, and a lower screen to the right of it.
-    const QVector<QRect> one{QRect(0, 30, 1920, 1050)};
-    const QVector<QRect> two{QRect(0, 30, 1920, 1050), QRect(1920, 200, 1280, 720)};
-    const QVector<QRect> negative{QRect(-1280, 0, 1280, 720)};
-    const auto fits = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
-                          int titleBar = 25) {
-        QTest::newRow(name) << client << titleBar << screens << client;
-    };
-    const auto isLost = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
-                            int titleBar = 25) {
-        QTest::newRow(name) << client << titleBar << screens << QRect();
-    };
-    const auto isCut = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
-                           const QRect &fitted) { QTest::newRow(name) << client << 25 << screens << fitted; };
-
-    fits("inside", QRect(100, 100, 640, 480), one);
-    fits("on the second screen", QRect(2000, 300, 640, 480), two);
-    isLost("second screen gone", QRect(2000, 300, 640, 480), one);
-    isLost("no screen", QRect(100, 100, 640, 480), {});
-    fits("left of a screen at negative coordinates", QRect(-1200, 100, 640, 480), negative);
-
-    fits("64 pixels left at the right edge", QRect(1856, 100, 640, 480), one);
-    isLost("63 pixels left at the right edge", QRect(1857, 100, 640, 480), one);
-    fits("64 pixels left at the left edge", QRect(-576, 100, 640, 480), one);
-    isLost("63 pixels left at the left edge", QRect(-577, 100, 640, 480), one);
-
-    fits("title bar just below the panel", QRect(100, 55, 640, 480), one);
-    fits("8 pixels of the title bar below the panel", QRect(100, 38, 640, 480), one);
-    isLost("7 pixels of the title bar below the panel", QRect(100, 37, 640, 480), one);
-    isLost("title bar wholly above the screen", QRect(100, 30, 640, 480), one);
-    fits("frameless at the top edge", QRect(0, 30, 640, 480), one, 0);
-    isLost("frameless above the top edge", QRect(0, 0, 640, 480), one, 0);
-    fits("title bar at the bottom edge", QRect(100, 1097, 640, 480), one);
-    isLost("title bar below the bottom edge", QRect(100, 1098, 640, 480), one);
-
-    isCut("wider than the screen", QRect(-50, 100, 4000, 480), one, QRect(0, 100, 1920, 480));
-    isCut("higher than the screen", QRect(100, 100, 640, 4000), one, QRect(100, 55, 640, 1025));
-    fits("as large as the screen", QRect(0, 55, 1920, 1025), one);
-    isCut("cut to the screen that shows most of it", QRect(1800, 300, 1300, 480), two,
-          QRect(1920, 300, 1280, 480));
-
-    fits("smallest", QRect(100, 100, 64, 32), one);
-    isLost("too narrow", QRect(100, 100, 63, 480), one);
-    isLost("too low", QRect(100, 100, 640, 31), one);
-    isLost("negative size", QRect(100, 100, -640, -480), one);
-    isLost("no size", QRect(), one, 0);
-}
-
-void TestWindowGeometry::titleBarDecidesWhetherARectangleLiesOnAScreen()
-{
-    QFETCH(QRect, client);
-    QFETCH(int, titleBar);
-    QFETCH(QVector<QRect>, screens);
-    QTEST(zarnFitToScreens(client, titleBar, screens), "fitted");
-}
-
-void TestWindowGeometry::firstStartGivesTheDefault()
-{
-    Window window;
-    restore(window);
-    QCOMPARE(window.pos(), QPoint(0, 0));
-    QCOMPARE(window.size(), QSize(640, 480));
-    window.show();
-    QCOMPARE(window.frameGeometry().topLeft(), QPoint(0, 0));
-    QCOMPARE(window.size(), QSize(640, 480));
-}
-
-void TestWindowGeometry::geometryIsKeptUnderOneKey()
-{
-    Window window;
-    window.setGeometry(savedRect);
-    window.show();
-    save(window);
-    const QSettings settings(path(), QSettings::IniFormat);
-    QCOMPARE(settings.allKeys(), QStringList{QStringLiteral("geometry")});
-    const int titleBar = window.geometry().top() - window.frameGeometry().top();
-    QCOMPARE(settings.value(QStringLiteral("geometry")).toStringList().join(QLatin1Char(' ')),
-             QStringLiteral("40 60 500 300 %1 0").arg(titleBar));
-}
-
-void TestWindowGeometry::geometryComesBack_data()
-{
-    QTest::addColumn<Qt::WindowState>("state");
-    QTest::newRow("normal") << Qt::WindowNoState;
-    QTest::newRow("maximized, with its normal size") << Qt::WindowMaximized;
-    QTest::newRow("full screen, as a normal window") << Qt::WindowFullScreen;
-    QTest::newRow("minimized, as an open window") << Qt::WindowMinimized;
-}
-
-void TestWindowGeometry::geometryComesBack()
-{
-    QFETCH(Qt::WindowState, state);
-    const bool maximized = state == Qt::WindowMaximized;
-    Window before;
-    before.setGeometry(savedRect);
-    before.show();
-    before.setWindowState(state);
-    if (maximized) {
-        QTRY_VERIFY(before.width() > savedRect.width());
-    }
-    save(before);
-
-    Window after;
-    restore(after);
-    after.show();
-    QCOMPARE(after.isMaximized(), maximized);
-    QVERIFY(!after.isFullScreen());
-    QVERIFY(!after.isMinimized());
-    if (maximized) {
-        QTRY_VERIFY(after.width() > savedRect.width());
-        after.showNormal();
-    }
-    QTRY_COMPARE(after.geometry(), savedRect);
-}
-
-void TestWindowGeometry::repeatedSessionsDontDrift()
-{
-    store(QVariant(fields(40, 60, 500, 300)));
-    for (bool maximized : {false, true, true, false}) {
-        Window window;
-        restore(window);
-        window.setWindowState(maximized ? Qt::WindowMaximized : Qt::WindowNoState);
-        window.show();
-        QCOMPARE(window.normalGeometry(), savedRect);
-        save(window);
-    }
-}
-
-void TestWindowGeometry::windowThatWasNeverShownKeepsItsGeometry()
-{
-    QWidget before;
-    before.setGeometry(savedRect);
-    save(before);
-    Window after;
-    restore(after);
-    QCOMPARE(after.geometry(), savedRect);
-}
-
-void TestWindowGeometry::visibleMaximizedWindowCanBeGivenTheDefault()
-{
-    Window window;
-    window.showMaximized();
-    restore(window);
-    QVERIFY(!window.isMaximized());
-    QCOMPARE(window.size(), defaultRect.size());
-}
-
-void TestWindowGeometry::oversizedGeometryIsCutToTheScreen()
-{
-    store(QVariant(fields(0, 20, 100000, 100000, 20)));
-    Window window;
-    restore(window);
-    QCOMPARE(window.geometry(), screenArea().adjusted(0, 20, 0, 0));
-}
-
-void TestWindowGeometry::unusableValuesGiveTheDefault_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QWidget other;
-    const QByteArray bytes = other.saveGeometry();
-    QTest::newRow("invalid") << QVariant();
-    QTest::newRow("empty text") << QVariant(QString());
-    QTest::newRow("text") << QVariant(QStringLiteral("nonsense"));
-    QTest::newRow("number") << QVariant(7);
-    QTest::newRow("true") << QVariant(true);
-    QTest::newRow("rectangle") << QVariant(savedRect);
-    QTest::newRow("foreign bytes") << QVariant(bytes);
-    QTest::newRow("truncated bytes") << QVariant(bytes.left(7));
-    QTest::newRow("random bytes") << QVariant(QByteArray("\xff\x00\x80,1,2\n@", 9));
-    QTest::newRow("a megabyte") << QVariant(QByteArray(1 << 20, ','));
-    QTest::newRow("empty list") << QVariant(QVariantList());
-    QTest::newRow("five fields") << QVariant(fields(40, 60, 500, 300).mid(0, 5));
-    QTest::newRow("seven fields") << QVariant(fields(40, 60, 500, 300) << 1);
-    QTest::newRow("words for numbers") << QVariant(QStringLiteral("x,,500,300,0,0").split(QLatin1Char(',')));
-    QTest::newRow("beyond int") << QVariant(
-        QStringLiteral("99999999999,60,500,300,0,0").split(QLatin1Char(',')));
-    QTest::newRow("lowest ints") << QVariant(fields(INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MIN));
-    QTest::newRow("highest ints") << QVariant(fields(INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX));
-    QTest::newRow("highest size") << QVariant(fields(0, 0, INT_MAX, INT_MAX));
-    QTest::newRow("off the screen") << QVariant(fields(5000, 5000, 500, 300, 25, 1));
-    QTest::newRow("1 x 1") << QVariant(fields(40, 60, 1, 1));
-    QTest::newRow("0 x 0") << QVariant(fields(40, 60, 0, 0));
-    QTest::newRow("negative size") << QVariant(fields(40, 60, -500, -300));
-    QTest::newRow("negative title bar") << QVariant(fields(40, 60, 500, 300, -1));
-    QTest::newRow("title bar of 501") << QVariant(fields(40, 560, 500, 300, 501));
-}
-
-void TestWindowGeometry::unusableValuesGiveTheDefault()
-{
-    QFETCH(QVariant, value);
-    store(value);
-    Window window;
-    restore(window);
-    window.show();
-    QCOMPARE(window.frameGeometry().topLeft(), defaultRect.topLeft());
-    QCOMPARE(window.size(), defaultRect.size());
-    QVERIFY(!window.isMaximized());
-}
-
-void TestWindowGeometry::damagedFileGivesTheDefault_data()
-{
-    QTest::addColumn<QByteArray>("contents");
-    QTest::newRow("binary") << QByteArray("\x00\x01\xfe\xff[[[=\n\r\x80", 12);
-    const std::pair<const char *, const char *> values[] = {
-        {"unfinished value", "\"40, 60"},
-        {"unfinished variant", "@Variant(\\0\\0\\0\n"},
-        {"variant of an unknown type", "@Variant(\\0\\0\\xff\\xff\\xff\\xff)\n"},
-        {"unfinished rectangle", "@Rect(40 60\n"}};
-    for (const auto &value : values) {
-        QTest::newRow(value.first) << QByteArray("[General]\ngeometry=") + value.second;
-    }
-}
-
-void TestWindowGeometry::damagedFileGivesTheDefault()
-{
-    QFETCH(QByteArray, contents);
-    write(contents);
-    Window window;
-    restore(window);
-    QCOMPARE(window.geometry(), defaultRect);
-}
-
-/// ZSM_SOAK_FILES sets the number of files.
-void TestWindowGeometry::anyFileGivesAWindowThatCanBeDragged()
-{
-    const int files =
-        qEnvironmentVariableIsSet("ZSM_SOAK_FILES") ? qEnvironmentVariableIntValue("ZSM_SOAK_FILES") : 300;
-    std::mt19937 random(1);
-    const QRect screen = screenArea();
-    for (int i = 0; i < files; ++i) {
-        const QByteArray contents = "[General]\ngeometry=" + randomFields(random) + '\n';
-        write(contents);
-        Window window;
-        restore(window);
-        window.show();
-        const QRect grip = QRect(window.geometry().topLeft(), QSize(window.width(), 16)) & screen;
-        QVERIFY2(grip.width() >= 64 && grip.height() >= 8, contents.constData());
-        QVERIFY2(window.width() <= screen.width() && window.height() <= screen.height(),
-                 contents.constData());
-    }
-    qInfo("%d settings files", files);
-}
-
-void TestWindowGeometry::toolBarsAreKeptOnlyWhenAskedFor()
-{
-    const auto toolBarOf = [](Window &window) {
-        QToolBar *bar = window.addToolBar(QStringLiteral("bar"));
-        bar->setObjectName(QStringLiteral("bar"));
-        return bar;
-    };
-    Window before;
-    toolBarOf(before);
-    before.addToolBar(Qt::LeftToolBarArea, before.findChild<QToolBar *>());
-    save(before, true);
-    for (bool asked : {false, true}) {
-        Window after;
-        QToolBar *bar = toolBarOf(after);
-        restore(after, asked);
-        QCOMPARE(after.toolBarArea(bar), asked ? Qt::LeftToolBarArea : Qt::TopToolBarArea);
-    }
-}
 
 QTEST_MAIN(TestWindowGeometry)
 #include "test_window_geometry.moc"

@@ -26,47 +26,42 @@ class TestZarnInit : public QObject
 
 private Q_SLOTS:
     void cleanup() { zarnInit("", ""); }
-    void textsAreReadAsUtf8AndReachTheApplication();
-    void textsOutliveTheCallersBuffers();
-    void descriptionIsTranslatedWhenAskedFor();
-    void nullPointersCountAsEmpty();
+    void textsAreReadAsUtf8AndReachTheApplication()
+    {
+        zarnInit("1.0 \xce\xb2", "caf\xc3\xa9");
+        QCOMPARE(zarnVersion(), QString(QStringLiteral("1.0 ") + QChar(0x3b2)));
+        QCOMPARE(QCoreApplication::applicationVersion(), zarnVersion());
+        QCOMPARE(zarnDescription(), QString(QStringLiteral("caf") + QChar(0xe9)));
+    }
+
+    void textsOutliveTheCallersBuffers()
+    {
+        char version[] = "1.0";
+        char description[] = "before";
+        zarnInit(version, description);
+        version[0] = description[0] = 'X';
+        QCOMPARE(zarnVersion(), QStringLiteral("1.0"));
+        QCOMPARE(zarnDescription(), QStringLiteral("before"));
+    }
+
+    void descriptionIsTranslatedWhenAskedFor()
+    {
+        zarnInit("1.0", "Shows things.");
+        GermanDescription translator;
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        QCOMPARE(zarnDescription(), QStringLiteral("Zeigt Dinge."));
+        QVERIFY(QCoreApplication::removeTranslator(&translator));
+        QCOMPARE(zarnDescription(), QStringLiteral("Shows things."));
+    }
+
+    void nullPointersCountAsEmpty()
+    {
+        zarnInit("1.0", "Shows things.");
+        zarnInit(nullptr, nullptr);
+        QCOMPARE(zarnVersion(), QString());
+        QCOMPARE(zarnDescription(), QString());
+    }
 };
-
-void TestZarnInit::textsAreReadAsUtf8AndReachTheApplication()
-{
-    zarnInit("1.0 \xce\xb2", "caf\xc3\xa9");
-    QCOMPARE(zarnVersion(), QString(QStringLiteral("1.0 ") + QChar(0x3b2)));
-    QCOMPARE(QCoreApplication::applicationVersion(), zarnVersion());
-    QCOMPARE(zarnDescription(), QString(QStringLiteral("caf") + QChar(0xe9)));
-}
-
-void TestZarnInit::textsOutliveTheCallersBuffers()
-{
-    char version[] = "1.0";
-    char description[] = "before";
-    zarnInit(version, description);
-    version[0] = description[0] = 'X';
-    QCOMPARE(zarnVersion(), QStringLiteral("1.0"));
-    QCOMPARE(zarnDescription(), QStringLiteral("before"));
-}
-
-void TestZarnInit::descriptionIsTranslatedWhenAskedFor()
-{
-    zarnInit("1.0", "Shows things.");
-    GermanDescription translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    QCOMPARE(zarnDescription(), QStringLiteral("Zeigt Dinge."));
-    QVERIFY(QCoreApplication::removeTranslator(&translator));
-    QCOMPARE(zarnDescription(), QStringLiteral("Shows things."));
-}
-
-void TestZarnInit::nullPointersCountAsEmpty()
-{
-    zarnInit("1.0", "Shows things.");
-    zarnInit(nullptr, nullptr);
-    QCOMPARE(zarnVersion(), QString());
-    QCOMPARE(zarnDescription(), QString());
-}
 
 QTEST_GUILESS_MAIN(TestZarnInit)
 #include "test_zarninit.moc"

@@ -50,164 +50,153 @@ class TestDlgNice : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void levelsHaveTheirNames_data();
-    void levelsHaveTheirNames();
-    void theDialogIsBuiltAsRequired();
-    void theDialogHasTheGivenParent();
-    void onlyOkAfterAMoveReturnsTheSlidersValue_data();
-    void onlyOkAfterAMoveReturnsTheSlidersValue();
-    void theKeyboardMovesTheSlider();
-    void aValueOutsideTheRangeIsShownButNotClamped();
-    void updateWithoutADialogDoesNothing();
-    void theSameObjectAsksAgain();
-};
-
-void TestDlgNice::levelsHaveTheirNames_data()
-{
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("name");
-    const std::pair<int, const char *> rows[] = {
-        {-20, "Very high priority"}, {-11, "Very high priority"}, {-10, "High priority"},
-        {-1, "High priority"},       {0, "Normal priority"},      {1, "Low priority"},
-        {10, "Low priority"},        {11, "Very low priority"},   {20, "Very low priority"}};
-    for (const auto &row : rows) {
-        QTest::addRow("%d", row.first) << row.first << row.second;
-    }
-}
-
-void TestDlgNice::levelsHaveTheirNames()
-{
-    QFETCH(int, value);
-    QFETCH(QString, name);
-    QCOMPARE(DlgNice::levelName(value), name);
-    const auto check = [&](const Parts &parts) {
-        parts.slider->setValue(value);
-        QCOMPARE(parts.value->text(), QString::number(value));
-        QCOMPARE(parts.description->text(), name);
-        parts.cancel->click();
-    };
-    ask(value, check);
-    ask(value == 20 ? 19 : 20, check);
-}
-
-void TestDlgNice::theDialogIsBuiltAsRequired()
-{
-    ask(5, [](const Parts &parts) {
-        QCOMPARE(parts.dialog->size(), QSize(400, 100).expandedTo(parts.dialog->minimumSizeHint()));
-        QVERIFY(parts.dialog->isModal());
-        QVERIFY(!parts.dialog->parentWidget());
-        QCOMPARE(parts.box->count(), 2);
-        QCOMPARE(parts.grid->verticalSpacing(), 10);
-        QCOMPARE(parts.grid->count(), 4);
-        QCOMPARE(parts.grid->itemAtPosition(0, 1)->alignment(), Qt::AlignHCenter | Qt::AlignBottom);
-        QCOMPARE(parts.grid->itemAtPosition(2, 1)->alignment(), Qt::AlignHCenter | Qt::AlignTop);
-        QCOMPARE(parts.caption->text(), QStringLiteral("Priority"));
-        QCOMPARE(parts.slider->orientation(), Qt::Horizontal);
-        QCOMPARE(parts.slider->minimum(), -20);
-        QCOMPARE(parts.slider->maximum(), 20);
-        QCOMPARE(parts.slider->value(), 5);
-        QCOMPARE(parts.slider->tickInterval(), 1);
-        QCOMPARE(parts.slider->pageStep(), 1);
-        QVERIFY(parts.slider->hasTracking());
-        QVERIFY(parts.slider->isSliderDown());
-        QCOMPARE(parts.buttons->standardButtons(), QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-        QVERIFY(parts.cancel->isEnabled());
-        parts.cancel->click();
-    });
-}
-
-void TestDlgNice::theDialogHasTheGivenParent()
-{
-    QWidget window;
-    const ModalDriver driver([&](QWidget *dialog) {
-        QCOMPARE(dialog->parentWidget(), &window);
-        dialog->close();
-    });
-    DlgNice(&window).askPriority(0);
-}
-
-void TestDlgNice::onlyOkAfterAMoveReturnsTheSlidersValue_data()
-{
-    QTest::addColumn<int>("current");
-    QTest::addColumn<QList<int>>("moves");
-    QTest::addColumn<Act>("leave");
-    QTest::addColumn<int>("answer");
-    const Act ok = [](const Parts &parts) { parts.ok->click(); };
-    const Act cancel = [](const Parts &parts) { parts.cancel->click(); };
-    const Act close = [](const Parts &parts) { parts.dialog->close(); };
-    const Act escape = [](const Parts &parts) { QTest::keyClick(parts.slider, Qt::Key_Escape); };
-    QTest::newRow("closed without a move") << 3 << QList<int>() << close << 3;
-    QTest::newRow("OK") << 0 << QList<int>{-12, 20} << ok << 20;
-    QTest::newRow("OK after moving away and back") << 4 << QList<int>{9, 4} << ok << 4;
-    QTest::newRow("OK below the range") << -99 << QList<int>{-19, -20} << ok << -20;
-    QTest::newRow("Cancel") << -3 << QList<int>{7} << cancel << -3;
-    QTest::newRow("closed") << -3 << QList<int>{7} << close << -3;
-    QTest::newRow("Escape") << -3 << QList<int>{7} << escape << -3;
-}
-
-void TestDlgNice::onlyOkAfterAMoveReturnsTheSlidersValue()
-{
-    QFETCH(int, current);
-    QFETCH(QList<int>, moves);
-    QFETCH(Act, leave);
-    const auto act = [&](const Parts &parts) {
-        QVERIFY(!parts.ok->isEnabled());
-        parts.ok->click();
-        QVERIFY(parts.dialog->isVisible());
-        parts.slider->setValue(parts.slider->value()); // no change, no signal
-        QVERIFY(!parts.ok->isEnabled());
-        for (const int value : moves) {
-            parts.slider->setValue(value);
-            QVERIFY(parts.ok->isEnabled());
+    void levelsHaveTheirNames_data()
+    {
+        QTest::addColumn<int>("value");
+        QTest::addColumn<QString>("name");
+        const std::pair<int, const char *> rows[] = {
+            {-20, "Very high priority"}, {-11, "Very high priority"}, {-10, "High priority"},
+            {-1, "High priority"},       {0, "Normal priority"},      {1, "Low priority"},
+            {10, "Low priority"},        {11, "Very low priority"},   {20, "Very low priority"}};
+        for (const auto &row : rows) {
+            QTest::addRow("%d", row.first) << row.first << row.second;
         }
-        leave(parts);
-    };
-    QTEST(ask(current, act), "answer");
-}
+    }
 
-void TestDlgNice::theKeyboardMovesTheSlider()
-{
-    const auto act = [](const Parts &parts) {
-        QTest::keyClick(parts.slider, Qt::Key_Right);
-        QTest::keyClick(parts.slider, Qt::Key_PageUp);
-        QCOMPARE(parts.value->text(), QStringLiteral("2"));
-        parts.ok->click();
-    };
-    QCOMPARE(ask(0, act), 2);
-}
+    void levelsHaveTheirNames()
+    {
+        QFETCH(int, value);
+        QFETCH(QString, name);
+        QCOMPARE(DlgNice::levelName(value), name);
+        const auto check = [&](const Parts &parts) {
+            parts.slider->setValue(value);
+            QCOMPARE(parts.value->text(), QString::number(value));
+            QCOMPARE(parts.description->text(), name);
+            parts.cancel->click();
+        };
+        ask(value, check);
+        ask(value == 20 ? 19 : 20, check);
+    }
 
-void TestDlgNice::aValueOutsideTheRangeIsShownButNotClamped()
-{
-    const auto look = [](const Parts &parts) {
-        QCOMPARE(parts.slider->value(), 20);
-        QCOMPARE(parts.value->text(), QStringLiteral("99"));
-        parts.dialog->close();
-    };
-    QCOMPARE(ask(99, look), 99);
-}
+    void theDialogIsBuiltAsRequired()
+    {
+        ask(5, [](const Parts &parts) {
+            QCOMPARE(parts.dialog->size(), QSize(400, 100).expandedTo(parts.dialog->minimumSizeHint()));
+            QVERIFY(parts.dialog->isModal());
+            QVERIFY(!parts.dialog->parentWidget());
+            QCOMPARE(parts.box->count(), 2);
+            QCOMPARE(parts.grid->verticalSpacing(), 10);
+            QCOMPARE(parts.grid->count(), 4);
+            QCOMPARE(parts.grid->itemAtPosition(0, 1)->alignment(), Qt::AlignHCenter | Qt::AlignBottom);
+            QCOMPARE(parts.grid->itemAtPosition(2, 1)->alignment(), Qt::AlignHCenter | Qt::AlignTop);
+            QCOMPARE(parts.caption->text(), QStringLiteral("Priority"));
+            QCOMPARE(parts.slider->orientation(), Qt::Horizontal);
+            QCOMPARE(parts.slider->minimum(), -20);
+            QCOMPARE(parts.slider->maximum(), 20);
+            QCOMPARE(parts.slider->value(), 5);
+            QCOMPARE(parts.slider->tickInterval(), 1);
+            QCOMPARE(parts.slider->pageStep(), 1);
+            QVERIFY(parts.slider->hasTracking());
+            QVERIFY(parts.slider->isSliderDown());
+            QCOMPARE(parts.buttons->standardButtons(), QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+            QVERIFY(parts.cancel->isEnabled());
+            parts.cancel->click();
+        });
+    }
 
-void TestDlgNice::updateWithoutADialogDoesNothing()
-{
-    DlgNice asker(nullptr);
-    asker.update(7);
-    const ModalDriver driver(closing());
-    QCOMPARE(asker.askPriority(1), 1);
-    asker.update(7);
-}
+    void theDialogHasTheGivenParent()
+    {
+        QWidget window;
+        const ModalDriver driver([&](QWidget *dialog) {
+            QCOMPARE(dialog->parentWidget(), &window);
+            dialog->close();
+        });
+        DlgNice(&window).askPriority(0);
+    }
 
-void TestDlgNice::theSameObjectAsksAgain()
-{
-    DlgNice asker(nullptr);
-    const auto choose = [](QWidget *dialog) {
-        const Parts parts(dialog);
-        QVERIFY(!parts.ok->isEnabled());
-        parts.slider->setValue(parts.slider->value() + 1);
-        parts.ok->click();
-    };
-    const ModalDriver driver({choose, choose});
-    QCOMPARE(asker.askPriority(1), 2);
-    QCOMPARE(asker.askPriority(5), 6);
-}
+    void onlyOkAfterAMoveReturnsTheSlidersValue_data()
+    {
+        QTest::addColumn<int>("current");
+        QTest::addColumn<QList<int>>("moves");
+        QTest::addColumn<Act>("leave");
+        QTest::addColumn<int>("answer");
+        const Act ok = [](const Parts &parts) { parts.ok->click(); };
+        const Act cancel = [](const Parts &parts) { parts.cancel->click(); };
+        const Act close = [](const Parts &parts) { parts.dialog->close(); };
+        const Act escape = [](const Parts &parts) { QTest::keyClick(parts.slider, Qt::Key_Escape); };
+        QTest::newRow("closed without a move") << 3 << QList<int>() << close << 3;
+        QTest::newRow("OK") << 0 << QList<int>{-12, 20} << ok << 20;
+        QTest::newRow("OK after moving away and back") << 4 << QList<int>{9, 4} << ok << 4;
+        QTest::newRow("OK below the range") << -99 << QList<int>{-19, -20} << ok << -20;
+        QTest::newRow("Cancel") << -3 << QList<int>{7} << cancel << -3;
+        QTest::newRow("closed") << -3 << QList<int>{7} << close << -3;
+        QTest::newRow("Escape") << -3 << QList<int>{7} << escape << -3;
+    }
+
+    void onlyOkAfterAMoveReturnsTheSlidersValue()
+    {
+        QFETCH(int, current);
+        QFETCH(QList<int>, moves);
+        QFETCH(Act, leave);
+        const auto act = [&](const Parts &parts) {
+            QVERIFY(!parts.ok->isEnabled());
+            parts.ok->click();
+            QVERIFY(parts.dialog->isVisible());
+            parts.slider->setValue(parts.slider->value()); // no change, no signal
+            QVERIFY(!parts.ok->isEnabled());
+            for (const int value : moves) {
+                parts.slider->setValue(value);
+                QVERIFY(parts.ok->isEnabled());
+            }
+            leave(parts);
+        };
+        QTEST(ask(current, act), "answer");
+    }
+
+    void theKeyboardMovesTheSlider()
+    {
+        const auto act = [](const Parts &parts) {
+            QTest::keyClick(parts.slider, Qt::Key_Right);
+            QTest::keyClick(parts.slider, Qt::Key_PageUp);
+            QCOMPARE(parts.value->text(), QStringLiteral("2"));
+            parts.ok->click();
+        };
+        QCOMPARE(ask(0, act), 2);
+    }
+
+    void aValueOutsideTheRangeIsShownButNotClamped()
+    {
+        const auto look = [](const Parts &parts) {
+            QCOMPARE(parts.slider->value(), 20);
+            QCOMPARE(parts.value->text(), QStringLiteral("99"));
+            parts.dialog->close();
+        };
+        QCOMPARE(ask(99, look), 99);
+    }
+
+    void updateWithoutADialogDoesNothing()
+    {
+        DlgNice asker(nullptr);
+        asker.update(7);
+        const ModalDriver driver(closing());
+        QCOMPARE(asker.askPriority(1), 1);
+        asker.update(7);
+    }
+
+    void theSameObjectAsksAgain()
+    {
+        DlgNice asker(nullptr);
+        const auto choose = [](QWidget *dialog) {
+            const Parts parts(dialog);
+            QVERIFY(!parts.ok->isEnabled());
+            parts.slider->setValue(parts.slider->value() + 1);
+            parts.ok->click();
+        };
+        const ModalDriver driver({choose, choose});
+        QCOMPARE(asker.askPriority(1), 2);
+        QCOMPARE(asker.askPriority(5), 6);
+    }
+};
 
 QTEST_MAIN(TestDlgNice)
 #include "test_dlgnice.moc"

@@ -114,261 +114,249 @@ class TestFiller : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void thereIsOneFillerWith14Columns();
-    void column_data();
-    void column();
-    void snapshotIsAscendingWithEveryColumnFilled();
-    void valuesOfTheTestItself();
-    void kernelThreadsAreListedWithTheirNamesInBrackets();
-    void theEffectiveUserDecidesWhatIsMine_data();
-    void theEffectiveUserDecidesWhatIsMine();
-    void counterOnlyGrowsInTheUnitOfTheMachinesTotal();
-    void cellOfAChild_data();
-    void cellOfAChild();
-    void startStaysTheSame();
-    void processesThatComeAndGoAreNeverHalfRead();
-};
-
-void TestFiller::thereIsOneFillerWith14Columns()
-{
-    QVERIFY(ProcessFiller::instance());
-    QCOMPARE(ProcessFiller::instance(), ProcessFiller::instance());
-    QCOMPARE(filler()->size(), 14UL);
-}
-
-void TestFiller::column_data()
-{
-    QTest::addColumn<qulonglong>("number");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isShown");
-    const char *const names[] = {
-        "Name",          "CPU",  "PID",        "User",     "Memory",  "State",        "Virtual memory",
-        "Shared memory", "Nice", "Parent PID", "CPU time", "Started", "Command line", "Processor"};
-    qulonglong number = 0;
-    for (const char *name : names) {
-        const bool isHidden = number >= VirtualMemoryColumn && number <= ParentPidColumn;
-        QTest::newRow(name) << number++ << QString::fromLatin1(name) << !isHidden;
+    void thereIsOneFillerWith14Columns()
+    {
+        QVERIFY(ProcessFiller::instance());
+        QCOMPARE(ProcessFiller::instance(), ProcessFiller::instance());
+        QCOMPARE(filler()->size(), 14UL);
     }
-    QTest::newRow("past the end") << 14ULL << QString() << false;
-    QTest::newRow("far past the end") << std::numeric_limits<qulonglong>::max() << QString() << false;
-}
 
-void TestFiller::column()
-{
-    QFETCH(qulonglong, number);
-    QFETCH(QString, name);
-    QTEST(filler()->isShownByDefault(number), "isShown");
-    QCOMPARE(filler()->name(number), name);
-    QCOMPARE(filler()->title(number), name);
-    Translator translator;
-    QCoreApplication::installTranslator(&translator);
-    const QString translatedName = filler()->name(number);
-    const QString translatedTitle = filler()->title(number);
-    QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(translatedName, name); // settings keys are made from it
-    QCOMPARE(translatedTitle, name.isEmpty() ? QString() : QLatin1Char('<') + name);
-}
-
-void TestFiller::snapshotIsAscendingWithEveryColumnFilled()
-{
-    const ScriptedChild child([](const Gate &) {});
-    const auto all = filler()->getProcesses(AllProcesses);
-    int last = 0;
-    for (const auto &[pid, process] : all) {
-        QVERIFY(pid > last);
-        last = pid;
-        QCOMPARE(process.pid(), pid);
-        QCOMPARE(process.params.size(), std::size_t(filler()->size()));
-        for (unsigned long i = 0; i < filler()->size(); ++i) {
-            QVERIFY(process.getParam(i));
-            QVERIFY(i == CpuColumn || process.getParam(i)->displayValue().isValid());
+    void column_data()
+    {
+        QTest::addColumn<qulonglong>("number");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isShown");
+        const char *const names[] = {
+            "Name",          "CPU",  "PID",        "User",     "Memory",  "State",        "Virtual memory",
+            "Shared memory", "Nice", "Parent PID", "CPU time", "Started", "Command line", "Processor"};
+        qulonglong number = 0;
+        for (const char *name : names) {
+            const bool isHidden = number >= VirtualMemoryColumn && number <= ParentPidColumn;
+            QTest::newRow(name) << number++ << QString::fromLatin1(name) << !isHidden;
         }
-        QVERIFY(dynamic_cast<CpuProcessParam *>(process.getParam(CpuColumn).get()));
-        QVERIFY(dynamic_cast<IntProcessParam *>(process.getParam(StateColumn).get()));
+        QTest::newRow("past the end") << 14ULL << QString() << false;
+        QTest::newRow("far past the end") << std::numeric_limits<qulonglong>::max() << QString() << false;
     }
-    QCOMPARE(all.at(child.pid()).getPPid(), int(getpid()));
-    QCOMPARE(all.count(getpid()), std::size_t(1));
-    QCOMPARE(all.count(1), std::size_t(1));
-}
 
-void TestFiller::valuesOfTheTestItself()
-{
-    const Process self = filler()->getProcesses(MyProcesses).at(getpid());
-    QCOMPARE(self.getName(), QStringLiteral("test_filler"));
-    QCOMPARE(self.getPPid(), int(getppid()));
-    QCOMPARE(sorted(self, PidColumn), QVariant(int(getpid())));
-    QCOMPARE(shown(self, UserColumn), QString::fromLocal8Bit(getpwuid(geteuid())->pw_name));
-    const auto resident = sorted(self, MemoryColumn).toULongLong();
-    const auto shared = sorted(self, SharedMemoryColumn).toULongLong();
-    const auto virtualSize = sorted(self, VirtualMemoryColumn).toULongLong();
-    QVERIFY(resident > 1048576); // bytes, not pages
-    QVERIFY(shared > 0 && shared < resident && resident < virtualSize);
-    const auto started = sorted(self, StartedColumn).toLongLong();
-    const auto now = QDateTime::currentSecsSinceEpoch();
-    QVERIFY(started <= now + 5 && started > now - 86400);
-    QVERIFY(shown(self, CommandLineColumn).contains(QLatin1String("test_filler")));
-}
-
-void TestFiller::kernelThreadsAreListedWithTheirNamesInBrackets()
-{
-    if (shown(2, NameColumn) != QLatin1String("kthreadd")) {
-        QSKIP("no kernel threads are visible here");
+    void column()
+    {
+        QFETCH(qulonglong, number);
+        QFETCH(QString, name);
+        QTEST(filler()->isShownByDefault(number), "isShown");
+        QCOMPARE(filler()->name(number), name);
+        QCOMPARE(filler()->title(number), name);
+        Translator translator;
+        QCoreApplication::installTranslator(&translator);
+        const QString translatedName = filler()->name(number);
+        const QString translatedTitle = filler()->title(number);
+        QCoreApplication::removeTranslator(&translator);
+        QCOMPARE(translatedName, name); // settings keys are made from it
+        QCOMPARE(translatedTitle, name.isEmpty() ? QString() : QLatin1Char('<') + name);
     }
-    QCOMPARE(shown(2, CommandLineColumn), QStringLiteral("[kthreadd]"));
-    QCOMPARE(sorted(2, MemoryColumn).toULongLong(), 0ULL);
-    QCOMPARE(sorted(2, ParentPidColumn), QVariant(0));
-}
 
-void TestFiller::theEffectiveUserDecidesWhatIsMine_data()
-{
-    QTest::addColumn<uid_t>("real");
-    QTest::addColumn<uid_t>("effective");
-    QTest::newRow("other user") << uid_t(65534) << uid_t(65534);
-    QTest::newRow("other effective user") << uid_t(0) << uid_t(65534);
-    QTest::newRow("other real user") << uid_t(65534) << uid_t(0);
-}
-
-void TestFiller::theEffectiveUserDecidesWhatIsMine()
-{
-    if (geteuid() != 0) {
-        QSKIP("only root can start a process of another user");
-    }
-    QFETCH(uid_t, real);
-    QFETCH(uid_t, effective);
-    const ScriptedChild child([real, effective](const Gate &) {
-        if (setreuid(real, effective) != 0) {
-            _exit(1);
-        }
-    });
-    QTRY_COMPARE_WITH_TIMEOUT(realUserOf(child.pid()), real, deadline);
-    const bool isMine = effective == 0;
-    const QString root = QString::fromLocal8Bit(getpwuid(0)->pw_name);
-    QTRY_COMPARE_WITH_TIMEOUT(shown(child.pid(), UserColumn) == root, isMine, deadline);
-    QCOMPARE(listed(child.pid(), MyProcesses), isMine);
-    QVERIFY(listed(child.pid(), AllProcesses));
-    QVERIFY(listed(getpid(), MyProcesses));
-    QVERIFY(listed(getpid(), AllProcesses));
-}
-
-void TestFiller::counterOnlyGrowsInTheUnitOfTheMachinesTotal()
-{
-    glibtop_cpu total;
-    const ScriptedChild child([](const Gate &) {
-        for (volatile unsigned i = 0;; i = i + 1) {
-        }
-    });
-    glibtop_get_cpu(&total);
-    const quint64 totalBefore = total.total;
-    const int before = counterOf(child.pid());
-    QVERIFY(before >= 0);
-
-    quint64 last = 0;
-    bool fell = false;
-    const auto next = [&] {
-        const quint64 now = sorted(child.pid(), CpuTimeColumn).toULongLong();
-        fell = fell || now < last;
-        last = now;
-        return now;
-    };
-    QTRY_VERIFY_WITH_TIMEOUT(next() >= quint64(before) + 30, deadline);
-    QVERIFY(!fell);
-
-    const double secondsBefore = cpuSeconds(child.pid());
-    const int counter = counterOf(child.pid());
-    const double secondsAfter = cpuSeconds(child.pid());
-    QVERIFY(quint64(counter) >= last);
-    glibtop_get_cpu(&total);
-    QVERIFY(total.frequency > 0);
-    // At most what the whole machine had in that time.
-    QVERIFY(quint64(counter - before) <= total.total - totalBefore + 2);
-    const double seconds = counter / double(total.frequency);
-    QVERIFY2(seconds > secondsBefore - 0.05 && seconds < secondsAfter + 0.05,
-             qPrintable(QString::number(seconds)));
-    QCOMPARE(shown(child.pid(), CpuTimeColumn).count(QLatin1Char(':')), 2);
-}
-
-void TestFiller::cellOfAChild_data()
-{
-    QTest::addColumn<Body>("body");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QVariant>("sortValue");
-    const auto state = [](const char *name, const Body &body, const char *text, unsigned code) {
-        QTest::newRow(name) << body << int(StateColumn) << text << QVariant(int(code));
-    };
-    state("stopped", &stopItself, "Stopped", 16);
-    state("zombie", &becomeZombie, "Zombie", GLIBTOP_PROCESS_ZOMBIE);
-    state("uninterruptible", &waitUninterruptibly, "Uninterruptible", GLIBTOP_PROCESS_UNINTERRUPTIBLE);
-    state("traced", &beTraced, "Other", 0);
-    const auto text = [](const char *name, const Body &body, ProcessColumn column, const QString &shown) {
-        QTest::newRow(name) << body << int(column) << shown << QVariant(shown);
-    };
-    const QString broken(QChar::ReplacementCharacter);
-    const QByteArray huge(100 * 1024, 'x');
-    const Body rename = [](const Gate &) { prctl(PR_SET_NAME, "\xff) S 1\n("); };
-    const Body breakLines = [](const Gate &) { execSleep("two\nlines\tand \xff\xe2\x80\xae"); };
-    const Body takeHugeTitle = [huge](const Gate &) { execSleep(huge.constData()); };
-    text("name that is not UTF-8", rename, NameColumn, broken + ") S 1 (");
-    text("arguments of a zombie", &becomeZombie, CommandLineColumn, "[gone soon]");
-    text("line breaks in arguments", breakLines, CommandLineColumn,
-         "two lines and " + broken + broken + " 1000");
-    text("huge arguments", takeHugeTitle, CommandLineColumn, QString(1023, QLatin1Char('x')) + QChar(0x2026));
-}
-
-void TestFiller::cellOfAChild()
-{
-    QFETCH(Body, body);
-    QFETCH(int, column);
-    QFETCH(QString, text);
-    const ScriptedChild child(body);
-    QTRY_COMPARE_WITH_TIMEOUT(shown(child.pid(), ProcessColumn(column)), text, deadline);
-    QTEST(sorted(child.pid(), ProcessColumn(column)), "sortValue");
-}
-
-void TestFiller::startStaysTheSame()
-{
-    const ScriptedChild child([](const Gate &) {});
-    const QVariant start = sorted(child.pid(), StartedColumn);
-    const QString text = shown(child.pid(), StartedColumn);
-    for (int i = 0; i < 20; ++i) {
-        QCOMPARE(sorted(child.pid(), StartedColumn), start);
-    }
-    const QDateTime time = QDateTime::fromSecsSinceEpoch(start.toLongLong());
-    QCOMPARE(text, time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
-}
-
-void TestFiller::processesThatComeAndGoAreNeverHalfRead()
-{
-    const ScriptedChild spawner([](const Gate &) {
-        for (;;) {
-            const int pid = fork();
-            if (pid == 0) {
-                _exit(0);
-            }
-            waitpid(pid, nullptr, 0);
-        }
-    });
-    int seen = 0;
-    const auto isWhole = [&spawner, &seen](const auto &entry) {
-        const Process &process = entry.second;
-        if (process.getPPid() != spawner.pid()) {
-            return true;
-        }
-        ++seen;
-        const auto &params = process.params;
-        return params.size() == filler()->size() && std::count(params.begin(), params.end(), nullptr) == 0 &&
-               process.getName() == QLatin1String("test_filler") &&
-               sorted(process, StartedColumn).toULongLong() != 0;
-    };
-    const auto look = [&isWhole] {
+    void snapshotIsAscendingWithEveryColumnFilled()
+    {
+        const ScriptedChild child([](const Gate &) {});
         const auto all = filler()->getProcesses(AllProcesses);
-        return std::all_of(all.begin(), all.end(), isWhole);
-    };
-    for (int i = 0; i < 200; ++i) {
-        QVERIFY(look());
+        int last = 0;
+        for (const auto &[pid, process] : all) {
+            QVERIFY(pid > last);
+            last = pid;
+            QCOMPARE(process.pid(), pid);
+            QCOMPARE(process.params.size(), std::size_t(filler()->size()));
+            for (unsigned long i = 0; i < filler()->size(); ++i) {
+                QVERIFY(process.getParam(i));
+                QVERIFY(i == CpuColumn || process.getParam(i)->displayValue().isValid());
+            }
+            QVERIFY(dynamic_cast<CpuProcessParam *>(process.getParam(CpuColumn).get()));
+            QVERIFY(dynamic_cast<IntProcessParam *>(process.getParam(StateColumn).get()));
+        }
+        QCOMPARE(all.at(child.pid()).getPPid(), int(getpid()));
+        QCOMPARE(all.count(getpid()), std::size_t(1));
+        QCOMPARE(all.count(1), std::size_t(1));
     }
-    QTRY_VERIFY_WITH_TIMEOUT(look() && seen > 0, deadline);
-}
+
+    void valuesOfTheTestItself()
+    {
+        const Process self = filler()->getProcesses(MyProcesses).at(getpid());
+        QCOMPARE(self.getName(), QStringLiteral("test_filler"));
+        QCOMPARE(self.getPPid(), int(getppid()));
+        QCOMPARE(sorted(self, PidColumn), QVariant(int(getpid())));
+        QCOMPARE(shown(self, UserColumn), QString::fromLocal8Bit(getpwuid(geteuid())->pw_name));
+        const auto resident = sorted(self, MemoryColumn).toULongLong();
+        const auto shared = sorted(self, SharedMemoryColumn).toULongLong();
+        const auto virtualSize = sorted(self, VirtualMemoryColumn).toULongLong();
+        QVERIFY(resident > 1048576); // bytes, not pages
+        QVERIFY(shared > 0 && shared < resident && resident < virtualSize);
+        const auto started = sorted(self, StartedColumn).toLongLong();
+        const auto now = QDateTime::currentSecsSinceEpoch();
+        QVERIFY(started <= now + 5 && started > now - 86400);
+        QVERIFY(shown(self, CommandLineColumn).contains(QLatin1String("test_filler")));
+    }
+
+    void kernelThreadsAreListedWithTheirNamesInBrackets()
+    {
+        if (shown(2, NameColumn) != QLatin1String("kthreadd")) {
+            QSKIP("no kernel threads are visible here");
+        }
+        QCOMPARE(shown(2, CommandLineColumn), QStringLiteral("[kthreadd]"));
+        QCOMPARE(sorted(2, MemoryColumn).toULongLong(), 0ULL);
+        QCOMPARE(sorted(2, ParentPidColumn), QVariant(0));
+    }
+
+    void theEffectiveUserDecidesWhatIsMine_data()
+    {
+        QTest::addColumn<uid_t>("real");
+        QTest::addColumn<uid_t>("effective");
+        QTest::newRow("other user") << uid_t(65534) << uid_t(65534);
+        QTest::newRow("other effective user") << uid_t(0) << uid_t(65534);
+        QTest::newRow("other real user") << uid_t(65534) << uid_t(0);
+    }
+
+    void theEffectiveUserDecidesWhatIsMine()
+    {
+        if (geteuid() != 0) {
+            QSKIP("only root can start a process of another user");
+        }
+        QFETCH(uid_t, real);
+        QFETCH(uid_t, effective);
+        const ScriptedChild child([real, effective](const Gate &) {
+            if (setreuid(real, effective) != 0) {
+                _exit(1);
+            }
+        });
+        QTRY_COMPARE_WITH_TIMEOUT(realUserOf(child.pid()), real, deadline);
+        const bool isMine = effective == 0;
+        const QString root = QString::fromLocal8Bit(getpwuid(0)->pw_name);
+        QTRY_COMPARE_WITH_TIMEOUT(shown(child.pid(), UserColumn) == root, isMine, deadline);
+        QCOMPARE(listed(child.pid(), MyProcesses), isMine);
+        QVERIFY(listed(child.pid(), AllProcesses));
+        QVERIFY(listed(getpid(), MyProcesses));
+        QVERIFY(listed(getpid(), AllProcesses));
+    }
+
+    void counterOnlyGrowsInTheUnitOfTheMachinesTotal()
+    {
+        glibtop_cpu total;
+        const ScriptedChild child([](const Gate &) {
+            for (volatile unsigned i = 0;; i = i + 1) {
+            }
+        });
+        glibtop_get_cpu(&total);
+        const quint64 totalBefore = total.total;
+        const int before = counterOf(child.pid());
+        QVERIFY(before >= 0);
+
+        quint64 last = 0;
+        bool fell = false;
+        const auto next = [&] {
+            const quint64 now = sorted(child.pid(), CpuTimeColumn).toULongLong();
+            fell = fell || now < last;
+            last = now;
+            return now;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(next() >= quint64(before) + 30, deadline);
+        QVERIFY(!fell);
+
+        const double secondsBefore = cpuSeconds(child.pid());
+        const int counter = counterOf(child.pid());
+        const double secondsAfter = cpuSeconds(child.pid());
+        QVERIFY(quint64(counter) >= last);
+        glibtop_get_cpu(&total);
+        QVERIFY(total.frequency > 0);
+        // At most what the whole machine had in that time.
+        QVERIFY(quint64(counter - before) <= total.total - totalBefore + 2);
+        const double seconds = counter / double(total.frequency);
+        QVERIFY2(seconds > secondsBefore - 0.05 && seconds < secondsAfter + 0.05,
+                 qPrintable(QString::number(seconds)));
+        QCOMPARE(shown(child.pid(), CpuTimeColumn).count(QLatin1Char(':')), 2);
+    }
+
+    void cellOfAChild_data()
+    {
+        QTest::addColumn<Body>("body");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QVariant>("sortValue");
+        const auto state = [](const char *name, const Body &body, const char *text, unsigned code) {
+            QTest::newRow(name) << body << int(StateColumn) << text << QVariant(int(code));
+        };
+        state("stopped", &stopItself, "Stopped", 16);
+        state("zombie", &becomeZombie, "Zombie", GLIBTOP_PROCESS_ZOMBIE);
+        state("uninterruptible", &waitUninterruptibly, "Uninterruptible", GLIBTOP_PROCESS_UNINTERRUPTIBLE);
+        state("traced", &beTraced, "Other", 0);
+        const auto text = [](const char *name, const Body &body, ProcessColumn column, const QString &shown) {
+            QTest::newRow(name) << body << int(column) << shown << QVariant(shown);
+        };
+        const QString broken(QChar::ReplacementCharacter);
+        const QByteArray huge(100 * 1024, 'x');
+        const Body rename = [](const Gate &) { prctl(PR_SET_NAME, "\xff) S 1\n("); };
+        const Body breakLines = [](const Gate &) { execSleep("two\nlines\tand \xff\xe2\x80\xae"); };
+        const Body takeHugeTitle = [huge](const Gate &) { execSleep(huge.constData()); };
+        text("name that is not UTF-8", rename, NameColumn, broken + ") S 1 (");
+        text("arguments of a zombie", &becomeZombie, CommandLineColumn, "[gone soon]");
+        text("line breaks in arguments", breakLines, CommandLineColumn,
+             "two lines and " + broken + broken + " 1000");
+        text("huge arguments", takeHugeTitle, CommandLineColumn,
+             QString(1023, QLatin1Char('x')) + QChar(0x2026));
+    }
+
+    void cellOfAChild()
+    {
+        QFETCH(Body, body);
+        QFETCH(int, column);
+        QFETCH(QString, text);
+        const ScriptedChild child(body);
+        QTRY_COMPARE_WITH_TIMEOUT(shown(child.pid(), ProcessColumn(column)), text, deadline);
+        QTEST(sorted(child.pid(), ProcessColumn(column)), "sortValue");
+    }
+
+    void startStaysTheSame()
+    {
+        const ScriptedChild child([](const Gate &) {});
+        const QVariant start = sorted(child.pid(), StartedColumn);
+        const QString text = shown(child.pid(), StartedColumn);
+        for (int i = 0; i < 20; ++i) {
+            QCOMPARE(sorted(child.pid(), StartedColumn), start);
+        }
+        const QDateTime time = QDateTime::fromSecsSinceEpoch(start.toLongLong());
+        QCOMPARE(text, time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")));
+    }
+
+    void processesThatComeAndGoAreNeverHalfRead()
+    {
+        const ScriptedChild spawner([](const Gate &) {
+            for (;;) {
+                const int pid = fork();
+                if (pid == 0) {
+                    _exit(0);
+                }
+                waitpid(pid, nullptr, 0);
+            }
+        });
+        int seen = 0;
+        const auto isWhole = [&spawner, &seen](const auto &entry) {
+            const Process &process = entry.second;
+            if (process.getPPid() != spawner.pid()) {
+                return true;
+            }
+            ++seen;
+            const auto &params = process.params;
+            return params.size() == filler()->size() &&
+                   std::count(params.begin(), params.end(), nullptr) == 0 &&
+                   process.getName() == QLatin1String("test_filler") &&
+                   sorted(process, StartedColumn).toULongLong() != 0;
+        };
+        const auto look = [&isWhole] {
+            const auto all = filler()->getProcesses(AllProcesses);
+            return std::all_of(all.begin(), all.end(), isWhole);
+        };
+        for (int i = 0; i < 200; ++i) {
+            QVERIFY(look());
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(look() && seen > 0, deadline);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestFiller)
 #include "test_filler.moc"

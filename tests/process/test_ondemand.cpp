@@ -24,100 +24,91 @@ class TestOnDemand : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void nothingIsReadBeforeACellAsks();
-    void isReadOncePerSnapshot();
-    void unchangedProcessKeepsItsObjects();
-    void emptyCommandLineFollowsTheName();
-    void exitedProcessKeepsWhatWasLastReadOrIsEmpty();
-    void valuesOfAProcessThatReusesThePidAreNotShown();
-    void eagerColumnsAreReadWithTheSnapshot();
-};
-
-void TestOnDemand::init()
-{
-    ProcessFiller::instance()->setEagerColumns(std::vector<bool>(ColumnCount, false));
-    standin::machine().processes.emplace();
-    snapshot(); // forgets the processes of the test before
-    madeup::setUp();
-}
-
-void TestOnDemand::nothingIsReadBeforeACellAsks()
-{
-    const Process process = snapshot().at(11);
-    at(11).resident = 2048;
-    at(11).arguments = std::string("later\0", 6);
-    at(11).nice = 5;
-    QCOMPARE(shown(process, MemoryColumn), QStringLiteral("2.00 KB"));
-    QCOMPARE(sorted(process, MemoryColumn), QVariant(quint64(2048)));
-    QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("later"));
-    QCOMPARE(sorted(process, NiceColumn), QVariant(5));
-    QCOMPARE(sorted(process, NiceColumn).type(), QVariant::Int);
-}
-
-void TestOnDemand::isReadOncePerSnapshot()
-{
-    const Process process = snapshot().at(11);
-    QCOMPARE(sorted(process, MemoryColumn), QVariant(quint64(1024)));
-    at(11).resident = 2048;
-    QCOMPARE(sorted(process, MemoryColumn), QVariant(quint64(1024)));
-    QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
-    QCOMPARE(sorted(snapshot().at(11), MemoryColumn), QVariant(quint64(2048)));
-}
-
-void TestOnDemand::unchangedProcessKeepsItsObjects()
-{
-    const Process before = snapshot().at(11);
-    const Process process = snapshot().at(11);
-    for (unsigned long i = 0; i < ColumnCount; ++i) {
-        QVERIFY(process.getParam(i));
-        QCOMPARE(process.getParam(i) == before.getParam(i), i != CpuColumn);
+    void init()
+    {
+        ProcessFiller::instance()->setEagerColumns(std::vector<bool>(ColumnCount, false));
+        standin::machine().processes.emplace();
+        snapshot(); // forgets the processes of the test before
+        madeup::setUp();
     }
-}
 
-void TestOnDemand::emptyCommandLineFollowsTheName()
-{
-    at(11).arguments.clear();
-    const Process process = snapshot().at(11);
-    QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("[some]"));
-    at(11).name = "renamed";
-    QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("[some]"));
-    QCOMPARE(shown(snapshot().at(11), CommandLineColumn), QStringLiteral("[renamed]"));
-}
+    void nothingIsReadBeforeACellAsks()
+    {
+        const Process process = snapshot().at(11);
+        at(11).resident = 2048;
+        at(11).arguments = std::string("later\0", 6);
+        at(11).nice = 5;
+        QCOMPARE(shown(process, MemoryColumn), QStringLiteral("2.00 KB"));
+        QCOMPARE(sorted(process, MemoryColumn), QVariant(quint64(2048)));
+        QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("later"));
+        QCOMPARE(sorted(process, NiceColumn), QVariant(5));
+        QCOMPARE(sorted(process, NiceColumn).type(), QVariant::Int);
+    }
 
-void TestOnDemand::exitedProcessKeepsWhatWasLastReadOrIsEmpty()
-{
-    const Process process = snapshot().at(11);
-    QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
-    madeup::remove(11);
-    snapshot();
-    QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
-    QCOMPARE(shown(process, CommandLineColumn), QString());
-    QCOMPARE(shown(process, NiceColumn), QString());
-    const Process other = snapshot().at(10);
-    madeup::remove(10);
-    QCOMPARE(shown(other, VirtualMemoryColumn), QString());
-    QCOMPARE(sorted(other, VirtualMemoryColumn), QVariant(quint64(0)));
-}
+    void isReadOncePerSnapshot()
+    {
+        const Process process = snapshot().at(11);
+        QCOMPARE(sorted(process, MemoryColumn), QVariant(quint64(1024)));
+        at(11).resident = 2048;
+        QCOMPARE(sorted(process, MemoryColumn), QVariant(quint64(1024)));
+        QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
+        QCOMPARE(sorted(snapshot().at(11), MemoryColumn), QVariant(quint64(2048)));
+    }
 
-void TestOnDemand::valuesOfAProcessThatReusesThePidAreNotShown()
-{
-    const Process process = snapshot().at(11);
-    at(11).startTime = madeup::now;
-    at(11).resident = 4096;
-    QCOMPARE(shown(process, MemoryColumn), QString());
-    QCOMPARE(shown(snapshot().at(11), MemoryColumn), QStringLiteral("4.00 KB"));
-}
+    void unchangedProcessKeepsItsObjects()
+    {
+        const Process before = snapshot().at(11);
+        const Process process = snapshot().at(11);
+        for (unsigned long i = 0; i < ColumnCount; ++i) {
+            QVERIFY(process.getParam(i));
+            QCOMPARE(process.getParam(i) == before.getParam(i), i != CpuColumn);
+        }
+    }
 
-void TestOnDemand::eagerColumnsAreReadWithTheSnapshot()
-{
-    std::vector<bool> eager(ColumnCount, false);
-    eager[MemoryColumn] = true;
-    ProcessFiller::instance()->setEagerColumns(eager);
-    const Process process = snapshot().at(11);
-    at(11).resident = 2048;
-    QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
-}
+    void emptyCommandLineFollowsTheName()
+    {
+        at(11).arguments.clear();
+        const Process process = snapshot().at(11);
+        QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("[some]"));
+        at(11).name = "renamed";
+        QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("[some]"));
+        QCOMPARE(shown(snapshot().at(11), CommandLineColumn), QStringLiteral("[renamed]"));
+    }
+
+    void exitedProcessKeepsWhatWasLastReadOrIsEmpty()
+    {
+        const Process process = snapshot().at(11);
+        QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
+        madeup::remove(11);
+        snapshot();
+        QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
+        QCOMPARE(shown(process, CommandLineColumn), QString());
+        QCOMPARE(shown(process, NiceColumn), QString());
+        const Process other = snapshot().at(10);
+        madeup::remove(10);
+        QCOMPARE(shown(other, VirtualMemoryColumn), QString());
+        QCOMPARE(sorted(other, VirtualMemoryColumn), QVariant(quint64(0)));
+    }
+
+    void valuesOfAProcessThatReusesThePidAreNotShown()
+    {
+        const Process process = snapshot().at(11);
+        at(11).startTime = madeup::now;
+        at(11).resident = 4096;
+        QCOMPARE(shown(process, MemoryColumn), QString());
+        QCOMPARE(shown(snapshot().at(11), MemoryColumn), QStringLiteral("4.00 KB"));
+    }
+
+    void eagerColumnsAreReadWithTheSnapshot()
+    {
+        std::vector<bool> eager(ColumnCount, false);
+        eager[MemoryColumn] = true;
+        ProcessFiller::instance()->setEagerColumns(eager);
+        const Process process = snapshot().at(11);
+        at(11).resident = 2048;
+        QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestOnDemand)
 #include "test_ondemand.moc"

@@ -20,111 +20,104 @@ class TestParents : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void isReadOnlyOnceAndAlone();
-    void isReadAgain_data();
-    void isReadAgain();
+    void init()
+    {
+        madeup::setUp();
+        parents = Parents();
+        clock = StartClock();
+        time = StartClock::Time();
+        eager = 0;
+    }
+
+    void isReadOnlyOnceAndAlone()
+    {
+        resolved();
+        at(11).nice = 5;
+        standin::resetCalls();
+        const ProcessRecord record = resolved();
+        // State and time of four; the parents of 1, which has none, and of the young 99, with their start.
+        QCOMPARE(standin::calls().processData, 4U * 2 + 2 * 2);
+        QCOMPARE(record.parent, 10);
+        QCOMPARE(record.nice, 0);
+        QCOMPARE(record.unread, unsigned(ReadUid | ReadMemory | ReadArguments));
+    }
+
+    void isReadAgain_data()
+    {
+        QTest::addColumn<Change>("prepare");
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<int>("parent");
+        const auto row = [](const char *name, const Change &prepare, const Change &change, int parent = 1) {
+            QTest::newRow(name) << prepare << change << parent;
+        };
+        const Change nothing = [] {};
+        const Change passASecond = [this] { time += std::chrono::seconds(1); };
+        row("not while both run", nothing, nothing, 10);
+        row("parent exited", nothing, [] { madeup::remove(10); });
+        row("parent is a zombie", nothing, [] { at(10).state = GLIBTOP_PROCESS_ZOMBIE; });
+        row("parent is dead", nothing, [] { at(10).state = GLIBTOP_PROCESS_DEAD; });
+        row("parent's pid was reused", nothing, [] { at(10).startTime = now; });
+        row("pid was reused", nothing, [] { at(11).startTime = now - 39; });
+        const Change hadNoParent = [] { at(11).parent = 0; };
+        row("process had no parent", hadNoParent, nothing);
+        const Change wasNotListed = [] { at(11).parent = 77; };
+        row("parent was not listed", wasNotListed, nothing);
+        const Change comeBack = [this] {
+            const auto process = at(11);
+            madeup::remove(11);
+            resolved();
+            standin::machine().processes->insert({11, process});
+        };
+        row("process was not listed for a while", nothing, comeBack);
+        const Change childIsYoung = [] { at(11).startTime = now; };
+        row("process was young", childIsYoung, passASecond);
+        const Change parentIsYoung = [] { at(10).startTime = now; };
+        row("parent was young", parentIsYoung, passASecond);
+        const Change readYoungEntirely = [this] {
+            at(11).startTime = now;
+            eager = ReadUid;
+        };
+        const Change growOld = [this] {
+            time += std::chrono::seconds(1);
+            eager = 0;
+        };
+        row("process was young and its nice value eager", readYoungEntirely, growOld);
+        row("nice value became eager", nothing, [this] { eager = ReadUid; });
+    }
+
+    void isReadAgain()
+    {
+        QFETCH(Change, prepare);
+        QFETCH(Change, change);
+        prepare();
+        const int before = at(11).parent;
+        for (int i = 0; i < 2; ++i) {
+            QCOMPARE(resolved().parent, before);
+        }
+        change();
+        at(11).parent = 1;
+        QTEST(resolved().parent, "parent");
+    }
 
 private:
-    ProcessRecord resolved();
+    /// Reads and resolves all processes; the record of 11.
+    ProcessRecord resolved()
+    {
+        std::vector<ProcessRecord> records = readProcesses(std::nullopt, ReadState | ReadTime | eager);
+        for (const ProcessRecord &record : records) {
+            clock.see(record.started, time);
+        }
+        parents.resolve(records, clock, time);
+        const auto found = std::find_if(records.begin(), records.end(),
+                                        [](const ProcessRecord &record) { return record.pid == 11; });
+        return found == records.end() ? ProcessRecord() : *found;
+    }
 
     Parents parents;
     StartClock clock;
     StartClock::Time time;
     unsigned eager = 0; ///< read of all processes besides state and time
 };
-
-void TestParents::init()
-{
-    madeup::setUp();
-    parents = Parents();
-    clock = StartClock();
-    time = StartClock::Time();
-    eager = 0;
-}
-
-/// Reads and resolves all processes; the record of 11.
-ProcessRecord TestParents::resolved()
-{
-    std::vector<ProcessRecord> records = readProcesses(std::nullopt, ReadState | ReadTime | eager);
-    for (const ProcessRecord &record : records) {
-        clock.see(record.started, time);
-    }
-    parents.resolve(records, clock, time);
-    const auto found = std::find_if(records.begin(), records.end(),
-                                    [](const ProcessRecord &record) { return record.pid == 11; });
-    return found == records.end() ? ProcessRecord() : *found;
-}
-
-void TestParents::isReadOnlyOnceAndAlone()
-{
-    resolved();
-    at(11).nice = 5;
-    standin::resetCalls();
-    const ProcessRecord record = resolved();
-    // State and time of four; the parents of 1, which has none, and of the young 99, with their start.
-    QCOMPARE(standin::calls().processData, 4U * 2 + 2 * 2);
-    QCOMPARE(record.parent, 10);
-    QCOMPARE(record.nice, 0);
-    QCOMPARE(record.unread, unsigned(ReadUid | ReadMemory | ReadArguments));
-}
-
-void TestParents::isReadAgain_data()
-{
-    QTest::addColumn<Change>("prepare");
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<int>("parent");
-    const auto row = [](const char *name, const Change &prepare, const Change &change, int parent = 1) {
-        QTest::newRow(name) << prepare << change << parent;
-    };
-    const Change nothing = [] {};
-    const Change passASecond = [this] { time += std::chrono::seconds(1); };
-    row("not while both run", nothing, nothing, 10);
-    row("parent exited", nothing, [] { madeup::remove(10); });
-    row("parent is a zombie", nothing, [] { at(10).state = GLIBTOP_PROCESS_ZOMBIE; });
-    row("parent is dead", nothing, [] { at(10).state = GLIBTOP_PROCESS_DEAD; });
-    row("parent's pid was reused", nothing, [] { at(10).startTime = now; });
-    row("pid was reused", nothing, [] { at(11).startTime = now - 39; });
-    const Change hadNoParent = [] { at(11).parent = 0; };
-    row("process had no parent", hadNoParent, nothing);
-    const Change wasNotListed = [] { at(11).parent = 77; };
-    row("parent was not listed", wasNotListed, nothing);
-    const Change comeBack = [this] {
-        const auto process = at(11);
-        madeup::remove(11);
-        resolved();
-        standin::machine().processes->insert({11, process});
-    };
-    row("process was not listed for a while", nothing, comeBack);
-    const Change childIsYoung = [] { at(11).startTime = now; };
-    row("process was young", childIsYoung, passASecond);
-    const Change parentIsYoung = [] { at(10).startTime = now; };
-    row("parent was young", parentIsYoung, passASecond);
-    const Change readYoungEntirely = [this] {
-        at(11).startTime = now;
-        eager = ReadUid;
-    };
-    const Change growOld = [this] {
-        time += std::chrono::seconds(1);
-        eager = 0;
-    };
-    row("process was young and its nice value eager", readYoungEntirely, growOld);
-    row("nice value became eager", nothing, [this] { eager = ReadUid; });
-}
-
-void TestParents::isReadAgain()
-{
-    QFETCH(Change, prepare);
-    QFETCH(Change, change);
-    prepare();
-    const int before = at(11).parent;
-    for (int i = 0; i < 2; ++i) {
-        QCOMPARE(resolved().parent, before);
-    }
-    change();
-    at(11).parent = 1;
-    QTEST(resolved().parent, "parent");
-}
 
 QTEST_GUILESS_MAIN(TestParents)
 #include "test_parents.moc"

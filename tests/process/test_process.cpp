@@ -29,93 +29,86 @@ class TestProcess : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void layoutIsPidAndValues();
-    void withoutValuesEverythingIsEmpty_data();
-    void withoutValuesEverythingIsEmpty();
-    void copyOfPidAndValuesAnswersTheSame();
-    void counterIsTheLow32Bits_data();
-    void counterIsTheLow32Bits();
-    void columnNumbersAreFixed();
-};
-
-void TestProcess::layoutIsPidAndValues()
-{
-    QVERIFY((std::is_same_v<decltype(Process::id), qint32>));
-    QVERIFY((std::is_same_v<decltype(Process::params), std::vector<std::tr1::shared_ptr<IProcessParam>>>));
-    QVERIFY(std::is_standard_layout_v<Process>);
-    struct Layout
+    void layoutIsPidAndValues()
     {
-        qint32 pid;
-        std::vector<std::tr1::shared_ptr<IProcessParam>> params;
-    };
-    QCOMPARE(offsetof(Process, id), offsetof(Layout, pid));
-    QCOMPARE(offsetof(Process, params), offsetof(Layout, params));
-    QCOMPARE(sizeof(Process), sizeof(Layout));
-}
-
-void TestProcess::withoutValuesEverythingIsEmpty_data()
-{
-    QTest::addColumn<unsigned long>("pointers");
-    QTest::newRow("no values") << 0UL;
-    QTest::newRow("null pointers") << (0UL + ColumnCount);
-}
-
-void TestProcess::withoutValuesEverythingIsEmpty()
-{
-    QFETCH(unsigned long, pointers);
-    Process process(-1);
-    process.params.resize(pointers);
-    QCOMPARE(process.pid(), -1);
-    QCOMPARE(process.getPPid(), 0);
-    QCOMPARE(process.getName(), QString());
-    QCOMPARE(process.getCpuLoad(), 0);
-    QVERIFY(!process.getParam(NameColumn));
-    QVERIFY(!process.getParam(ColumnCount));
-    QVERIFY(!process.getParam(std::numeric_limits<unsigned long>::max()));
-}
-
-void TestProcess::copyOfPidAndValuesAnswersTheSame()
-{
-    const Process process = processWith(QStringLiteral("bash"), 7, 1234);
-    Process kept(-1);
-    kept.id = process.id;
-    kept.params = process.params;
-    QCOMPARE(kept.pid(), 42);
-    QCOMPARE(kept.getName(), QStringLiteral("bash"));
-    QCOMPARE(kept.getPPid(), 7);
-    QCOMPARE(kept.getCpuLoad(), 1234);
-    QCOMPARE(kept.getParam(NameColumn).get(), process.getParam(NameColumn).get());
-}
-
-void TestProcess::counterIsTheLow32Bits_data()
-{
-    QTest::addColumn<quint64>("jiffies");
-    QTest::addColumn<int>("load");
-    QTest::newRow("highest positive") << quint64(0x7fffffff) << 0x7fffffff;
-    QTest::newRow("one more") << quint64(0x80000000) << std::numeric_limits<int>::min();
-    QTest::newRow("all bits") << quint64(0xffffffff) << -1;
-    QTest::newRow("wrapped") << quint64(0x100000005) << 5;
-    QTest::newRow("highest") << std::numeric_limits<quint64>::max() << -1;
-}
-
-void TestProcess::counterIsTheLow32Bits()
-{
-    QFETCH(quint64, jiffies);
-    QTEST(processWith(QString(), 0, jiffies).getCpuLoad(), "load");
-}
-
-void TestProcess::columnNumbersAreFixed()
-{
-    const int columns[] = {NameColumn,        CpuColumn,       PidColumn,           UserColumn,
-                           MemoryColumn,      StateColumn,     VirtualMemoryColumn, SharedMemoryColumn,
-                           NiceColumn,        ParentPidColumn, CpuTimeColumn,       StartedColumn,
-                           CommandLineColumn, ProcessorColumn, ColumnCount};
-    int expected = 0;
-    for (const int column : columns) {
-        QCOMPARE(column, expected++);
+        QVERIFY((std::is_same_v<decltype(Process::id), qint32>));
+        QVERIFY(
+            (std::is_same_v<decltype(Process::params), std::vector<std::tr1::shared_ptr<IProcessParam>>>));
+        QVERIFY(std::is_standard_layout_v<Process>);
+        struct Layout
+        {
+            qint32 pid;
+            std::vector<std::tr1::shared_ptr<IProcessParam>> params;
+        };
+        QCOMPARE(offsetof(Process, id), offsetof(Layout, pid));
+        QCOMPARE(offsetof(Process, params), offsetof(Layout, params));
+        QCOMPARE(sizeof(Process), sizeof(Layout));
     }
-    QCOMPARE(expected, 15);
-}
+
+    void withoutValuesEverythingIsEmpty_data()
+    {
+        QTest::addColumn<unsigned long>("pointers");
+        QTest::newRow("no values") << 0UL;
+        QTest::newRow("null pointers") << (0UL + ColumnCount);
+    }
+
+    void withoutValuesEverythingIsEmpty()
+    {
+        QFETCH(unsigned long, pointers);
+        Process process(-1);
+        process.params.resize(pointers);
+        QCOMPARE(process.pid(), -1);
+        QCOMPARE(process.getPPid(), 0);
+        QCOMPARE(process.getName(), QString());
+        QCOMPARE(process.getCpuLoad(), 0);
+        QVERIFY(!process.getParam(NameColumn));
+        QVERIFY(!process.getParam(ColumnCount));
+        QVERIFY(!process.getParam(std::numeric_limits<unsigned long>::max()));
+    }
+
+    void copyOfPidAndValuesAnswersTheSame()
+    {
+        const Process process = processWith(QStringLiteral("bash"), 7, 1234);
+        Process kept(-1);
+        kept.id = process.id;
+        kept.params = process.params;
+        QCOMPARE(kept.pid(), 42);
+        QCOMPARE(kept.getName(), QStringLiteral("bash"));
+        QCOMPARE(kept.getPPid(), 7);
+        QCOMPARE(kept.getCpuLoad(), 1234);
+        QCOMPARE(kept.getParam(NameColumn).get(), process.getParam(NameColumn).get());
+    }
+
+    void counterIsTheLow32Bits_data()
+    {
+        QTest::addColumn<quint64>("jiffies");
+        QTest::addColumn<int>("load");
+        QTest::newRow("highest positive") << quint64(0x7fffffff) << 0x7fffffff;
+        QTest::newRow("one more") << quint64(0x80000000) << std::numeric_limits<int>::min();
+        QTest::newRow("all bits") << quint64(0xffffffff) << -1;
+        QTest::newRow("wrapped") << quint64(0x100000005) << 5;
+        QTest::newRow("highest") << std::numeric_limits<quint64>::max() << -1;
+    }
+
+    void counterIsTheLow32Bits()
+    {
+        QFETCH(quint64, jiffies);
+        QTEST(processWith(QString(), 0, jiffies).getCpuLoad(), "load");
+    }
+
+    void columnNumbersAreFixed()
+    {
+        const int columns[] = {NameColumn,        CpuColumn,       PidColumn,           UserColumn,
+                               MemoryColumn,      StateColumn,     VirtualMemoryColumn, SharedMemoryColumn,
+                               NiceColumn,        ParentPidColumn, CpuTimeColumn,       StartedColumn,
+                               CommandLineColumn, ProcessorColumn, ColumnCount};
+        int expected = 0;
+        for (const int column : columns) {
+            QCOMPARE(column, expected++);
+        }
+        QCOMPARE(expected, 15);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestProcess)
 #include "test_process.moc"

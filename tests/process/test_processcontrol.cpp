@@ -25,223 +25,207 @@ class TestProcessControl : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void eachSignalReachesTheSelectedProcessOnly();
-    void whatIsNotConfirmedSendsNothing_data();
-    void whatIsNotConfirmedSendsNothing();
-
-    void aProcessThatExitedGivesTheErrorBox_data();
-    void aProcessThatExitedGivesTheErrorBox();
-    void anotherUsersProcessGivesTheErrorBox();
-    void noPidOfZeroOrBelowReachesTheKernel_data();
-    void noPidOfZeroOrBelowReachesTheKernel();
-    void aProcessGroupSurvivesItsNegativePid();
-    void anInvalidSignalGivesTheErrorBox();
-
-    void theProcessThatWasAskedAboutGetsTheSignal_data();
-    void theProcessThatWasAskedAboutGetsTheSignal();
-    void aStaleSelectionGetsTheSignal();
-};
-
-void TestProcessControl::eachSignalReachesTheSelectedProcessOnly()
-{
-    Child chosen;
-    Child other;
-    const Desk desk;
-    const ModalDriver driver(
-        {pressing(QMessageBox::Ok), pressing(QMessageBox::Ok), pressing(QMessageBox::Ok)});
-    desk.select(chosen.pid());
-    desk.trigger("Stop process");
-    QCOMPARE(chosen.waitForSignal(), SIGSTOP);
-    desk.select(chosen.pid(), stoppedState);
-    desk.trigger("Continue process");
-    QCOMPARE(chosen.waitForSignal(), SIGCONT);
-    desk.select(chosen.pid());
-    desk.trigger("Terminate process"); // SIGKILL: theProcessThatWasAskedAboutGetsTheSignal()
-    QCOMPARE(chosen.waitForSignal(), SIGTERM);
-    QVERIFY(!other.hasChanged());
-    QCOMPARE(other.endAndTell(), SIGVTALRM);
-}
-
-void TestProcessControl::whatIsNotConfirmedSendsNothing_data()
-{
-    QTest::addColumn<QByteArray>("action");
-    QTest::addColumn<ModalDriver::Handler>("answer");
-    for (const char *action : {"Stop process", "Continue process", "Terminate process", "Kill process"}) {
-        QTest::addRow("%s, Cancel", action) << QByteArray(action) << pressing(QMessageBox::Cancel);
-        QTest::addRow("%s, Escape", action) << QByteArray(action) << typing(Qt::Key_Escape);
-        QTest::addRow("%s, closing", action) << QByteArray(action) << closing();
-        QTest::addRow("%s, Return", action) << QByteArray(action) << typing(Qt::Key_Return);
-        QTest::addRow("%s, the keypad's Enter", action) << QByteArray(action) << typing(Qt::Key_Enter);
+    void eachSignalReachesTheSelectedProcessOnly()
+    {
+        Child chosen;
+        Child other;
+        const Desk desk;
+        const ModalDriver driver(
+            {pressing(QMessageBox::Ok), pressing(QMessageBox::Ok), pressing(QMessageBox::Ok)});
+        desk.select(chosen.pid());
+        desk.trigger("Stop process");
+        QCOMPARE(chosen.waitForSignal(), SIGSTOP);
+        desk.select(chosen.pid(), stoppedState);
+        desk.trigger("Continue process");
+        QCOMPARE(chosen.waitForSignal(), SIGCONT);
+        desk.select(chosen.pid());
+        desk.trigger("Terminate process"); // SIGKILL: theProcessThatWasAskedAboutGetsTheSignal()
+        QCOMPARE(chosen.waitForSignal(), SIGTERM);
+        QVERIFY(!other.hasChanged());
+        QCOMPARE(other.endAndTell(), SIGVTALRM);
     }
-}
 
-void TestProcessControl::whatIsNotConfirmedSendsNothing()
-{
-    QFETCH(QByteArray, action);
-    QFETCH(ModalDriver::Handler, answer);
-    const bool stopped = action == "Continue process";
-    Child child;
-    if (stopped) {
-        kill(child.pid(), SIGSTOP);
-        QCOMPARE(child.waitForSignal(), SIGSTOP);
+    void whatIsNotConfirmedSendsNothing_data()
+    {
+        QTest::addColumn<QByteArray>("action");
+        QTest::addColumn<ModalDriver::Handler>("answer");
+        for (const char *action : {"Stop process", "Continue process", "Terminate process", "Kill process"}) {
+            QTest::addRow("%s, Cancel", action) << QByteArray(action) << pressing(QMessageBox::Cancel);
+            QTest::addRow("%s, Escape", action) << QByteArray(action) << typing(Qt::Key_Escape);
+            QTest::addRow("%s, closing", action) << QByteArray(action) << closing();
+            QTest::addRow("%s, Return", action) << QByteArray(action) << typing(Qt::Key_Return);
+            QTest::addRow("%s, the keypad's Enter", action) << QByteArray(action) << typing(Qt::Key_Enter);
+        }
     }
-    const Desk desk;
-    desk.select(child.pid(), stopped ? stoppedState : 1);
-    const ModalDriver driver(answer);
-    desk.trigger(action.constData());
-    QVERIFY(!child.hasChanged());
-    if (stopped) {
-        kill(child.pid(), SIGCONT);
-        QCOMPARE(child.waitForSignal(), SIGCONT);
-    }
-    QCOMPARE(child.endAndTell(), SIGVTALRM);
-}
 
-void TestProcessControl::aProcessThatExitedGivesTheErrorBox_data()
-{
-    QTest::addColumn<bool>("duringTheQuestion");
-    QTest::newRow("before the question") << false;
-    QTest::newRow("during the question") << true;
-}
-
-void TestProcessControl::aProcessThatExitedGivesTheErrorBox()
-{
-    QFETCH(bool, duringTheQuestion);
-    Child asked;
-    const Desk desk;
-    desk.select(asked.pid());
-    if (!duringTheQuestion) {
-        asked.endAndTell();
+    void whatIsNotConfirmedSendsNothing()
+    {
+        QFETCH(QByteArray, action);
+        QFETCH(ModalDriver::Handler, answer);
+        const bool stopped = action == "Continue process";
+        Child child;
+        if (stopped) {
+            kill(child.pid(), SIGSTOP);
+            QCOMPARE(child.waitForSignal(), SIGSTOP);
+        }
+        const Desk desk;
+        desk.select(child.pid(), stopped ? stoppedState : 1);
+        const ModalDriver driver(answer);
+        desk.trigger(action.constData());
+        QVERIFY(!child.hasChanged());
+        if (stopped) {
+            kill(child.pid(), SIGCONT);
+            QCOMPARE(child.waitForSignal(), SIGCONT);
+        }
+        QCOMPARE(child.endAndTell(), SIGVTALRM);
     }
-    SeenBox seen;
-    const auto confirm = [&](QWidget *dialog) {
-        if (duringTheQuestion) {
+
+    void aProcessThatExitedGivesTheErrorBox_data()
+    {
+        QTest::addColumn<bool>("duringTheQuestion");
+        QTest::newRow("before the question") << false;
+        QTest::newRow("during the question") << true;
+    }
+
+    void aProcessThatExitedGivesTheErrorBox()
+    {
+        QFETCH(bool, duringTheQuestion);
+        Child asked;
+        const Desk desk;
+        desk.select(asked.pid());
+        if (!duringTheQuestion) {
             asked.endAndTell();
         }
-        pressing(QMessageBox::Ok)(dialog);
-    };
-    const ModalDriver driver({confirm, pressing(QMessageBox::Ok, &seen)});
-    desk.trigger("Terminate process");
-    verifyErrorBox(seen, noSuchProcess);
-}
-
-void TestProcessControl::anotherUsersProcessGivesTheErrorBox()
-{
-    if (geteuid() != 0) {
-        QSKIP("only root can start a process of another user");
+        SeenBox seen;
+        const auto confirm = [&](QWidget *dialog) {
+            if (duringTheQuestion) {
+                asked.endAndTell();
+            }
+            pressing(QMessageBox::Ok)(dialog);
+        };
+        const ModalDriver driver({confirm, pressing(QMessageBox::Ok, &seen)});
+        desk.trigger("Terminate process");
+        verifyErrorBox(seen, noSuchProcess);
     }
-    Child child(daemonUser);
-    const Desk desk;
-    desk.select(child.pid());
-    SeenBox seen;
-    const ModalDriver driver({pressing(QMessageBox::Ok), pressing(QMessageBox::Ok, &seen)});
+
+    void anotherUsersProcessGivesTheErrorBox()
     {
-        const WithoutRights nobody;
-        QVERIFY(nobody.dropped);
-        desk.trigger("Kill process");
+        if (geteuid() != 0) {
+            QSKIP("only root can start a process of another user");
+        }
+        Child child(daemonUser);
+        const Desk desk;
+        desk.select(child.pid());
+        SeenBox seen;
+        const ModalDriver driver({pressing(QMessageBox::Ok), pressing(QMessageBox::Ok, &seen)});
+        {
+            const WithoutRights nobody;
+            QVERIFY(nobody.dropped);
+            desk.trigger("Kill process");
+        }
+        verifyErrorBox(seen, "Unable send signal to process. Reason - Operation not permitted");
+        QCOMPARE(child.endAndTell(), SIGVTALRM);
     }
-    verifyErrorBox(seen, "Unable send signal to process. Reason - Operation not permitted");
-    QCOMPARE(child.endAndTell(), SIGVTALRM);
-}
 
-void TestProcessControl::noPidOfZeroOrBelowReachesTheKernel_data()
-{
-    QTest::addColumn<int>("pid");
-    QTest::newRow("0, the test's own group") << 0;
-    QTest::newRow("-1, everyone") << -1;
-    QTest::newRow("-5, a group") << -5;
-    QTest::newRow("the test's own group by its number") << -getpgrp();
-    QTest::newRow("the lowest number") << std::numeric_limits<int>::min();
-}
+    void noPidOfZeroOrBelowReachesTheKernel_data()
+    {
+        QTest::addColumn<int>("pid");
+        QTest::newRow("0, the test's own group") << 0;
+        QTest::newRow("-1, everyone") << -1;
+        QTest::newRow("-5, a group") << -5;
+        QTest::newRow("the test's own group by its number") << -getpgrp();
+        QTest::newRow("the lowest number") << std::numeric_limits<int>::min();
+    }
 
-void TestProcessControl::noPidOfZeroOrBelowReachesTheKernel()
-{
-    QFETCH(int, pid);
-    const int before = niceOf(getpid());
-    const Desk desk;
-    SeenBox signalBox;
-    SeenBox priorityBox;
-    const ModalDriver driver(
-        {pressing(QMessageBox::Ok, &signalBox), pressing(QMessageBox::Ok, &priorityBox)});
-    // Signal 0 harms nobody: kill(2) would succeed for most of these, and no box would open.
-    desk.list->sendSignal(pid, 0);
-    verifyErrorBox(signalBox, noSuchProcess);
-    desk.list->setPriority(pid, before + 1); // for 0 this would be the test itself
-    verifyErrorBox(priorityBox, "Unable change priority. Reason - No such process");
-    QCOMPARE(niceOf(getpid()), before);
-}
+    void noPidOfZeroOrBelowReachesTheKernel()
+    {
+        QFETCH(int, pid);
+        const int before = niceOf(getpid());
+        const Desk desk;
+        SeenBox signalBox;
+        SeenBox priorityBox;
+        const ModalDriver driver(
+            {pressing(QMessageBox::Ok, &signalBox), pressing(QMessageBox::Ok, &priorityBox)});
+        // Signal 0 harms nobody: kill(2) would succeed for most of these, and no box would open.
+        desk.list->sendSignal(pid, 0);
+        verifyErrorBox(signalBox, noSuchProcess);
+        desk.list->setPriority(pid, before + 1); // for 0 this would be the test itself
+        verifyErrorBox(priorityBox, "Unable change priority. Reason - No such process");
+        QCOMPARE(niceOf(getpid()), before);
+    }
 
-void TestProcessControl::aProcessGroupSurvivesItsNegativePid()
-{
-    Child child;
-    QCOMPARE(kill(-child.pid(), 0), 0); // the group exists
-    const Desk desk;
-    desk.select(-child.pid());
-    SeenBox seen;
-    const ModalDriver driver({pressing(QMessageBox::Ok), pressing(QMessageBox::Ok, &seen)});
-    desk.trigger("Kill process");
-    verifyErrorBox(seen, noSuchProcess);
-    QCOMPARE(child.endAndTell(), SIGVTALRM);
-}
+    void aProcessGroupSurvivesItsNegativePid()
+    {
+        Child child;
+        QCOMPARE(kill(-child.pid(), 0), 0); // the group exists
+        const Desk desk;
+        desk.select(-child.pid());
+        SeenBox seen;
+        const ModalDriver driver({pressing(QMessageBox::Ok), pressing(QMessageBox::Ok, &seen)});
+        desk.trigger("Kill process");
+        verifyErrorBox(seen, noSuchProcess);
+        QCOMPARE(child.endAndTell(), SIGVTALRM);
+    }
 
-void TestProcessControl::anInvalidSignalGivesTheErrorBox()
-{
-    const Child child;
-    const Desk desk;
-    SeenBox seen;
-    const ModalDriver driver(pressing(QMessageBox::Ok, &seen));
-    desk.list->sendSignal(child.pid(), 4711);
-    verifyErrorBox(seen, "Unable send signal to process. Reason - Invalid argument");
-}
+    void anInvalidSignalGivesTheErrorBox()
+    {
+        const Child child;
+        const Desk desk;
+        SeenBox seen;
+        const ModalDriver driver(pressing(QMessageBox::Ok, &seen));
+        desk.list->sendSignal(child.pid(), 4711);
+        verifyErrorBox(seen, "Unable send signal to process. Reason - Invalid argument");
+    }
 
-void TestProcessControl::theProcessThatWasAskedAboutGetsTheSignal_data()
-{
-    QTest::addColumn<Change>("duringTheQuestion");
-    QTest::newRow("nothing changes") << Change([](const Desk &, pid_t) {});
-    QTest::newRow("another process is selected")
-        << Change([](const Desk &desk, pid_t other) { desk.select(other); });
-    QTest::newRow("the selection is lost")
-        << Change([](const Desk &desk, pid_t) { desk.actions->setProcess(gtop_wrappers::Process(-1)); });
-    QTest::newRow("another process takes its row") << Change([](const Desk &desk, pid_t other) {
-        desk.list->refresh(makeSnapshot({{other, 0}}));
-    });
-    QTest::newRow("the list is reset") << Change([](const Desk &desk, pid_t) {
-        desk.list->setFlat(false);
-        desk.list->setColumnVisible(2, false);
-    });
-}
+    void theProcessThatWasAskedAboutGetsTheSignal_data()
+    {
+        QTest::addColumn<Change>("duringTheQuestion");
+        QTest::newRow("nothing changes") << Change([](const Desk &, pid_t) {});
+        QTest::newRow("another process is selected")
+            << Change([](const Desk &desk, pid_t other) { desk.select(other); });
+        QTest::newRow("the selection is lost")
+            << Change([](const Desk &desk, pid_t) { desk.actions->setProcess(gtop_wrappers::Process(-1)); });
+        QTest::newRow("another process takes its row") << Change([](const Desk &desk, pid_t other) {
+            desk.list->refresh(makeSnapshot({{other, 0}}));
+        });
+        QTest::newRow("the list is reset") << Change([](const Desk &desk, pid_t) {
+            desk.list->setFlat(false);
+            desk.list->setColumnVisible(2, false);
+        });
+    }
 
-void TestProcessControl::theProcessThatWasAskedAboutGetsTheSignal()
-{
-    QFETCH(Change, duringTheQuestion);
-    Child before;
-    Child asked;
-    Child after;
-    const Desk desk;
-    desk.list->refresh(makeSnapshot({{asked.pid(), 0}}));
-    desk.actions->setProcess(desk.list->processAt(desk.list->index(0, 0)));
-    const ModalDriver driver([&](QWidget *dialog) {
-        duringTheQuestion(desk, after.pid());
-        pressing(QMessageBox::Ok)(dialog);
-    });
-    desk.trigger("Kill process");
-    QCOMPARE(asked.waitForSignal(), SIGKILL);
-    QCOMPARE(before.endAndTell(), SIGVTALRM);
-    QCOMPARE(after.endAndTell(), SIGVTALRM);
-}
+    void theProcessThatWasAskedAboutGetsTheSignal()
+    {
+        QFETCH(Change, duringTheQuestion);
+        Child before;
+        Child asked;
+        Child after;
+        const Desk desk;
+        desk.list->refresh(makeSnapshot({{asked.pid(), 0}}));
+        desk.actions->setProcess(desk.list->processAt(desk.list->index(0, 0)));
+        const ModalDriver driver([&](QWidget *dialog) {
+            duringTheQuestion(desk, after.pid());
+            pressing(QMessageBox::Ok)(dialog);
+        });
+        desk.trigger("Kill process");
+        QCOMPARE(asked.waitForSignal(), SIGKILL);
+        QCOMPARE(before.endAndTell(), SIGVTALRM);
+        QCOMPARE(after.endAndTell(), SIGVTALRM);
+    }
 
-void TestProcessControl::aStaleSelectionGetsTheSignal()
-{
-    Child chosen;
-    Child shown;
-    const Desk desk;
-    desk.select(chosen.pid());
-    desk.list->refresh(makeSnapshot({{shown.pid(), 0}}));
-    const ModalDriver driver(pressing(QMessageBox::Ok));
-    desk.trigger("Kill process");
-    QCOMPARE(chosen.waitForSignal(), SIGKILL);
-    QCOMPARE(shown.endAndTell(), SIGVTALRM);
-}
+    void aStaleSelectionGetsTheSignal()
+    {
+        Child chosen;
+        Child shown;
+        const Desk desk;
+        desk.select(chosen.pid());
+        desk.list->refresh(makeSnapshot({{shown.pid(), 0}}));
+        const ModalDriver driver(pressing(QMessageBox::Ok));
+        desk.trigger("Kill process");
+        QCOMPARE(chosen.waitForSignal(), SIGKILL);
+        QCOMPARE(shown.endAndTell(), SIGVTALRM);
+    }
+};
 
 QTEST_MAIN(TestProcessControl)
 #include "test_processcontrol.moc"

@@ -43,141 +43,132 @@ class TestProcessPriority : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void theDialogStartsAtTheKernelsValueAndSetsTheChosenOne();
-    void theDialogStartsAtTheListedValueWhenTheKernelHasNone();
-    void anUnchangedPriorityIsNotSet();
-    void aCancelledPriorityIsNotSet();
-    void aSelectionThatChangesDuringTheDialogChangesNothing();
-    void thePriorityOfAnEndedProcessGivesTheErrorBox();
-    void aPriorityWithoutTheRightGivesTheErrorBox();
-    void theValuesAtTheEndsOfTheSliderAreTaken();
-};
+    void theDialogStartsAtTheKernelsValueAndSetsTheChosenOne()
+    {
+        const Child chosen;
+        const Child other;
+        const int before = niceOf(other.pid());
+        setNice(chosen, 7);
+        const Desk desk;
+        desk.select(chosen.pid(), 1, 0); // the list still has 0
+        int shown = 0;
+        const ModalDriver driver(choosing(11, &shown));
+        desk.trigger("Change priority...");
+        QCOMPARE(shown, 7);
+        QCOMPARE(niceOf(chosen.pid()), 11);
+        QCOMPARE(niceOf(other.pid()), before);
+    }
 
-void TestProcessPriority::theDialogStartsAtTheKernelsValueAndSetsTheChosenOne()
-{
-    const Child chosen;
-    const Child other;
-    const int before = niceOf(other.pid());
-    setNice(chosen, 7);
-    const Desk desk;
-    desk.select(chosen.pid(), 1, 0); // the list still has 0
-    int shown = 0;
-    const ModalDriver driver(choosing(11, &shown));
-    desk.trigger("Change priority...");
-    QCOMPARE(shown, 7);
-    QCOMPARE(niceOf(chosen.pid()), 11);
-    QCOMPARE(niceOf(other.pid()), before);
-}
+    void theDialogStartsAtTheListedValueWhenTheKernelHasNone()
+    {
+        const Desk desk;
+        for (const int pid : {exitedPid(), 0, -7}) {
+            desk.select(pid, 1, 4);
+            const ModalDriver driver([](QWidget *dialog) {
+                QCOMPARE(dialog->findChild<QSlider *>()->value(), 4);
+                dialog->close();
+            });
+            desk.trigger("Change priority...");
+        }
+    }
 
-void TestProcessPriority::theDialogStartsAtTheListedValueWhenTheKernelHasNone()
-{
-    const Desk desk;
-    for (const int pid : {exitedPid(), 0, -7}) {
-        desk.select(pid, 1, 4);
+    void anUnchangedPriorityIsNotSet()
+    {
+        const Child child;
+        const int before = niceOf(child.pid());
+        const Desk desk;
+        desk.select(child.pid());
+        const ModalDriver driver([&](QWidget *dialog) {
+            setNice(child, before + 3); // by another program, meanwhile
+            choosing(before)(dialog);
+        });
+        desk.trigger("Change priority...");
+        QCOMPARE(niceOf(child.pid()), before + 3);
+    }
+
+    void aCancelledPriorityIsNotSet()
+    {
+        const Child child;
+        const int before = niceOf(child.pid());
+        const Desk desk;
+        desk.select(child.pid());
         const ModalDriver driver([](QWidget *dialog) {
-            QCOMPARE(dialog->findChild<QSlider *>()->value(), 4);
+            dialog->findChild<QSlider *>()->setValue(15);
             dialog->close();
         });
         desk.trigger("Change priority...");
+        QCOMPARE(niceOf(child.pid()), before);
     }
-}
 
-void TestProcessPriority::anUnchangedPriorityIsNotSet()
-{
-    const Child child;
-    const int before = niceOf(child.pid());
-    const Desk desk;
-    desk.select(child.pid());
-    const ModalDriver driver([&](QWidget *dialog) {
-        setNice(child, before + 3); // by another program, meanwhile
-        choosing(before)(dialog);
-    });
-    desk.trigger("Change priority...");
-    QCOMPARE(niceOf(child.pid()), before + 3);
-}
-
-void TestProcessPriority::aCancelledPriorityIsNotSet()
-{
-    const Child child;
-    const int before = niceOf(child.pid());
-    const Desk desk;
-    desk.select(child.pid());
-    const ModalDriver driver([](QWidget *dialog) {
-        dialog->findChild<QSlider *>()->setValue(15);
-        dialog->close();
-    });
-    desk.trigger("Change priority...");
-    QCOMPARE(niceOf(child.pid()), before);
-}
-
-void TestProcessPriority::aSelectionThatChangesDuringTheDialogChangesNothing()
-{
-    const Child asked;
-    const Child other;
-    const int before = niceOf(other.pid());
-    const Desk desk;
-    desk.select(asked.pid());
-    const ModalDriver driver([&](QWidget *dialog) {
-        desk.select(other.pid());
-        choosing(13)(dialog);
-    });
-    desk.trigger("Change priority...");
-    QCOMPARE(niceOf(asked.pid()), 13);
-    QCOMPARE(niceOf(other.pid()), before);
-}
-
-void TestProcessPriority::thePriorityOfAnEndedProcessGivesTheErrorBox()
-{
-    const Desk desk;
-    desk.select(exitedPid());
-    SeenBox seen;
-    const ModalDriver driver({choosing(5), pressing(QMessageBox::Ok, &seen)});
-    desk.trigger("Change priority...");
-    verifyErrorBox(seen, "Unable change priority. Reason - No such process");
-}
-
-void TestProcessPriority::aPriorityWithoutTheRightGivesTheErrorBox()
-{
-    if (geteuid() != 0) {
-        QSKIP("only root can start a process of another user");
-    }
-    const Child foreign(daemonUser);
-    const Child own(nobodyUser);
-    const Desk desk;
-    SeenBox foreignBox;
-    SeenBox ownBox;
-    const ModalDriver driver({choosing(5), pressing(QMessageBox::Ok, &foreignBox), choosing(-5),
-                              pressing(QMessageBox::Ok, &ownBox)});
+    void aSelectionThatChangesDuringTheDialogChangesNothing()
     {
-        const WithoutRights nobody;
-        QVERIFY(nobody.dropped);
-        desk.select(foreign.pid());
+        const Child asked;
+        const Child other;
+        const int before = niceOf(other.pid());
+        const Desk desk;
+        desk.select(asked.pid());
+        const ModalDriver driver([&](QWidget *dialog) {
+            desk.select(other.pid());
+            choosing(13)(dialog);
+        });
         desk.trigger("Change priority...");
-        desk.select(own.pid());
-        desk.trigger("Change priority...");
+        QCOMPARE(niceOf(asked.pid()), 13);
+        QCOMPARE(niceOf(other.pid()), before);
     }
-    verifyErrorBox(foreignBox, "Unable change priority. Reason - Operation not permitted");
-    verifyErrorBox(ownBox, "Unable change priority. Reason - Permission denied");
-    QCOMPARE(niceOf(foreign.pid()), niceOf(getpid()));
-    QCOMPARE(niceOf(own.pid()), niceOf(getpid()));
-}
 
-void TestProcessPriority::theValuesAtTheEndsOfTheSliderAreTaken()
-{
-    const Child child;
-    const Desk desk;
-    desk.select(child.pid());
+    void thePriorityOfAnEndedProcessGivesTheErrorBox()
     {
-        const ModalDriver driver(choosing(20));
+        const Desk desk;
+        desk.select(exitedPid());
+        SeenBox seen;
+        const ModalDriver driver({choosing(5), pressing(QMessageBox::Ok, &seen)});
         desk.trigger("Change priority...");
-        QCOMPARE(niceOf(child.pid()), 19); // the kernel's highest
+        verifyErrorBox(seen, "Unable change priority. Reason - No such process");
     }
-    if (geteuid() == 0) {
-        const ModalDriver driver(choosing(-20));
-        desk.trigger("Change priority...");
-        QCOMPARE(niceOf(child.pid()), -20);
+
+    void aPriorityWithoutTheRightGivesTheErrorBox()
+    {
+        if (geteuid() != 0) {
+            QSKIP("only root can start a process of another user");
+        }
+        const Child foreign(daemonUser);
+        const Child own(nobodyUser);
+        const Desk desk;
+        SeenBox foreignBox;
+        SeenBox ownBox;
+        const ModalDriver driver({choosing(5), pressing(QMessageBox::Ok, &foreignBox), choosing(-5),
+                                  pressing(QMessageBox::Ok, &ownBox)});
+        {
+            const WithoutRights nobody;
+            QVERIFY(nobody.dropped);
+            desk.select(foreign.pid());
+            desk.trigger("Change priority...");
+            desk.select(own.pid());
+            desk.trigger("Change priority...");
+        }
+        verifyErrorBox(foreignBox, "Unable change priority. Reason - Operation not permitted");
+        verifyErrorBox(ownBox, "Unable change priority. Reason - Permission denied");
+        QCOMPARE(niceOf(foreign.pid()), niceOf(getpid()));
+        QCOMPARE(niceOf(own.pid()), niceOf(getpid()));
     }
-}
+
+    void theValuesAtTheEndsOfTheSliderAreTaken()
+    {
+        const Child child;
+        const Desk desk;
+        desk.select(child.pid());
+        {
+            const ModalDriver driver(choosing(20));
+            desk.trigger("Change priority...");
+            QCOMPARE(niceOf(child.pid()), 19); // the kernel's highest
+        }
+        if (geteuid() == 0) {
+            const ModalDriver driver(choosing(-20));
+            desk.trigger("Change priority...");
+            QCOMPARE(niceOf(child.pid()), -20);
+        }
+    }
+};
 
 QTEST_MAIN(TestProcessPriority)
 #include "test_processcontrol_priority.moc"

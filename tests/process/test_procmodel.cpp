@@ -32,240 +32,223 @@ class TestProcModel : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void startsEmptyFlatAndWithColumns6To9Hidden();
-    void aHiddenColumnComesBackInItsPlace();
-    void aColumnPastTheEndThrows();
-    void headersAreTheTitlesOfTheVisibleColumns();
-    void headersOutsideTheColumnsAreTheToolkitsOwn();
-    void displayAndSortValuesAreTheParametersOwn();
-    void otherRolesAndMissingParametersGiveNothing();
-    void anIndexIsCheckedAndCarriesThePid();
-    void everyColumnOfAParentHasItsRows();
-    void itemsAreSelectableAndEnabledOnly();
-    void aStaleIndexIsHarmless();
-    void processAtAndProcessByPidCopyTheProcess();
-
-    void setFlatClearsOnlyOnAChange();
-    void clearEmptiesWithOneReset();
-    void aChangedNameLeavesForOneRefresh();
-    void shapesOfTheFlatList_data();
-    void shapesOfTheFlatList();
-};
-
-void TestProcModel::startsEmptyFlatAndWithColumns6To9Hidden()
-{
-    const ProcModel model;
-    QVERIFY(model.isFlat());
-    QCOMPARE(model.rowCount(), 0);
-    const unsigned long size = ProcessFiller::instance()->size();
-    QCOMPARE(model.columnCount(), static_cast<int>(size) - 4);
-    for (unsigned long i = 0; i < size; ++i) {
-        QCOMPARE(model.isColumnVisible(i), i < 6 || i > 9);
-    }
-}
-
-void TestProcModel::aHiddenColumnComesBackInItsPlace()
-{
-    OneProcess model;
-    model.setColumnVisible(0, false);
-    QVERIFY(!model.isColumnVisible(0));
-    QCOMPARE(model.columnCount(), static_cast<int>(ProcessFiller::instance()->size()) - 5);
-    QCOMPARE(model.index(0, 1).data().toInt(), 7); // the pid moved up
-    model.setColumnVisible(0, true);
-    QCOMPARE(model.index(0, 0).data().toString(), QStringLiteral("p7"));
-    model.setColumnVisible(8, true);
-    QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), title(8));
-}
-
-void TestProcModel::aColumnPastTheEndThrows()
-{
-    ProcModel model;
-    const unsigned long size = ProcessFiller::instance()->size();
-    QVERIFY_EXCEPTION_THROWN(model.isColumnVisible(size), std::out_of_range);
-    QVERIFY_EXCEPTION_THROWN(model.isColumnVisible(std::numeric_limits<unsigned long>::max()),
-                             std::out_of_range);
-    QVERIFY_EXCEPTION_THROWN(model.setColumnVisible(size, true), std::out_of_range);
-}
-
-void TestProcModel::headersAreTheTitlesOfTheVisibleColumns()
-{
-    const ProcModel model;
-    int section = 0;
-    for (unsigned long i = 0; i < ProcessFiller::instance()->size(); ++i) {
-        if (model.isColumnVisible(i)) {
-            QCOMPARE(model.headerData(section++, Qt::Horizontal).toString(), title(i));
+    void startsEmptyFlatAndWithColumns6To9Hidden()
+    {
+        const ProcModel model;
+        QVERIFY(model.isFlat());
+        QCOMPARE(model.rowCount(), 0);
+        const unsigned long size = ProcessFiller::instance()->size();
+        QCOMPARE(model.columnCount(), static_cast<int>(size) - 4);
+        for (unsigned long i = 0; i < size; ++i) {
+            QCOMPARE(model.isColumnVisible(i), i < 6 || i > 9);
         }
     }
-    QCOMPARE(section, model.columnCount());
-    QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), title(10));
-}
 
-void TestProcModel::headersOutsideTheColumnsAreTheToolkitsOwn()
-{
-    const ProcModel model;
-    QCOMPARE(model.headerData(-1, Qt::Horizontal), QVariant(0));
-    QCOMPARE(model.headerData(model.columnCount(), Qt::Horizontal), QVariant(model.columnCount() + 1));
-    QCOMPARE(model.headerData(0, Qt::Vertical), QVariant(1));
-    QCOMPARE(model.headerData(0, Qt::Horizontal, Qt::DecorationRole), QVariant());
-}
-
-void TestProcModel::displayAndSortValuesAreTheParametersOwn()
-{
-    ProcModel model;
-    Facts facts;
-    facts.pid = 12;
-    facts.name = QStringLiteral("twelve");
-    facts.state = 16;
-    facts.cpuCounter = 4711;
-    model.update(makeSnapshot({{12, facts}}), 1);
-    QCOMPARE(model.index(0, 0).data(), QVariant(QStringLiteral("twelve")));
-    QCOMPARE(model.index(0, 2).data(Qt::UserRole), QVariant(12));
-    QCOMPARE(model.index(0, 5).data(), QVariant(QStringLiteral("state")));
-    QCOMPARE(model.index(0, 5).data(Qt::UserRole), QVariant(16));
-    QCOMPARE(model.index(0, 6).data(Qt::UserRole), QVariant(4711)); // process column 10
-}
-
-void TestProcModel::otherRolesAndMissingParametersGiveNothing()
-{
-    const OneProcess model;
-    for (const int role :
-         {int(Qt::DecorationRole), int(Qt::EditRole), int(Qt::ToolTipRole), int(Qt::UserRole) + 1}) {
-        QVERIFY(!model.index(0, 0).data(role).isValid());
+    void aHiddenColumnComesBackInItsPlace()
+    {
+        OneProcess model;
+        model.setColumnVisible(0, false);
+        QVERIFY(!model.isColumnVisible(0));
+        QCOMPARE(model.columnCount(), static_cast<int>(ProcessFiller::instance()->size()) - 5);
+        QCOMPARE(model.index(0, 1).data().toInt(), 7); // the pid moved up
+        model.setColumnVisible(0, true);
+        QCOMPARE(model.index(0, 0).data().toString(), QStringLiteral("p7"));
+        model.setColumnVisible(8, true);
+        QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), title(8));
     }
-    QVERIFY(!model.index(0, 3).data().isValid()); // a synthetic process has no user
-    QVERIFY(!model.index(0, 3).data(Qt::UserRole).isValid());
-    QVERIFY(!model.data(QModelIndex()).isValid());
-}
 
-void TestProcModel::anIndexIsCheckedAndCarriesThePid()
-{
-    const OneProcess model;
-    QVERIFY(model.index(0, 0).isValid());
-    QVERIFY(model.index(0, model.columnCount() - 1).isValid());
-    QCOMPARE(model.index(0, 3).internalId(), quintptr(7));
-    QVERIFY(!model.index(0, 3).parent().isValid());
-    QVERIFY(!model.index(-1, 0).isValid());
-    QVERIFY(!model.index(1, 0).isValid());
-    QVERIFY(!model.index(0, -1).isValid());
-    QVERIFY(!model.index(0, model.columnCount()).isValid());
-    QVERIFY(!model.index(0, 0, model.index(0, 0)).isValid());
-    QVERIFY(!model.parent(QModelIndex()).isValid());
-}
+    void aColumnPastTheEndThrows()
+    {
+        ProcModel model;
+        const unsigned long size = ProcessFiller::instance()->size();
+        QVERIFY_EXCEPTION_THROWN(model.isColumnVisible(size), std::out_of_range);
+        QVERIFY_EXCEPTION_THROWN(model.isColumnVisible(std::numeric_limits<unsigned long>::max()),
+                                 std::out_of_range);
+        QVERIFY_EXCEPTION_THROWN(model.setColumnVisible(size, true), std::out_of_range);
+    }
 
-void TestProcModel::everyColumnOfAParentHasItsRows()
-{
-    ProcModel model;
-    model.setFlat(false);
-    model.update(makeSnapshot({{1, 0}, {2, 1}}), 1);
-    QCOMPARE(model.rowCount(model.index(0, 0)), 1);
-    QCOMPARE(model.rowCount(model.index(0, 4)), 1);
-    QCOMPARE(model.index(0, 3, model.index(0, 4)).internalId(), quintptr(2));
-    QCOMPARE(model.index(0, 3, model.index(0, 0)).parent(), model.index(0, 0));
-}
+    void headersAreTheTitlesOfTheVisibleColumns()
+    {
+        const ProcModel model;
+        int section = 0;
+        for (unsigned long i = 0; i < ProcessFiller::instance()->size(); ++i) {
+            if (model.isColumnVisible(i)) {
+                QCOMPARE(model.headerData(section++, Qt::Horizontal).toString(), title(i));
+            }
+        }
+        QCOMPARE(section, model.columnCount());
+        QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), title(10));
+    }
 
-void TestProcModel::itemsAreSelectableAndEnabledOnly()
-{
-    const OneProcess model;
-    QCOMPARE(static_cast<int>(model.flags(model.index(0, 0))), 33);
-    QCOMPARE(static_cast<int>(model.flags(QModelIndex())), 0);
-}
+    void headersOutsideTheColumnsAreTheToolkitsOwn()
+    {
+        const ProcModel model;
+        QCOMPARE(model.headerData(-1, Qt::Horizontal), QVariant(0));
+        QCOMPARE(model.headerData(model.columnCount(), Qt::Horizontal), QVariant(model.columnCount() + 1));
+        QCOMPARE(model.headerData(0, Qt::Vertical), QVariant(1));
+        QCOMPARE(model.headerData(0, Qt::Horizontal, Qt::DecorationRole), QVariant());
+    }
 
-void TestProcModel::aStaleIndexIsHarmless()
-{
-    const OneProcess model;
-    const QModelIndex stale = model.createIndex(0, 0, quintptr(4711));
-    QVERIFY(!model.data(stale).isValid());
-    QCOMPARE(model.rowCount(stale), 0);
-    QVERIFY(!model.parent(stale).isValid());
-    QVERIFY(!model.index(0, 0, stale).isValid());
-    QCOMPARE(model.processAt(stale).pid(), -1);
-    QVERIFY(!model.data(model.createIndex(0, 4711, quintptr(7))).isValid()); // a column hidden since
-}
+    void displayAndSortValuesAreTheParametersOwn()
+    {
+        ProcModel model;
+        Facts facts;
+        facts.pid = 12;
+        facts.name = QStringLiteral("twelve");
+        facts.state = 16;
+        facts.cpuCounter = 4711;
+        model.update(makeSnapshot({{12, facts}}), 1);
+        QCOMPARE(model.index(0, 0).data(), QVariant(QStringLiteral("twelve")));
+        QCOMPARE(model.index(0, 2).data(Qt::UserRole), QVariant(12));
+        QCOMPARE(model.index(0, 5).data(), QVariant(QStringLiteral("state")));
+        QCOMPARE(model.index(0, 5).data(Qt::UserRole), QVariant(16));
+        QCOMPARE(model.index(0, 6).data(Qt::UserRole), QVariant(4711)); // process column 10
+    }
 
-void TestProcModel::processAtAndProcessByPidCopyTheProcess()
-{
-    OneProcess model;
-    QCOMPARE(model.processByPid(7).getName(), QStringLiteral("p7"));
-    QCOMPARE(model.processByPid(8).pid(), -1);
-    QCOMPARE(model.processByPid(-1).pid(), -1);
-    QCOMPARE(model.processAt(model.index(0, 2)).pid(), 7);
-    QCOMPARE(model.processAt(QModelIndex()).pid(), -1);
-    const Process kept = model.processByPid(7);
-    model.clear();
-    QCOMPARE(kept.getName(), QStringLiteral("p7"));
-}
+    void otherRolesAndMissingParametersGiveNothing()
+    {
+        const OneProcess model;
+        for (const int role :
+             {int(Qt::DecorationRole), int(Qt::EditRole), int(Qt::ToolTipRole), int(Qt::UserRole) + 1}) {
+            QVERIFY(!model.index(0, 0).data(role).isValid());
+        }
+        QVERIFY(!model.index(0, 3).data().isValid()); // a synthetic process has no user
+        QVERIFY(!model.index(0, 3).data(Qt::UserRole).isValid());
+        QVERIFY(!model.data(QModelIndex()).isValid());
+    }
 
-void TestProcModel::setFlatClearsOnlyOnAChange()
-{
-    OneProcess model;
-    const QSignalSpy resets(&model, SIGNAL(modelReset()));
-    model.setFlat(true);
-    QCOMPARE(resets.count(), 0);
-    QCOMPARE(model.rowCount(), 1);
-    model.setFlat(false);
-    QCOMPARE(resets.count(), 1);
-    QCOMPARE(model.rowCount(), 0);
-    QVERIFY(!model.isFlat());
-}
+    void anIndexIsCheckedAndCarriesThePid()
+    {
+        const OneProcess model;
+        QVERIFY(model.index(0, 0).isValid());
+        QVERIFY(model.index(0, model.columnCount() - 1).isValid());
+        QCOMPARE(model.index(0, 3).internalId(), quintptr(7));
+        QVERIFY(!model.index(0, 3).parent().isValid());
+        QVERIFY(!model.index(-1, 0).isValid());
+        QVERIFY(!model.index(1, 0).isValid());
+        QVERIFY(!model.index(0, -1).isValid());
+        QVERIFY(!model.index(0, model.columnCount()).isValid());
+        QVERIFY(!model.index(0, 0, model.index(0, 0)).isValid());
+        QVERIFY(!model.parent(QModelIndex()).isValid());
+    }
 
-void TestProcModel::clearEmptiesWithOneReset()
-{
-    ProcModel model;
-    model.setFlat(false);
-    model.update(makeSnapshot({{1, 0}, {2, 1}, {3, 2}, {4, 0}}), 1);
-    const QSignalSpy begins(&model, SIGNAL(modelAboutToBeReset()));
-    const QSignalSpy ends(&model, SIGNAL(modelReset()));
-    const QSignalSpy removals(&model, SIGNAL(rowsRemoved(QModelIndex, int, int)));
-    model.clear();
-    QCOMPARE(begins.count(), 1);
-    QCOMPARE(ends.count(), 1);
-    QCOMPARE(removals.count(), 0);
-    QCOMPARE(shapeOf(model), QString());
-    QCOMPARE(model.processByPid(2).pid(), -1);
-    model.update(makeSnapshot({{1, 0}, {4, 0}}), 1);
-    QCOMPARE(shapeOf(model), QStringLiteral("1 4"));
-}
+    void everyColumnOfAParentHasItsRows()
+    {
+        ProcModel model;
+        model.setFlat(false);
+        model.update(makeSnapshot({{1, 0}, {2, 1}}), 1);
+        QCOMPARE(model.rowCount(model.index(0, 0)), 1);
+        QCOMPARE(model.rowCount(model.index(0, 4)), 1);
+        QCOMPARE(model.index(0, 3, model.index(0, 4)).internalId(), quintptr(2));
+        QCOMPARE(model.index(0, 3, model.index(0, 0)).parent(), model.index(0, 0));
+    }
 
-void TestProcModel::aChangedNameLeavesForOneRefresh()
-{
-    ProcModel model;
-    model.update(makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), 1);
-    Facts renamed;
-    renamed.pid = 2;
-    renamed.name = QStringLiteral("other");
-    ProcModel::Snapshot snapshot = makeSnapshot({{1, 0}, {3, 0}});
-    snapshot.emplace(2, makeProcess(renamed));
+    void itemsAreSelectableAndEnabledOnly()
+    {
+        const OneProcess model;
+        QCOMPARE(static_cast<int>(model.flags(model.index(0, 0))), 33);
+        QCOMPARE(static_cast<int>(model.flags(QModelIndex())), 0);
+    }
 
-    const QSignalSpy insertions(&model, SIGNAL(rowsInserted(QModelIndex, int, int)));
-    const QSignalSpy removals(&model, SIGNAL(rowsRemoved(QModelIndex, int, int)));
-    model.update(snapshot, 1);
-    QCOMPARE(shapeOf(model), QStringLiteral("1 3"));
-    QCOMPARE(insertions.count(), 1); // removed, inserted, and removed again
-    QCOMPARE(removals.count(), 2);
-    model.update(snapshot, 1);
-    QCOMPARE(shapeOf(model), QStringLiteral("1 3 2"));
-    QCOMPARE(model.processByPid(2).getName(), QStringLiteral("other"));
-}
+    void aStaleIndexIsHarmless()
+    {
+        const OneProcess model;
+        const QModelIndex stale = model.createIndex(0, 0, quintptr(4711));
+        QVERIFY(!model.data(stale).isValid());
+        QCOMPARE(model.rowCount(stale), 0);
+        QVERIFY(!model.parent(stale).isValid());
+        QVERIFY(!model.index(0, 0, stale).isValid());
+        QCOMPARE(model.processAt(stale).pid(), -1);
+        QVERIFY(!model.data(model.createIndex(0, 4711, quintptr(7))).isValid()); // a column hidden since
+    }
 
-void TestProcModel::shapesOfTheFlatList_data()
-{
-    QTest::addColumn<Steps>("steps");
-    QTest::newRow("a changed parent leaves for one refresh")
-        << Steps{{makeSnapshot({{1, 0}, {2, 1}}), "1 2"},
-                 {makeSnapshot({{1, 0}, {2, 0}}), "1"},
-                 {makeSnapshot({{1, 0}, {2, 0}}), "1 2"}};
-    QTest::newRow("a vanished process leaves") << Steps{
-        {makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), "1 2 3"}, {makeSnapshot({{1, 0}, {3, 0}}), "1 3"}, {{}, ""}};
-    QTest::newRow("new processes are appended in ascending pid order, whatever their parents") << Steps{
-        {makeSnapshot({{5, 0}, {3, 5}}), "3 5"}, {makeSnapshot({{1, 0}, {3, 5}, {5, 0}, {4, 0}}), "3 5 1 4"}};
-}
+    void processAtAndProcessByPidCopyTheProcess()
+    {
+        OneProcess model;
+        QCOMPARE(model.processByPid(7).getName(), QStringLiteral("p7"));
+        QCOMPARE(model.processByPid(8).pid(), -1);
+        QCOMPARE(model.processByPid(-1).pid(), -1);
+        QCOMPARE(model.processAt(model.index(0, 2)).pid(), 7);
+        QCOMPARE(model.processAt(QModelIndex()).pid(), -1);
+        const Process kept = model.processByPid(7);
+        model.clear();
+        QCOMPARE(kept.getName(), QStringLiteral("p7"));
+    }
 
-void TestProcModel::shapesOfTheFlatList()
-{
-    QFETCH(Steps, steps);
-    ProcModel model;
-    verifySteps(&model, steps);
-}
+    void setFlatClearsOnlyOnAChange()
+    {
+        OneProcess model;
+        const QSignalSpy resets(&model, SIGNAL(modelReset()));
+        model.setFlat(true);
+        QCOMPARE(resets.count(), 0);
+        QCOMPARE(model.rowCount(), 1);
+        model.setFlat(false);
+        QCOMPARE(resets.count(), 1);
+        QCOMPARE(model.rowCount(), 0);
+        QVERIFY(!model.isFlat());
+    }
+
+    void clearEmptiesWithOneReset()
+    {
+        ProcModel model;
+        model.setFlat(false);
+        model.update(makeSnapshot({{1, 0}, {2, 1}, {3, 2}, {4, 0}}), 1);
+        const QSignalSpy begins(&model, SIGNAL(modelAboutToBeReset()));
+        const QSignalSpy ends(&model, SIGNAL(modelReset()));
+        const QSignalSpy removals(&model, SIGNAL(rowsRemoved(QModelIndex, int, int)));
+        model.clear();
+        QCOMPARE(begins.count(), 1);
+        QCOMPARE(ends.count(), 1);
+        QCOMPARE(removals.count(), 0);
+        QCOMPARE(shapeOf(model), QString());
+        QCOMPARE(model.processByPid(2).pid(), -1);
+        model.update(makeSnapshot({{1, 0}, {4, 0}}), 1);
+        QCOMPARE(shapeOf(model), QStringLiteral("1 4"));
+    }
+
+    void aChangedNameLeavesForOneRefresh()
+    {
+        ProcModel model;
+        model.update(makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), 1);
+        Facts renamed;
+        renamed.pid = 2;
+        renamed.name = QStringLiteral("other");
+        ProcModel::Snapshot snapshot = makeSnapshot({{1, 0}, {3, 0}});
+        snapshot.emplace(2, makeProcess(renamed));
+
+        const QSignalSpy insertions(&model, SIGNAL(rowsInserted(QModelIndex, int, int)));
+        const QSignalSpy removals(&model, SIGNAL(rowsRemoved(QModelIndex, int, int)));
+        model.update(snapshot, 1);
+        QCOMPARE(shapeOf(model), QStringLiteral("1 3"));
+        QCOMPARE(insertions.count(), 1); // removed, inserted, and removed again
+        QCOMPARE(removals.count(), 2);
+        model.update(snapshot, 1);
+        QCOMPARE(shapeOf(model), QStringLiteral("1 3 2"));
+        QCOMPARE(model.processByPid(2).getName(), QStringLiteral("other"));
+    }
+
+    void shapesOfTheFlatList_data()
+    {
+        QTest::addColumn<Steps>("steps");
+        QTest::newRow("a changed parent leaves for one refresh")
+            << Steps{{makeSnapshot({{1, 0}, {2, 1}}), "1 2"},
+                     {makeSnapshot({{1, 0}, {2, 0}}), "1"},
+                     {makeSnapshot({{1, 0}, {2, 0}}), "1 2"}};
+        QTest::newRow("a vanished process leaves") << Steps{{makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), "1 2 3"},
+                                                            {makeSnapshot({{1, 0}, {3, 0}}), "1 3"},
+                                                            {{}, ""}};
+        QTest::newRow("new processes are appended in ascending pid order, whatever their parents")
+            << Steps{{makeSnapshot({{5, 0}, {3, 5}}), "3 5"},
+                     {makeSnapshot({{1, 0}, {3, 5}, {5, 0}, {4, 0}}), "3 5 1 4"}};
+    }
+
+    void shapesOfTheFlatList()
+    {
+        QFETCH(Steps, steps);
+        ProcModel model;
+        verifySteps(&model, steps);
+    }
+};
 
 QTEST_MAIN(TestProcModel)
 #include "test_procmodel.moc"

@@ -32,87 +32,80 @@ class TestProcModelCpu : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void theLoadIsTheShareSinceTheLastRefresh_data();
-    void theLoadIsTheShareSinceTheLastRefresh();
-    void theLoadIsShownWithOneDecimal_data();
-    void theLoadIsShownWithOneDecimal();
-    void aLoadThatIsNoNumberHasASortValueThatIsOne();
-    void aProcessWithoutCpuParameterIsTaken();
-};
-
-void TestProcModelCpu::theLoadIsTheShareSinceTheLastRefresh_data()
-{
-    QTest::addColumn<Refreshes>("refreshes");
-    QTest::newRow("the first load is one unit, then the real share")
-        << Refreshes{{5000, 400, 0.25}, {5050, 400, 12.5}, {5050, 400, 0.0}};
-    QTest::newRow("a counter of 0 shows one unit every time, also when it starts to grow")
-        << Refreshes{{0, 1000, 0.1}, {0, 1000, 0.1}, {0, 1000, 0.1}, {10, 1000, 0.1}, {20, 1000, 1.0}};
-    QTest::newRow("a counter that fell wraps to 2^64 - 10, and the next share is right")
-        << Refreshes{{1000, 100, 1.0}, {990, 100, 18446744073709551606.0}, {1000, 100, 10.0}};
-    QTest::newRow("from the highest counter to the lowest")
-        << Refreshes{{highest, 100, 1.0}, {lowest, 100, 18446744069414584321.0}};
-    // The lowest counter less one is the highest as a 32-bit value: a huge first load.
-    QTest::newRow("the lowest counter first")
-        << Refreshes{{lowest, 100, 18446744069414584321.0}, {lowest + 1, highestTotal, 100.0 / 0x1p64}};
-}
-
-void TestProcModelCpu::theLoadIsTheShareSinceTheLastRefresh()
-{
-    QFETCH(Refreshes, refreshes);
-    ProcModel model;
-    for (const Refresh &refresh : refreshes) {
-        model.update(makeCpuSnapshot({{7, refresh.counter}}), refresh.total);
-        QCOMPARE(model.index(0, cpuColumn).data(Qt::UserRole).toDouble(), refresh.load);
+    void theLoadIsTheShareSinceTheLastRefresh_data()
+    {
+        QTest::addColumn<Refreshes>("refreshes");
+        QTest::newRow("the first load is one unit, then the real share")
+            << Refreshes{{5000, 400, 0.25}, {5050, 400, 12.5}, {5050, 400, 0.0}};
+        QTest::newRow("a counter of 0 shows one unit every time, also when it starts to grow")
+            << Refreshes{{0, 1000, 0.1}, {0, 1000, 0.1}, {0, 1000, 0.1}, {10, 1000, 0.1}, {20, 1000, 1.0}};
+        QTest::newRow("a counter that fell wraps to 2^64 - 10, and the next share is right")
+            << Refreshes{{1000, 100, 1.0}, {990, 100, 18446744073709551606.0}, {1000, 100, 10.0}};
+        QTest::newRow("from the highest counter to the lowest")
+            << Refreshes{{highest, 100, 1.0}, {lowest, 100, 18446744069414584321.0}};
+        // The lowest counter less one is the highest as a 32-bit value: a huge first load.
+        QTest::newRow("the lowest counter first")
+            << Refreshes{{lowest, 100, 18446744069414584321.0}, {lowest + 1, highestTotal, 100.0 / 0x1p64}};
     }
-}
 
-void TestProcModelCpu::theLoadIsShownWithOneDecimal_data()
-{
-    QTest::addColumn<int>("counter");
-    QTest::addColumn<int>("total");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("nothing") << 100 << 3000 << "0.0 %";
-    QTest::newRow("a third") << 1100 << 3000 << "33.3 %";
-    QTest::newRow("an eighth") << 150 << 400 << "12.5 %";
-    QTest::newRow("everything") << 3100 << 3000 << "100.0 %";
-    QTest::newRow("something in no time") << 101 << 0 << "inf %";
-    QTest::newRow("nothing in no time") << 100 << 0 << "nan %";
-}
+    void theLoadIsTheShareSinceTheLastRefresh()
+    {
+        QFETCH(Refreshes, refreshes);
+        ProcModel model;
+        for (const Refresh &refresh : refreshes) {
+            model.update(makeCpuSnapshot({{7, refresh.counter}}), refresh.total);
+            QCOMPARE(model.index(0, cpuColumn).data(Qt::UserRole).toDouble(), refresh.load);
+        }
+    }
 
-void TestProcModelCpu::theLoadIsShownWithOneDecimal()
-{
-    QFETCH(int, counter);
-    QFETCH(int, total);
-    ProcModel model;
-    const auto refresh = [&](int nextCounter, int nextTotal) {
-        model.update(makeCpuSnapshot({{7, nextCounter}}), static_cast<unsigned long>(nextTotal));
-        return model.index(0, cpuColumn).data().toString();
-    };
-    QCOMPARE(refresh(100, 3000), QStringLiteral("0.0 %")); // one unit
-    QTEST(refresh(counter, total), "text");
-    QCOMPARE(refresh(counter + 1, 100), QStringLiteral("1.0 %"));
-}
+    void theLoadIsShownWithOneDecimal_data()
+    {
+        QTest::addColumn<int>("counter");
+        QTest::addColumn<int>("total");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("nothing") << 100 << 3000 << "0.0 %";
+        QTest::newRow("a third") << 1100 << 3000 << "33.3 %";
+        QTest::newRow("an eighth") << 150 << 400 << "12.5 %";
+        QTest::newRow("everything") << 3100 << 3000 << "100.0 %";
+        QTest::newRow("something in no time") << 101 << 0 << "inf %";
+        QTest::newRow("nothing in no time") << 100 << 0 << "nan %";
+    }
 
-void TestProcModelCpu::aLoadThatIsNoNumberHasASortValueThatIsOne()
-{
-    ProcModel model;
-    const auto sortValue = [&] { return model.index(0, cpuColumn).data(Qt::UserRole).toDouble(); };
-    model.update(makeCpuSnapshot({{7, 100}}), 0);
-    QVERIFY(qIsInf(sortValue()));
-    model.update(makeCpuSnapshot({{7, 100}}), 0);
-    QCOMPARE(model.index(0, cpuColumn).data().toString(), QStringLiteral("nan %"));
-    QVERIFY(!qIsNaN(sortValue()));
-}
+    void theLoadIsShownWithOneDecimal()
+    {
+        QFETCH(int, counter);
+        QFETCH(int, total);
+        ProcModel model;
+        const auto refresh = [&](int nextCounter, int nextTotal) {
+            model.update(makeCpuSnapshot({{7, nextCounter}}), static_cast<unsigned long>(nextTotal));
+            return model.index(0, cpuColumn).data().toString();
+        };
+        QCOMPARE(refresh(100, 3000), QStringLiteral("0.0 %")); // one unit
+        QTEST(refresh(counter, total), "text");
+        QCOMPARE(refresh(counter + 1, 100), QStringLiteral("1.0 %"));
+    }
 
-void TestProcModelCpu::aProcessWithoutCpuParameterIsTaken()
-{
-    ProcModel model;
-    const ProcModel::Snapshot bare{{3, Process(3)}};
-    model.update(bare, 10);
-    model.update(bare, 10);
-    QCOMPARE(shapeOf(model), QStringLiteral("3"));
-    QVERIFY(!model.index(0, cpuColumn).data().isValid());
-}
+    void aLoadThatIsNoNumberHasASortValueThatIsOne()
+    {
+        ProcModel model;
+        const auto sortValue = [&] { return model.index(0, cpuColumn).data(Qt::UserRole).toDouble(); };
+        model.update(makeCpuSnapshot({{7, 100}}), 0);
+        QVERIFY(qIsInf(sortValue()));
+        model.update(makeCpuSnapshot({{7, 100}}), 0);
+        QCOMPARE(model.index(0, cpuColumn).data().toString(), QStringLiteral("nan %"));
+        QVERIFY(!qIsNaN(sortValue()));
+    }
+
+    void aProcessWithoutCpuParameterIsTaken()
+    {
+        ProcModel model;
+        const ProcModel::Snapshot bare{{3, Process(3)}};
+        model.update(bare, 10);
+        model.update(bare, 10);
+        QCOMPARE(shapeOf(model), QStringLiteral("3"));
+        QVERIFY(!model.index(0, cpuColumn).data().isValid());
+    }
+};
 
 QTEST_MAIN(TestProcModelCpu)
 #include "test_procmodel_cpu.moc"

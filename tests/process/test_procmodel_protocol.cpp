@@ -49,83 +49,78 @@ class TestProcModelProtocol : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void signalsInFlatMode();
-    void signalsInTreeMode();
-    void persistentIndexesStayOnTheirProcess();
-    void theModelKeepsTheProtocol_data();
-    void theModelKeepsTheProtocol();
-};
+    void signalsInFlatMode()
+    {
+        ProcModel model;
+        const ProcModel::Snapshot first = makeSnapshot({{1, 0}, {2, 0}, {3, 0}});
+        QCOMPARE(signalsOf(&model, first), QStringLiteral("< > +1 +2 +3"));
+        QCOMPARE(signalsOf(&model, first), QStringLiteral("< >"));
+        // 2 is another process now: it goes before the layout change, comes, and goes again. 3 has exited.
+        QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}, {4, 0}})),
+                 QStringLiteral("-2 < > +2 +4 -2 -3"));
+    }
 
-void TestProcModelProtocol::signalsInFlatMode()
-{
-    ProcModel model;
-    const ProcModel::Snapshot first = makeSnapshot({{1, 0}, {2, 0}, {3, 0}});
-    QCOMPARE(signalsOf(&model, first), QStringLiteral("< > +1 +2 +3"));
-    QCOMPARE(signalsOf(&model, first), QStringLiteral("< >"));
-    // 2 is another process now: it goes before the layout change, comes, and goes again. 3 has exited.
-    QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}, {4, 0}})), QStringLiteral("-2 < > +2 +4 -2 -3"));
-}
+    void signalsInTreeMode()
+    {
+        ProcModel model;
+        model.setFlat(false);
+        QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}})), QStringLiteral("< > +1 -1 +1 +2"));
+        // A new child: the old 1 leaves with its subtree, then the new one comes; 2 becomes an orphan.
+        const ProcModel::Snapshot second = makeSnapshot({{1, 0}, {2, 1}, {3, 1}});
+        QCOMPARE(signalsOf(&model, second), QStringLiteral("< > -1 +1 +3"));
+        QCOMPARE(signalsOf(&model, second), QStringLiteral("< >"));
+        QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}, {3, 1}, {4, 2}})),
+                 QStringLiteral("< > -1 +1 +2 +4"));
+        // Children go before their parent.
+        QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {3, 1}})), QStringLiteral("< > -4 -2"));
+    }
 
-void TestProcModelProtocol::signalsInTreeMode()
-{
-    ProcModel model;
-    model.setFlat(false);
-    QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}})), QStringLiteral("< > +1 -1 +1 +2"));
-    // A new child: the old 1 leaves with its subtree, then the new one comes; 2 becomes an orphan.
-    const ProcModel::Snapshot second = makeSnapshot({{1, 0}, {2, 1}, {3, 1}});
-    QCOMPARE(signalsOf(&model, second), QStringLiteral("< > -1 +1 +3"));
-    QCOMPARE(signalsOf(&model, second), QStringLiteral("< >"));
-    QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}, {3, 1}, {4, 2}})),
-             QStringLiteral("< > -1 +1 +2 +4"));
-    // Children go before their parent.
-    QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {3, 1}})), QStringLiteral("< > -4 -2"));
-}
+    void persistentIndexesStayOnTheirProcess()
+    {
+        ProcModel model;
+        model.update(makeSnapshot({{1, 0}, {2, 0}, {3, 0}, {4, 0}}), 1);
+        const QPersistentModelIndex third(model.index(2, 0));
+        const QPersistentModelIndex second(model.index(1, 0));
+        model.update(makeSnapshot({{2, 9}, {3, 0}, {4, 0}}), 1);
+        QCOMPARE(third.row(), 0);
+        QCOMPARE(model.processAt(third).pid(), 3);
+        QVERIFY(!second.isValid());
+        model.clear();
+        QVERIFY(!third.isValid());
+    }
 
-void TestProcModelProtocol::persistentIndexesStayOnTheirProcess()
-{
-    ProcModel model;
-    model.update(makeSnapshot({{1, 0}, {2, 0}, {3, 0}, {4, 0}}), 1);
-    const QPersistentModelIndex third(model.index(2, 0));
-    const QPersistentModelIndex second(model.index(1, 0));
-    model.update(makeSnapshot({{2, 9}, {3, 0}, {4, 0}}), 1);
-    QCOMPARE(third.row(), 0);
-    QCOMPARE(model.processAt(third).pid(), 3);
-    QVERIFY(!second.isValid());
-    model.clear();
-    QVERIFY(!third.isValid());
-}
+    void theModelKeepsTheProtocol_data()
+    {
+        QTest::addColumn<bool>("flat");
+        QTest::addColumn<unsigned int>("seed");
+        QTest::newRow("flat list") << true << 20211U;
+        QTest::newRow("tree") << false << 20212U;
+    }
 
-void TestProcModelProtocol::theModelKeepsTheProtocol_data()
-{
-    QTest::addColumn<bool>("flat");
-    QTest::addColumn<unsigned int>("seed");
-    QTest::newRow("flat list") << true << 20211U;
-    QTest::newRow("tree") << false << 20212U;
-}
-
-void TestProcModelProtocol::theModelKeepsTheProtocol()
-{
-    QFETCH(bool, flat);
-    QFETCH(unsigned int, seed);
-    ProcModel model;
-    model.setFlat(flat);
-    FirstCellOnly firstCellOnly;
-    firstCellOnly.setSourceModel(&model);
-    auto *tested = flat ? static_cast<QAbstractItemModel *>(&model) : &firstCellOnly;
-    const QAbstractItemModelTester tester(tested, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    ReferenceTree reference(flat);
-    World world(seed, 40);
-    for (int round = 0; round < 90; ++round) {
-        world.step();
-        model.update(makeSnapshot(world.facts()), world.totalDelta());
-        reference.refresh(world.facts(), world.totalDelta());
-        QCOMPARE(shapeWithLoad(model), reference.shape());
-        if (round % 30 == 29) {
-            model.clear();
-            reference.clear();
+    void theModelKeepsTheProtocol()
+    {
+        QFETCH(bool, flat);
+        QFETCH(unsigned int, seed);
+        ProcModel model;
+        model.setFlat(flat);
+        FirstCellOnly firstCellOnly;
+        firstCellOnly.setSourceModel(&model);
+        auto *tested = flat ? static_cast<QAbstractItemModel *>(&model) : &firstCellOnly;
+        const QAbstractItemModelTester tester(tested, QAbstractItemModelTester::FailureReportingMode::Fatal);
+        ReferenceTree reference(flat);
+        World world(seed, 40);
+        for (int round = 0; round < 90; ++round) {
+            world.step();
+            model.update(makeSnapshot(world.facts()), world.totalDelta());
+            reference.refresh(world.facts(), world.totalDelta());
+            QCOMPARE(shapeWithLoad(model), reference.shape());
+            if (round % 30 == 29) {
+                model.clear();
+                reference.clear();
+            }
         }
     }
-}
+};
 
 QTEST_MAIN(TestProcModelProtocol)
 #include "test_procmodel_protocol.moc"

@@ -32,223 +32,211 @@ class TestProxyProcModelView : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void aModeChangeResetsThreeTimesFirstBeforeTheFlagIsStored();
-    void otherSettersResetTwice();
-    void everyResetIsFollowedByARefreshThatRebuildsTheList();
-    void hidingAColumnTakesItFromTheViewAndRefillsTheList();
-    void columnsAreFittedAndRowsExpandedOnceAfterAReset();
-    void whatTheUserArrangedStaysBetweenResets();
-    void expandAllAndCollapseAllReachTheView();
-    void theViewIsLaidOutWhenRefreshReturns();
-    void aDeferredLayoutHappensAtTheEndOfTheDeferral();
-    void aResetDropsADeferredLayout();
-    void onlyRowsOfATreeCanHaveChildren();
-    void selectionStaysOnItsProcessWhileOthersAreReplaced();
-    void aFilledProxyKeepsTheProtocolThroughResets();
-};
-
-void TestProxyProcModelView::aModeChangeResetsThreeTimesFirstBeforeTheFlagIsStored()
-{
-    List list;
-    QList<bool> flat; // at each reset
-    connect(list.proxy, &QAbstractItemModel::modelReset, this, [&] { flat.append(list.proxy->isFlat()); });
-    list.proxy->setFlat(false);
-    QCOMPARE(flat, (QList<bool>{true, false, false}));
-    list.proxy->setFlat(false); // no change
-    QCOMPARE(flat.size(), 5);
-}
-
-void TestProxyProcModelView::otherSettersResetTwice()
-{
-    List list;
-    const QSignalSpy resets(list.proxy, SIGNAL(modelReset()));
-    list.proxy->setColumnVisible(3, false);
-    QCOMPARE(resets.count(), 2);
-    list.proxy->setProcessTypes(0);
-    QCOMPARE(resets.count(), 4);
-    list.proxy->setProcessTypes(0); // no change
-    QCOMPARE(resets.count(), 6);
-    QCOMPARE(list.proxy->processTypes(), 0);
-}
-
-void TestProxyProcModelView::everyResetIsFollowedByARefreshThatRebuildsTheList()
-{
-    List list;
-    list.view.sortByColumn(pidColumn, Qt::AscendingOrder);
-    ProcModel::Snapshot snapshot = makeSnapshot({{1, 0}, {2, 1}, {3, 2}});
-    unsigned long refreshes = 0;
-    const auto refresh = [&] { // as the controller does
-        list.proxy->setTotalCpuTime(++refreshes * 100);
-        list.proxy->refresh(snapshot);
-    };
-    connect(list.proxy, &QAbstractItemModel::modelReset, this, refresh);
-    refresh();
-    QCOMPARE(list.pids(), (QList<int>{1, 2, 3}));
-    list.proxy->setFlat(false);
-    QCOMPARE(refreshes, 4UL);
-    QCOMPARE(list.pids(), (QList<int>{1}));
-    QCOMPARE(list.proxy->rowCount(list.proxy->index(0, 0)), 1);
-    QVERIFY(list.view.isExpanded(list.proxy->index(0, 0)));
-    list.proxy->setFlat(true);
-    QCOMPARE(list.pids(), (QList<int>{1, 2, 3}));
-    snapshot = makeSnapshot({{1, 0}, {9, 1}});
-    list.proxy->setProcessTypes(0);
-    QCOMPARE(list.pids(), (QList<int>{1, 9}));
-}
-
-void TestProxyProcModelView::hidingAColumnTakesItFromTheViewAndRefillsTheList()
-{
-    List list;
-    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
-    const int sections = list.view.header()->count();
-    list.proxy->setColumnVisible(0, false);
-    QCOMPARE(list.view.header()->count(), sections - 1);
-    QCOMPARE(list.proxy->rowCount(), 0);
-    list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
-    QCOMPARE(list.proxy->rowCount(), 2);
-    QCOMPARE(list.proxy->headerData(0, Qt::Horizontal).toString(), ProcessFiller::instance()->title(1));
-}
-
-void TestProxyProcModelView::columnsAreFittedAndRowsExpandedOnceAfterAReset()
-{
-    TwoLevels list;
-    list.refresh();
-    QVERIFY(list.isExpanded());
-    list.view.collapseAll();
-    list.view.setColumnWidth(0, userWidth);
-    list.proxy->setProcessTypes(0);
-    list.refresh();
-    QVERIFY(list.isExpanded());
-    QVERIFY(list.isFitted());
-    for (int column = 0; column < list.proxy->columnCount(); ++column) {
-        QCOMPARE(list.view.columnWidth(column),
-                 qMax(list.view.columnHint(column), list.view.header()->sectionSizeHint(column)));
+    void aModeChangeResetsThreeTimesFirstBeforeTheFlagIsStored()
+    {
+        List list;
+        QList<bool> flat; // at each reset
+        connect(list.proxy, &QAbstractItemModel::modelReset, this,
+                [&] { flat.append(list.proxy->isFlat()); });
+        list.proxy->setFlat(false);
+        QCOMPARE(flat, (QList<bool>{true, false, false}));
+        list.proxy->setFlat(false); // no change
+        QCOMPARE(flat.size(), 5);
     }
-}
 
-void TestProxyProcModelView::whatTheUserArrangedStaysBetweenResets()
-{
-    TwoLevels list;
-    list.refresh();
-    list.view.collapse(list.proxy->index(0, 0));
-    list.view.setColumnWidth(0, userWidth);
-    list.refresh();
-    QVERIFY(!list.isExpanded());
-    QCOMPARE(list.view.columnWidth(0), userWidth);
-}
-
-void TestProxyProcModelView::expandAllAndCollapseAllReachTheView()
-{
-    TwoLevels list;
-    list.refresh();
-    list.proxy->collapseAll();
-    QVERIFY(!list.isExpanded());
-    list.proxy->expandAll();
-    QVERIFY(list.isExpanded());
-}
-
-void TestProxyProcModelView::theViewIsLaidOutWhenRefreshReturns()
-{
-    List list;
-    list.view.resize(300, 100);
-    list.view.show();
-    FactsByPid facts = factsUpTo(100);
-    list.proxy->refresh(makeSnapshot(facts));
-    list.view.verticalScrollBar()->setValue(list.view.verticalScrollBar()->maximum());
-    facts.erase(facts.begin(), facts.find(91));
-    list.proxy->refresh(makeSnapshot(facts));
-    // Ten rows are left. The scroll bar knows without a run of the event loop.
-    QVERIFY(list.view.verticalScrollBar()->maximum() < 10);
-}
-
-void TestProxyProcModelView::aDeferredLayoutHappensAtTheEndOfTheDeferral()
-{
-    TwoLevels list;
-    list.proxy->setLayoutDeferred(true);
-    list.refresh();
-    list.view.setColumnWidth(0, userWidth);
-    QCOMPARE(list.proxy->rowCount(), 1);
-    QVERIFY(!list.isExpanded());
-    list.proxy->setLayoutDeferred(false);
-    QVERIFY(list.isExpanded());
-    QVERIFY(list.isFitted());
-    list.view.setColumnWidth(0, userWidth);
-    list.proxy->setLayoutDeferred(true);
-    list.proxy->setLayoutDeferred(false);
-    QCOMPARE(list.view.columnWidth(0), userWidth);
-}
-
-void TestProxyProcModelView::aResetDropsADeferredLayout()
-{
-    TwoLevels list;
-    list.proxy->setLayoutDeferred(true);
-    list.refresh();
-    list.proxy->setProcessTypes(0);
-    list.view.setColumnWidth(0, userWidth);
-    list.proxy->setLayoutDeferred(false);
-    QCOMPARE(list.view.columnWidth(0), userWidth); // until a refresh fills the list
-    list.refresh();
-    QVERIFY(list.isFitted());
-}
-
-void TestProxyProcModelView::onlyRowsOfATreeCanHaveChildren()
-{
-    TwoLevels list;
-    list.refresh();
-    const Qt::ItemFlags ofTheSource = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-    QCOMPARE(list.proxy->flags(list.proxy->index(0, 0)), ofTheSource);
-    list.proxy->setFlat(true);
-    list.refresh();
-    QCOMPARE(list.proxy->flags(list.proxy->index(0, 0)), ofTheSource | Qt::ItemNeverHasChildren);
-    QCOMPARE(list.proxy->flags(QModelIndex()), Qt::NoItemFlags);
-}
-
-void TestProxyProcModelView::selectionStaysOnItsProcessWhileOthersAreReplaced()
-{
-    List list;
-    list.view.show();
-    FactsByPid facts = factsUpTo(80);
-    for (auto &entry : facts) {
-        entry.second.cpuCounter = entry.first * 17 % 31;
+    void otherSettersResetTwice()
+    {
+        List list;
+        const QSignalSpy resets(list.proxy, SIGNAL(modelReset()));
+        list.proxy->setColumnVisible(3, false);
+        QCOMPARE(resets.count(), 2);
+        list.proxy->setProcessTypes(0);
+        QCOMPARE(resets.count(), 4);
+        list.proxy->setProcessTypes(0); // no change
+        QCOMPARE(resets.count(), 6);
+        QCOMPARE(list.proxy->processTypes(), 0);
     }
-    list.view.sortByColumn(cpuColumn, Qt::DescendingOrder);
-    list.proxy->setTotalCpuTime(1000);
-    list.proxy->refresh(makeSnapshot(facts));
-    const int chosen = 40;
-    list.view.setCurrentIndex(list.find(chosen));
-    for (int round = 0; round < 80; ++round) {
-        const int replaced = 1 + round % 39 + (round % 2) * 40;
-        facts[replaced].name = QStringLiteral("exec %1").arg(round);
+
+    void everyResetIsFollowedByARefreshThatRebuildsTheList()
+    {
+        List list;
+        list.view.sortByColumn(pidColumn, Qt::AscendingOrder);
+        ProcModel::Snapshot snapshot = makeSnapshot({{1, 0}, {2, 1}, {3, 2}});
+        unsigned long refreshes = 0;
+        const auto refresh = [&] { // as the controller does
+            list.proxy->setTotalCpuTime(++refreshes * 100);
+            list.proxy->refresh(snapshot);
+        };
+        connect(list.proxy, &QAbstractItemModel::modelReset, this, refresh);
+        refresh();
+        QCOMPARE(list.pids(), (QList<int>{1, 2, 3}));
+        list.proxy->setFlat(false);
+        QCOMPARE(refreshes, 4UL);
+        QCOMPARE(list.pids(), (QList<int>{1}));
+        QCOMPARE(list.proxy->rowCount(list.proxy->index(0, 0)), 1);
+        QVERIFY(list.view.isExpanded(list.proxy->index(0, 0)));
+        list.proxy->setFlat(true);
+        QCOMPARE(list.pids(), (QList<int>{1, 2, 3}));
+        snapshot = makeSnapshot({{1, 0}, {9, 1}});
+        list.proxy->setProcessTypes(0);
+        QCOMPARE(list.pids(), (QList<int>{1, 9}));
+    }
+
+    void hidingAColumnTakesItFromTheViewAndRefillsTheList()
+    {
+        List list;
+        list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
+        const int sections = list.view.header()->count();
+        list.proxy->setColumnVisible(0, false);
+        QCOMPARE(list.view.header()->count(), sections - 1);
+        QCOMPARE(list.proxy->rowCount(), 0);
+        list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
+        QCOMPARE(list.proxy->rowCount(), 2);
+        QCOMPARE(list.proxy->headerData(0, Qt::Horizontal).toString(), ProcessFiller::instance()->title(1));
+    }
+
+    void columnsAreFittedAndRowsExpandedOnceAfterAReset()
+    {
+        TwoLevels list;
+        list.refresh();
+        QVERIFY(list.isExpanded());
+        list.view.collapseAll();
+        list.view.setColumnWidth(0, userWidth);
+        list.proxy->setProcessTypes(0);
+        list.refresh();
+        QVERIFY(list.isExpanded());
+        QVERIFY(list.isFitted());
+        for (int column = 0; column < list.proxy->columnCount(); ++column) {
+            QCOMPARE(list.view.columnWidth(column),
+                     qMax(list.view.columnHint(column), list.view.header()->sectionSizeHint(column)));
+        }
+    }
+
+    void whatTheUserArrangedStaysBetweenResets()
+    {
+        TwoLevels list;
+        list.refresh();
+        list.view.collapse(list.proxy->index(0, 0));
+        list.view.setColumnWidth(0, userWidth);
+        list.refresh();
+        QVERIFY(!list.isExpanded());
+        QCOMPARE(list.view.columnWidth(0), userWidth);
+    }
+
+    void expandAllAndCollapseAllReachTheView()
+    {
+        TwoLevels list;
+        list.refresh();
+        list.proxy->collapseAll();
+        QVERIFY(!list.isExpanded());
+        list.proxy->expandAll();
+        QVERIFY(list.isExpanded());
+    }
+
+    void theViewIsLaidOutWhenRefreshReturns()
+    {
+        List list;
+        list.view.resize(300, 100);
+        list.view.show();
+        FactsByPid facts = factsUpTo(100);
+        list.proxy->refresh(makeSnapshot(facts));
+        list.view.verticalScrollBar()->setValue(list.view.verticalScrollBar()->maximum());
+        facts.erase(facts.begin(), facts.find(91));
+        list.proxy->refresh(makeSnapshot(facts));
+        // Ten rows are left. The scroll bar knows without a run of the event loop.
+        QVERIFY(list.view.verticalScrollBar()->maximum() < 10);
+    }
+
+    void aDeferredLayoutHappensAtTheEndOfTheDeferral()
+    {
+        TwoLevels list;
+        list.proxy->setLayoutDeferred(true);
+        list.refresh();
+        list.view.setColumnWidth(0, userWidth);
+        QCOMPARE(list.proxy->rowCount(), 1);
+        QVERIFY(!list.isExpanded());
+        list.proxy->setLayoutDeferred(false);
+        QVERIFY(list.isExpanded());
+        QVERIFY(list.isFitted());
+        list.view.setColumnWidth(0, userWidth);
+        list.proxy->setLayoutDeferred(true);
+        list.proxy->setLayoutDeferred(false);
+        QCOMPARE(list.view.columnWidth(0), userWidth);
+    }
+
+    void aResetDropsADeferredLayout()
+    {
+        TwoLevels list;
+        list.proxy->setLayoutDeferred(true);
+        list.refresh();
+        list.proxy->setProcessTypes(0);
+        list.view.setColumnWidth(0, userWidth);
+        list.proxy->setLayoutDeferred(false);
+        QCOMPARE(list.view.columnWidth(0), userWidth); // until a refresh fills the list
+        list.refresh();
+        QVERIFY(list.isFitted());
+    }
+
+    void onlyRowsOfATreeCanHaveChildren()
+    {
+        TwoLevels list;
+        list.refresh();
+        const Qt::ItemFlags ofTheSource = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+        QCOMPARE(list.proxy->flags(list.proxy->index(0, 0)), ofTheSource);
+        list.proxy->setFlat(true);
+        list.refresh();
+        QCOMPARE(list.proxy->flags(list.proxy->index(0, 0)), ofTheSource | Qt::ItemNeverHasChildren);
+        QCOMPARE(list.proxy->flags(QModelIndex()), Qt::NoItemFlags);
+    }
+
+    void selectionStaysOnItsProcessWhileOthersAreReplaced()
+    {
+        List list;
+        list.view.show();
+        FactsByPid facts = factsUpTo(80);
         for (auto &entry : facts) {
-            entry.second.cpuCounter += (entry.first * 7 + round) % 5;
+            entry.second.cpuCounter = entry.first * 17 % 31;
         }
-        list.proxy->setTotalCpuTime(static_cast<unsigned long>(2000 + round * 1000));
+        list.view.sortByColumn(cpuColumn, Qt::DescendingOrder);
+        list.proxy->setTotalCpuTime(1000);
         list.proxy->refresh(makeSnapshot(facts));
-        QCOMPARE(list.proxy->processAt(list.view.currentIndex()).pid(), chosen);
-        QCOMPARE(list.view.selectionModel()->selectedRows().size(), 1);
-        QCOMPARE(list.proxy->processAt(list.view.selectionModel()->selectedRows().first()).pid(), chosen);
-    }
-}
-
-void TestProxyProcModelView::aFilledProxyKeepsTheProtocolThroughResets()
-{
-    List list;
-    const QAbstractItemModelTester tester(list.proxy, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    FactsByPid facts = factsUpTo(30);
-    list.view.sortByColumn(pidColumn, Qt::DescendingOrder);
-    for (int round = 0; round < 20; ++round) {
-        facts[1 + round].name = QStringLiteral("exec %1").arg(round);
-        facts.erase(25);
-        facts[26 + round].pid = 26 + round;
-        list.proxy->refresh(makeSnapshot(facts));
-        if (round % 5 == 0) {
-            list.proxy->setColumnVisible(3, !list.proxy->isColumnVisible(3));
+        const int chosen = 40;
+        list.view.setCurrentIndex(list.find(chosen));
+        for (int round = 0; round < 80; ++round) {
+            const int replaced = 1 + round % 39 + (round % 2) * 40;
+            facts[replaced].name = QStringLiteral("exec %1").arg(round);
+            for (auto &entry : facts) {
+                entry.second.cpuCounter += (entry.first * 7 + round) % 5;
+            }
+            list.proxy->setTotalCpuTime(static_cast<unsigned long>(2000 + round * 1000));
             list.proxy->refresh(makeSnapshot(facts));
+            QCOMPARE(list.proxy->processAt(list.view.currentIndex()).pid(), chosen);
+            QCOMPARE(list.view.selectionModel()->selectedRows().size(), 1);
+            QCOMPARE(list.proxy->processAt(list.view.selectionModel()->selectedRows().first()).pid(), chosen);
         }
     }
-    list.proxy->refresh(makeSnapshot(facts));
-    QCOMPARE(list.proxy->rowCount(), 44);
-}
+
+    void aFilledProxyKeepsTheProtocolThroughResets()
+    {
+        List list;
+        const QAbstractItemModelTester tester(list.proxy,
+                                              QAbstractItemModelTester::FailureReportingMode::QtTest);
+        FactsByPid facts = factsUpTo(30);
+        list.view.sortByColumn(pidColumn, Qt::DescendingOrder);
+        for (int round = 0; round < 20; ++round) {
+            facts[1 + round].name = QStringLiteral("exec %1").arg(round);
+            facts.erase(25);
+            facts[26 + round].pid = 26 + round;
+            list.proxy->refresh(makeSnapshot(facts));
+            if (round % 5 == 0) {
+                list.proxy->setColumnVisible(3, !list.proxy->isColumnVisible(3));
+                list.proxy->refresh(makeSnapshot(facts));
+            }
+        }
+        list.proxy->refresh(makeSnapshot(facts));
+        QCOMPARE(list.proxy->rowCount(), 44);
+    }
+};
 
 QTEST_MAIN(TestProxyProcModelView)
 #include "test_proxyprocmodel_view.moc"

@@ -54,288 +54,270 @@ class TestSnapshotCache : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void processAnswersFromItsRecord();
-    void column_data();
-    void column();
-    void stateColumnCarriesLibgtopsCode_data();
-    void stateColumnCarriesLibgtopsCode();
-    void userIsNamedOrNumbered();
-    void onlyChangedValuesAreNewObjects_data();
-    void onlyChangedValuesAreNewObjects();
-    void exitedProcessesAreForgotten();
-    void processesShareUserStateAndSmallNumbers();
-    void snapshotHasThePidsOfTheRecords();
-    void extremeRecord();
-    void emptyRecord();
-    void onlyExpensiveReadsAreLeftOut_data();
-    void onlyExpensiveReadsAreLeftOut();
-    void columnsThatBecomeOnDemandOrEager();
-};
-
-void TestSnapshotCache::initTestCase()
-{
-    qputenv("TZ", "UTC");
-    tzset();
-}
-
-void TestSnapshotCache::processAnswersFromItsRecord()
-{
-    const Process process = made(recordOf(42));
-    QCOMPARE(process.params.size(), std::size_t(ColumnCount));
-    QCOMPARE(process.pid(), 42);
-    QCOMPARE(process.getName(), QStringLiteral("bash"));
-    QCOMPARE(process.getPPid(), 1);
-    QCOMPARE(process.getCpuLoad(), 100);
-    QVERIFY(dynamic_cast<CpuProcessParam *>(process.getParam(1).get()));
-}
-
-void TestSnapshotCache::column_data()
-{
-    QTest::addColumn<ProcessColumn>("column");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QVariant>("sortValue");
-    QTest::newRow("name") << NameColumn << "bash" << QVariant("bash");
-    QTest::newRow("CPU") << CpuColumn << "" << QVariant(0.0);
-    QTest::newRow("PID") << PidColumn << "42" << QVariant(42);
-    QTest::newRow("user") << UserColumn << "root" << QVariant("root");
-    QTest::newRow("memory") << MemoryColumn << "1.00 KB" << QVariant(quint64(1024));
-    QTest::newRow("state") << StateColumn << "Sleeping" << QVariant(2);
-    QTest::newRow("virtual") << VirtualMemoryColumn << "2.00 KB" << QVariant(quint64(2048));
-    QTest::newRow("shared") << SharedMemoryColumn << "512.00 B" << QVariant(quint64(512));
-    QTest::newRow("nice") << NiceColumn << "0" << QVariant(0);
-    QTest::newRow("parent") << ParentPidColumn << "1" << QVariant(1);
-    QTest::newRow("CPU time") << CpuTimeColumn << "0:00:01" << QVariant(quint64(100));
-    QTest::newRow("started") << StartedColumn << "2023-11-14 22:13:20" << QVariant(quint64(1700000000));
-    QTest::newRow("command line") << CommandLineColumn << "bash -l" << QVariant("bash -l");
-    QTest::newRow("processor") << ProcessorColumn << "3" << QVariant(3);
-}
-
-void TestSnapshotCache::column()
-{
-    QFETCH(ProcessColumn, column);
-    QFETCH(QVariant, sortValue);
-    const Process process = made(recordOf(42));
-    QTEST(shown(process, column), "text");
-    const QVariant actual = sorted(process, column);
-    QCOMPARE(actual, sortValue);
-    QCOMPARE(actual.type(), sortValue.type());
-}
-
-void TestSnapshotCache::stateColumnCarriesLibgtopsCode_data()
-{
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("running") << GLIBTOP_PROCESS_RUNNING << "Running";
-    QTest::newRow("interruptible") << GLIBTOP_PROCESS_INTERRUPTIBLE << "Sleeping";
-    QTest::newRow("uninterruptible") << GLIBTOP_PROCESS_UNINTERRUPTIBLE << "Uninterruptible";
-    QTest::newRow("zombie") << GLIBTOP_PROCESS_ZOMBIE << "Zombie";
-    QTest::newRow("stopped") << GLIBTOP_PROCESS_STOPPED << "Stopped";
-    QTest::newRow("swapping") << GLIBTOP_PROCESS_SWAPPING << "Swapping";
-    QTest::newRow("dead") << GLIBTOP_PROCESS_DEAD << "Dead";
-    QTest::newRow("no code of libgtop's") << 0 << "Other";
-    QTest::newRow("two at once") << 3 << "Other";
-    QTest::newRow("lowest") << std::numeric_limits<int>::min() << "Other";
-    QTest::newRow("highest") << std::numeric_limits<int>::max() << "Other";
-}
-
-void TestSnapshotCache::stateColumnCarriesLibgtopsCode()
-{
-    QFETCH(int, code);
-    ProcessRecord record = recordOf(42);
-    record.state = code;
-    const Process process = made(record);
-    const auto *param = dynamic_cast<const IntProcessParam *>(process.getParam(5).get());
-    QVERIFY(param);
-    QCOMPARE(param->value(), code);
-    QTEST(shown(process, StateColumn), "text");
-}
-
-void TestSnapshotCache::userIsNamedOrNumbered()
-{
-    ProcessRecord record = recordOf(42);
-    QCOMPARE(shown(made(record), UserColumn), QString::fromUtf8(getpwuid(0)->pw_name));
-    record.user = std::numeric_limits<int>::max() - 1;
-    QVERIFY(!getpwuid(static_cast<uid_t>(record.user)));
-    QCOMPARE(shown(made(record), UserColumn), QStringLiteral("2147483646"));
-    record.user = -2; // ids are unsigned, libgtop's fields are not
-    QCOMPARE(shown(made(record), UserColumn), QStringLiteral("4294967294"));
-}
-
-void TestSnapshotCache::onlyChangedValuesAreNewObjects_data()
-{
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<QVector<int>>("columns");
-    const auto row = [](const char *name, const Change &change, const QVector<int> &changed) {
-        QTest::newRow(name) << change << changed;
-    };
-    row("nothing", [](ProcessRecord &) {}, {});
-    row("name", [](ProcessRecord &r) { r.name = "sh"; }, {NameColumn, CommandLineColumn});
-    row("user", [](ProcessRecord &r) { r.user = 65534; }, {UserColumn});
-    row("resident", [](ProcessRecord &r) { r.resident = 1; }, {MemoryColumn});
-    row("state", [](ProcessRecord &r) { r.state = 16; }, {StateColumn});
-    row("virtual", [](ProcessRecord &r) { r.virtualSize = 1; }, {VirtualMemoryColumn});
-    row("shared", [](ProcessRecord &r) { r.shared = 1; }, {SharedMemoryColumn});
-    row("nice", [](ProcessRecord &r) { r.nice = 19; }, {NiceColumn});
-    row("parent", [](ProcessRecord &r) { r.parent = 2; }, {ParentPidColumn});
-    row("CPU time", [](ProcessRecord &r) { r.cpuTime = 101; }, {CpuTimeColumn});
-    row("start", [](ProcessRecord &r) { r.started = 1700000001; }, {StartedColumn});
-    row("processor", [](ProcessRecord &r) { r.processor = 1; }, {ProcessorColumn});
-    row("arguments", [](ProcessRecord &r) { r.arguments = "x"; }, {CommandLineColumn});
-    const auto reusePid = [](ProcessRecord &r) {
-        r.name = "sh";
-        r.cpuTime = 1;
-        r.started += 5;
-        r.arguments.clear();
-    };
-    row("pid reused", reusePid, {NameColumn, CpuTimeColumn, StartedColumn, CommandLineColumn});
-}
-
-void TestSnapshotCache::onlyChangedValuesAreNewObjects()
-{
-    QFETCH(Change, change);
-    QFETCH(QVector<int>, columns);
-    columns.append(CpuColumn); // the process model writes into it, so each snapshot has its own
-    SnapshotCache cache;
-    const Process before = cache.snapshot({recordOf(42)}).at(42);
-    ProcessRecord record = recordOf(42);
-    change(record);
-    const Process now = cache.snapshot({record}).at(42);
-    const Process alone = made(record);
-    for (unsigned long i = 0; i < ColumnCount; ++i) {
-        QCOMPARE(now.getParam(i) != before.getParam(i), columns.contains(int(i)));
-        QCOMPARE(now.getParam(i)->displayValue(), alone.getParam(i)->displayValue());
-        QCOMPARE(now.getParam(i)->sortValue(), alone.getParam(i)->sortValue());
-    }
-}
-
-void TestSnapshotCache::exitedProcessesAreForgotten()
-{
-    SnapshotCache cache;
-    std::vector<std::tr1::weak_ptr<IProcessParam>> values;
+    void initTestCase()
     {
+        qputenv("TZ", "UTC");
+        tzset();
+    }
+
+    void processAnswersFromItsRecord()
+    {
+        const Process process = made(recordOf(42));
+        QCOMPARE(process.params.size(), std::size_t(ColumnCount));
+        QCOMPARE(process.pid(), 42);
+        QCOMPARE(process.getName(), QStringLiteral("bash"));
+        QCOMPARE(process.getPPid(), 1);
+        QCOMPARE(process.getCpuLoad(), 100);
+        QVERIFY(dynamic_cast<CpuProcessParam *>(process.getParam(1).get()));
+    }
+
+    void column_data()
+    {
+        QTest::addColumn<ProcessColumn>("column");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QVariant>("sortValue");
+        QTest::newRow("name") << NameColumn << "bash" << QVariant("bash");
+        QTest::newRow("CPU") << CpuColumn << "" << QVariant(0.0);
+        QTest::newRow("PID") << PidColumn << "42" << QVariant(42);
+        QTest::newRow("user") << UserColumn << "root" << QVariant("root");
+        QTest::newRow("memory") << MemoryColumn << "1.00 KB" << QVariant(quint64(1024));
+        QTest::newRow("state") << StateColumn << "Sleeping" << QVariant(2);
+        QTest::newRow("virtual") << VirtualMemoryColumn << "2.00 KB" << QVariant(quint64(2048));
+        QTest::newRow("shared") << SharedMemoryColumn << "512.00 B" << QVariant(quint64(512));
+        QTest::newRow("nice") << NiceColumn << "0" << QVariant(0);
+        QTest::newRow("parent") << ParentPidColumn << "1" << QVariant(1);
+        QTest::newRow("CPU time") << CpuTimeColumn << "0:00:01" << QVariant(quint64(100));
+        QTest::newRow("started") << StartedColumn << "2023-11-14 22:13:20" << QVariant(quint64(1700000000));
+        QTest::newRow("command line") << CommandLineColumn << "bash -l" << QVariant("bash -l");
+        QTest::newRow("processor") << ProcessorColumn << "3" << QVariant(3);
+    }
+
+    void column()
+    {
+        QFETCH(ProcessColumn, column);
+        QFETCH(QVariant, sortValue);
+        const Process process = made(recordOf(42));
+        QTEST(shown(process, column), "text");
+        const QVariant actual = sorted(process, column);
+        QCOMPARE(actual, sortValue);
+        QCOMPARE(actual.type(), sortValue.type());
+    }
+
+    void stateColumnCarriesLibgtopsCode_data()
+    {
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("running") << GLIBTOP_PROCESS_RUNNING << "Running";
+        QTest::newRow("interruptible") << GLIBTOP_PROCESS_INTERRUPTIBLE << "Sleeping";
+        QTest::newRow("uninterruptible") << GLIBTOP_PROCESS_UNINTERRUPTIBLE << "Uninterruptible";
+        QTest::newRow("zombie") << GLIBTOP_PROCESS_ZOMBIE << "Zombie";
+        QTest::newRow("stopped") << GLIBTOP_PROCESS_STOPPED << "Stopped";
+        QTest::newRow("swapping") << GLIBTOP_PROCESS_SWAPPING << "Swapping";
+        QTest::newRow("dead") << GLIBTOP_PROCESS_DEAD << "Dead";
+        QTest::newRow("no code of libgtop's") << 0 << "Other";
+        QTest::newRow("two at once") << 3 << "Other";
+        QTest::newRow("lowest") << std::numeric_limits<int>::min() << "Other";
+        QTest::newRow("highest") << std::numeric_limits<int>::max() << "Other";
+    }
+
+    void stateColumnCarriesLibgtopsCode()
+    {
+        QFETCH(int, code);
+        ProcessRecord record = recordOf(42);
+        record.state = code;
+        const Process process = made(record);
+        const auto *param = dynamic_cast<const IntProcessParam *>(process.getParam(5).get());
+        QVERIFY(param);
+        QCOMPARE(param->value(), code);
+        QTEST(shown(process, StateColumn), "text");
+    }
+
+    void userIsNamedOrNumbered()
+    {
+        ProcessRecord record = recordOf(42);
+        QCOMPARE(shown(made(record), UserColumn), QString::fromUtf8(getpwuid(0)->pw_name));
+        record.user = std::numeric_limits<int>::max() - 1;
+        QVERIFY(!getpwuid(static_cast<uid_t>(record.user)));
+        QCOMPARE(shown(made(record), UserColumn), QStringLiteral("2147483646"));
+        record.user = -2; // ids are unsigned, libgtop's fields are not
+        QCOMPARE(shown(made(record), UserColumn), QStringLiteral("4294967294"));
+    }
+
+    void onlyChangedValuesAreNewObjects_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<QVector<int>>("columns");
+        const auto row = [](const char *name, const Change &change, const QVector<int> &changed) {
+            QTest::newRow(name) << change << changed;
+        };
+        row("nothing", [](ProcessRecord &) {}, {});
+        row("name", [](ProcessRecord &r) { r.name = "sh"; }, {NameColumn, CommandLineColumn});
+        row("user", [](ProcessRecord &r) { r.user = 65534; }, {UserColumn});
+        row("resident", [](ProcessRecord &r) { r.resident = 1; }, {MemoryColumn});
+        row("state", [](ProcessRecord &r) { r.state = 16; }, {StateColumn});
+        row("virtual", [](ProcessRecord &r) { r.virtualSize = 1; }, {VirtualMemoryColumn});
+        row("shared", [](ProcessRecord &r) { r.shared = 1; }, {SharedMemoryColumn});
+        row("nice", [](ProcessRecord &r) { r.nice = 19; }, {NiceColumn});
+        row("parent", [](ProcessRecord &r) { r.parent = 2; }, {ParentPidColumn});
+        row("CPU time", [](ProcessRecord &r) { r.cpuTime = 101; }, {CpuTimeColumn});
+        row("start", [](ProcessRecord &r) { r.started = 1700000001; }, {StartedColumn});
+        row("processor", [](ProcessRecord &r) { r.processor = 1; }, {ProcessorColumn});
+        row("arguments", [](ProcessRecord &r) { r.arguments = "x"; }, {CommandLineColumn});
+        const auto reusePid = [](ProcessRecord &r) {
+            r.name = "sh";
+            r.cpuTime = 1;
+            r.started += 5;
+            r.arguments.clear();
+        };
+        row("pid reused", reusePid, {NameColumn, CpuTimeColumn, StartedColumn, CommandLineColumn});
+    }
+
+    void onlyChangedValuesAreNewObjects()
+    {
+        QFETCH(Change, change);
+        QFETCH(QVector<int>, columns);
+        columns.append(CpuColumn); // the process model writes into it, so each snapshot has its own
+        SnapshotCache cache;
+        const Process before = cache.snapshot({recordOf(42)}).at(42);
+        ProcessRecord record = recordOf(42);
+        change(record);
+        const Process now = cache.snapshot({record}).at(42);
+        const Process alone = made(record);
+        for (unsigned long i = 0; i < ColumnCount; ++i) {
+            QCOMPARE(now.getParam(i) != before.getParam(i), columns.contains(int(i)));
+            QCOMPARE(now.getParam(i)->displayValue(), alone.getParam(i)->displayValue());
+            QCOMPARE(now.getParam(i)->sortValue(), alone.getParam(i)->sortValue());
+        }
+    }
+
+    void exitedProcessesAreForgotten()
+    {
+        SnapshotCache cache;
+        std::vector<std::tr1::weak_ptr<IProcessParam>> values;
+        {
+            const auto snapshot = cache.snapshot({recordOf(42), recordOf(43)});
+            for (const ParamPtr &param : snapshot.at(42).params) {
+                values.emplace_back(param);
+            }
+        }
+        ProcessRecord left = recordOf(43); // with none of the values that processes share
+        left.user = 65534;
+        left.state = 16;
+        left.parent = 20;
+        left.nice = 10;
+        left.processor = 30;
+        QCOMPARE(cache.snapshot({left}).size(), std::size_t(1));
+        for (const auto &value : values) {
+            QVERIFY(value.expired());
+        }
+    }
+
+    void processesShareUserStateAndSmallNumbers()
+    {
+        SnapshotCache cache;
         const auto snapshot = cache.snapshot({recordOf(42), recordOf(43)});
-        for (const ParamPtr &param : snapshot.at(42).params) {
-            values.emplace_back(param);
+        for (const ProcessColumn column :
+             {UserColumn, StateColumn, NiceColumn, ParentPidColumn, ProcessorColumn}) {
+            QCOMPARE(snapshot.at(42).getParam(column).get(), snapshot.at(43).getParam(column).get());
         }
     }
-    ProcessRecord left = recordOf(43); // with none of the values that processes share
-    left.user = 65534;
-    left.state = 16;
-    left.parent = 20;
-    left.nice = 10;
-    left.processor = 30;
-    QCOMPARE(cache.snapshot({left}).size(), std::size_t(1));
-    for (const auto &value : values) {
-        QVERIFY(value.expired());
+
+    void snapshotHasThePidsOfTheRecords()
+    {
+        SnapshotCache cache;
+        const auto pids = [&cache](std::vector<ProcessRecord> records) {
+            QVector<int> keys;
+            for (const auto &entry : cache.snapshot(std::move(records))) {
+                keys.append(entry.first == entry.second.pid() ? entry.first : -1);
+            }
+            return keys;
+        };
+        QCOMPARE(pids({recordOf(2), recordOf(5), recordOf(9)}), (QVector<int>{2, 5, 9}));
+        QCOMPARE(pids({recordOf(1), recordOf(5), recordOf(7), recordOf(10)}), (QVector<int>{1, 5, 7, 10}));
+        QCOMPARE(pids({recordOf(5)}), (QVector<int>{5}));
+        QCOMPARE(pids({}), QVector<int>());
+        QCOMPARE(pids({recordOf(3)}), (QVector<int>{3}));
     }
-}
 
-void TestSnapshotCache::processesShareUserStateAndSmallNumbers()
-{
-    SnapshotCache cache;
-    const auto snapshot = cache.snapshot({recordOf(42), recordOf(43)});
-    for (const ProcessColumn column :
-         {UserColumn, StateColumn, NiceColumn, ParentPidColumn, ProcessorColumn}) {
-        QCOMPARE(snapshot.at(42).getParam(column).get(), snapshot.at(43).getParam(column).get());
+    void extremeRecord()
+    {
+        ProcessRecord record = recordOf(std::numeric_limits<int>::max());
+        record.name = QByteArray("\xff\n\x1b", 3);
+        record.state = std::numeric_limits<int>::max();
+        record.user = -1;
+        record.parent = std::numeric_limits<int>::max();
+        record.nice = std::numeric_limits<int>::min();
+        record.cpuTime = record.frequency = record.started = std::numeric_limits<quint64>::max();
+        record.resident = record.virtualSize = record.shared = std::numeric_limits<quint64>::max();
+        record.arguments = QByteArray(100 * 1024, '\n') + 'x';
+        const Process process = made(record);
+        const QString broken(QChar::ReplacementCharacter);
+        QCOMPARE(process.getName(), QString(broken + QLatin1Char(' ') + broken));
+        QCOMPARE(process.getCpuLoad(), -1);
+        QCOMPARE(process.getPPid(), std::numeric_limits<int>::max());
+        QCOMPARE(shown(process, NiceColumn), QStringLiteral("-2147483648"));
+        QCOMPARE(shown(process, UserColumn), QStringLiteral("4294967295"));
+        QCOMPARE(shown(process, MemoryColumn), QStringLiteral("17179869184.00 GB"));
+        QCOMPARE(shown(process, CpuTimeColumn), QStringLiteral("0:00:01"));
+        QCOMPARE(shown(process, StartedColumn), QStringLiteral("Unknown"));
+        QCOMPARE(shown(process, CommandLineColumn).size(), 1024);
     }
-}
 
-void TestSnapshotCache::snapshotHasThePidsOfTheRecords()
-{
-    SnapshotCache cache;
-    const auto pids = [&cache](std::vector<ProcessRecord> records) {
-        QVector<int> keys;
-        for (const auto &entry : cache.snapshot(std::move(records))) {
-            keys.append(entry.first == entry.second.pid() ? entry.first : -1);
-        }
-        return keys;
-    };
-    QCOMPARE(pids({recordOf(2), recordOf(5), recordOf(9)}), (QVector<int>{2, 5, 9}));
-    QCOMPARE(pids({recordOf(1), recordOf(5), recordOf(7), recordOf(10)}), (QVector<int>{1, 5, 7, 10}));
-    QCOMPARE(pids({recordOf(5)}), (QVector<int>{5}));
-    QCOMPARE(pids({}), QVector<int>());
-    QCOMPARE(pids({recordOf(3)}), (QVector<int>{3}));
-}
+    void emptyRecord()
+    {
+        const Process process = made(ProcessRecord());
+        QCOMPARE(process.pid(), -1);
+        QCOMPARE(process.getName(), QString());
+        QCOMPARE(shown(process, StateColumn), QStringLiteral("Other"));
+        QCOMPARE(shown(process, MemoryColumn), QStringLiteral("0.00 B"));
+        QCOMPARE(shown(process, CpuTimeColumn), QString());
+        QCOMPARE(shown(process, StartedColumn), QStringLiteral("Unknown"));
+        QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("[]"));
+    }
 
-void TestSnapshotCache::extremeRecord()
-{
-    ProcessRecord record = recordOf(std::numeric_limits<int>::max());
-    record.name = QByteArray("\xff\n\x1b", 3);
-    record.state = std::numeric_limits<int>::max();
-    record.user = -1;
-    record.parent = std::numeric_limits<int>::max();
-    record.nice = std::numeric_limits<int>::min();
-    record.cpuTime = record.frequency = record.started = std::numeric_limits<quint64>::max();
-    record.resident = record.virtualSize = record.shared = std::numeric_limits<quint64>::max();
-    record.arguments = QByteArray(100 * 1024, '\n') + 'x';
-    const Process process = made(record);
-    const QString broken(QChar::ReplacementCharacter);
-    QCOMPARE(process.getName(), QString(broken + QLatin1Char(' ') + broken));
-    QCOMPARE(process.getCpuLoad(), -1);
-    QCOMPARE(process.getPPid(), std::numeric_limits<int>::max());
-    QCOMPARE(shown(process, NiceColumn), QStringLiteral("-2147483648"));
-    QCOMPARE(shown(process, UserColumn), QStringLiteral("4294967295"));
-    QCOMPARE(shown(process, MemoryColumn), QStringLiteral("17179869184.00 GB"));
-    QCOMPARE(shown(process, CpuTimeColumn), QStringLiteral("0:00:01"));
-    QCOMPARE(shown(process, StartedColumn), QStringLiteral("Unknown"));
-    QCOMPARE(shown(process, CommandLineColumn).size(), 1024);
-}
+    void onlyExpensiveReadsAreLeftOut_data()
+    {
+        QTest::addColumn<std::vector<bool>>("eager");
+        QTest::addColumn<unsigned>("reads");
+        std::vector<bool> eager;
+        QTest::newRow("not set") << eager << everything;
+        eager.assign(ColumnCount, true);
+        QTest::newRow("all") << eager << everything;
+        eager[CommandLineColumn] = false;
+        QTest::newRow("all but the command line") << eager << (everything & ~ReadArguments);
+        eager.assign(100, false);
+        // Name, user, state, CPU counter and start are read of every process, eager or not.
+        QTest::newRow("none") << eager << unsigned(ReadState | ReadTime);
+        eager[MemoryColumn] = true;
+        QTest::newRow("memory") << eager << unsigned(ReadState | ReadTime | ReadMemory);
+        eager[MemoryColumn] = false;
+        eager[NiceColumn] = true;
+        QTest::newRow("nice") << eager << unsigned(ReadState | ReadTime | ReadUid);
+        QTest::newRow("short list") << std::vector<bool>{true, false} << everything;
+    }
 
-void TestSnapshotCache::emptyRecord()
-{
-    const Process process = made(ProcessRecord());
-    QCOMPARE(process.pid(), -1);
-    QCOMPARE(process.getName(), QString());
-    QCOMPARE(shown(process, StateColumn), QStringLiteral("Other"));
-    QCOMPARE(shown(process, MemoryColumn), QStringLiteral("0.00 B"));
-    QCOMPARE(shown(process, CpuTimeColumn), QString());
-    QCOMPARE(shown(process, StartedColumn), QStringLiteral("Unknown"));
-    QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("[]"));
-}
+    void onlyExpensiveReadsAreLeftOut()
+    {
+        QFETCH(std::vector<bool>, eager);
+        SnapshotCache cache;
+        cache.setEagerColumns(eager);
+        QTEST(cache.eagerReads(), "reads");
+    }
 
-void TestSnapshotCache::onlyExpensiveReadsAreLeftOut_data()
-{
-    QTest::addColumn<std::vector<bool>>("eager");
-    QTest::addColumn<unsigned>("reads");
-    std::vector<bool> eager;
-    QTest::newRow("not set") << eager << everything;
-    eager.assign(ColumnCount, true);
-    QTest::newRow("all") << eager << everything;
-    eager[CommandLineColumn] = false;
-    QTest::newRow("all but the command line") << eager << (everything & ~ReadArguments);
-    eager.assign(100, false);
-    // Name, user, state, CPU counter and start are read of every process, eager or not.
-    QTest::newRow("none") << eager << unsigned(ReadState | ReadTime);
-    eager[MemoryColumn] = true;
-    QTest::newRow("memory") << eager << unsigned(ReadState | ReadTime | ReadMemory);
-    eager[MemoryColumn] = false;
-    eager[NiceColumn] = true;
-    QTest::newRow("nice") << eager << unsigned(ReadState | ReadTime | ReadUid);
-    QTest::newRow("short list") << std::vector<bool>{true, false} << everything;
-}
-
-void TestSnapshotCache::onlyExpensiveReadsAreLeftOut()
-{
-    QFETCH(std::vector<bool>, eager);
-    SnapshotCache cache;
-    cache.setEagerColumns(eager);
-    QTEST(cache.eagerReads(), "reads");
-}
-
-void TestSnapshotCache::columnsThatBecomeOnDemandOrEager()
-{
-    SnapshotCache cache;
-    const Process first = cache.snapshot({recordOf(42)}).at(42);
-    ProcessRecord partly = recordOf(42);
-    partly.unread = ReadMemory;
-    const Process onDemand = cache.snapshot({partly}).at(42);
-    QVERIFY(onDemand.getParam(MemoryColumn) != first.getParam(MemoryColumn));
-    QCOMPARE(onDemand.getParam(CommandLineColumn), first.getParam(CommandLineColumn));
-    const Process again = cache.snapshot({recordOf(42)}).at(42);
-    QCOMPARE(shown(again, MemoryColumn), QStringLiteral("1.00 KB"));
-    QCOMPARE(shown(first, MemoryColumn), QStringLiteral("1.00 KB"));
-}
+    void columnsThatBecomeOnDemandOrEager()
+    {
+        SnapshotCache cache;
+        const Process first = cache.snapshot({recordOf(42)}).at(42);
+        ProcessRecord partly = recordOf(42);
+        partly.unread = ReadMemory;
+        const Process onDemand = cache.snapshot({partly}).at(42);
+        QVERIFY(onDemand.getParam(MemoryColumn) != first.getParam(MemoryColumn));
+        QCOMPARE(onDemand.getParam(CommandLineColumn), first.getParam(CommandLineColumn));
+        const Process again = cache.snapshot({recordOf(42)}).at(42);
+        QCOMPARE(shown(again, MemoryColumn), QStringLiteral("1.00 KB"));
+        QCOMPARE(shown(first, MemoryColumn), QStringLiteral("1.00 KB"));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestSnapshotCache)
 #include "test_snapshotcache.moc"

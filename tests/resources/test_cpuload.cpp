@@ -35,214 +35,196 @@ class TestCpuLoad : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cpuCountStaysWithinLibgtopsArrays_data();
-    void cpuCountStaysWithinLibgtopsArrays();
-    void liveCountIsTheLastIndexPlusOne();
-    void recordFieldsAreInOrderAndStartAtZero();
-    void deltasAreSinceThePreviousSample_data();
-    void deltasAreSinceThePreviousSample();
-    void aThousandCpusAreSampled();
-    void aZeroedReadingIsHandled();
-    void noCpuIsHandled();
+    void cpuCountStaysWithinLibgtopsArrays_data()
+    {
+        QTest::addColumn<int>("lastIndex");
+        QTest::addColumn<int>("count");
 
-    void loadIsComputed_data();
-    void loadIsComputed();
-    void loadNeverLeavesPlusMinusAHundred();
-    void loadTextHasABlankBeforeTheSign();
-
-    void liveReadingHasTheRequestedLength();
-    void liveCountersAreSane();
-};
-
-void TestCpuLoad::cpuCountStaysWithinLibgtopsArrays_data()
-{
-    QTest::addColumn<int>("lastIndex");
-    QTest::addColumn<int>("count");
-
-    QTest::newRow("one") << 0 << 1;
-    QTest::newRow("two") << 1 << 2;
-    QTest::newRow("as many as fit") << 1023 << 1024;
-    QTest::newRow("one more than fits") << 1024 << 1024;
-    QTest::newRow("the largest number") << INT_MAX << 1024;
-    QTest::newRow("none") << -1 << 1;
-    QTest::newRow("the smallest number") << INT_MIN << 1;
-}
-
-void TestCpuLoad::cpuCountStaysWithinLibgtopsArrays()
-{
-    QFETCH(int, lastIndex);
-    QTEST(cpuCountFromLastIndex(lastIndex), "count");
-    QCOMPARE(GLIBTOP_NCPU, 1024);
-}
-
-void TestCpuLoad::liveCountIsTheLastIndexPlusOne()
-{
-    const int count = cpuCount(); // libgtop sets ncpu on the first read
-    QCOMPARE(count, cpuCountFromLastIndex(glibtop_global_server->ncpu));
-}
-
-void TestCpuLoad::recordFieldsAreInOrderAndStartAtZero()
-{
-    QCOMPARE(countersOf({1, 2, 3, 4, nullptr, nullptr, nullptr}), (Counters{1, 2, 3, 4}));
-    QVERIFY(offsetof(CpuRec, gauge) < offsetof(CpuRec, percentLabel));
-    QVERIFY(offsetof(CpuRec, percentLabel) < offsetof(CpuRec, captionLabel));
-
-    std::vector<CpuRec> records;
-    records.resize(1);
-    QCOMPARE(countersOf(records[0]), (Counters{0, 0, 0, 0}));
-    QVERIFY(!records[0].gauge && !records[0].percentLabel && !records[0].captionLabel);
-}
-
-void TestCpuLoad::deltasAreSinceThePreviousSample_data()
-{
-    QTest::addColumn<Samples>("samples");
-    QTest::addColumn<Counters>("sums"); // one per sample
-    QTest::addColumn<QVector<Counters>>("records");
-
-    const auto row = [](const char *name, const Samples &samples, const Counters &sums,
-                        const QVector<Counters> &records) {
-        QTest::newRow(name) << samples << sums << records;
-    };
-    row("first sample: since zero", {{{1000, 3000}, {50, 60}}}, {3060},
-        {{1000, 3000, 1000, 3000}, {50, 60, 50, 60}});
-    row("second sample", {{{1000, 3000}, {50, 60}}, {{1010, 3040}, {50, 61}}}, {3060, 41},
-        {{10, 40, 1010, 3040}, {0, 1, 50, 61}});
-    row("the sum is of the latest deltas only",
-        {{{0, 300}, {0, 60}}, {{0, 310}, {0, 65}}, {{0, 310}, {0, 65}}}, {360, 15, 0},
-        {{0, 0, 0, 310}, {0, 0, 0, 65}});
-    row("falling counters wrap", {{{500, 900}}, {{499, 898}}}, {900, largest - 1},
-        {{largest, largest - 1, 499, 898}});
-    row("a record without a reading stays unchanged", {{{1, 2}, {3, 4}}, {{2, 4}}}, {6, 2},
-        {{1, 2, 2, 4}, {3, 4, 3, 4}});
-    row("a reading without a record is dropped", {{{1, 2}, {3, 4}}}, {2}, {{1, 2, 1, 2}});
-}
-
-void TestCpuLoad::deltasAreSinceThePreviousSample()
-{
-    QFETCH(Samples, samples);
-    QFETCH(QVector<Counters>, records);
-    std::vector<CpuRec> sampled(static_cast<std::size_t>(records.size()));
-    Counters sums;
-    for (const std::vector<CpuCounters> &sample : qAsConst(samples)) {
-        sums << updateCpuDeltas(sample, sampled);
+        QTest::newRow("one") << 0 << 1;
+        QTest::newRow("two") << 1 << 2;
+        QTest::newRow("as many as fit") << 1023 << 1024;
+        QTest::newRow("one more than fits") << 1024 << 1024;
+        QTest::newRow("the largest number") << INT_MAX << 1024;
+        QTest::newRow("none") << -1 << 1;
+        QTest::newRow("the smallest number") << INT_MIN << 1;
     }
-    QTEST(sums, "sums");
-    QVector<Counters> counters;
-    std::transform(sampled.begin(), sampled.end(), std::back_inserter(counters), countersOf);
-    QCOMPARE(counters, records);
-}
 
-void TestCpuLoad::aThousandCpusAreSampled()
-{
-    std::vector<CpuRec> records(1024);
-    std::vector<CpuCounters> read(1024);
-    updateCpuDeltas(read, records);
-    for (std::size_t i = 0; i < read.size(); ++i) {
-        read[i] = {i, 2 * i};
+    void cpuCountStaysWithinLibgtopsArrays()
+    {
+        QFETCH(int, lastIndex);
+        QTEST(cpuCountFromLastIndex(lastIndex), "count");
+        QCOMPARE(GLIBTOP_NCPU, 1024);
     }
-    QCOMPARE(updateCpuDeltas(read, records), quint64(1023 * 1024));
-    QCOMPARE(records[1023].idleDelta, quint64(1023));
-    QCOMPARE(records[1023].totalLast, quint64(2046));
-}
 
-void TestCpuLoad::aZeroedReadingIsHandled()
-{
-    std::vector<CpuRec> records(2);
-    updateCpuDeltas({{0, 0}, {0, 0}}, records);
-    QCOMPARE(cpuLoadPercent(records[0].idleDelta, records[0].totalDelta), 100);
-    updateCpuDeltas({{400, 900}, {0, 0}}, records);
-    updateCpuDeltas({{0, 0}, {0, 0}}, records);
-    // Both differences wrap to nearly 2^64, which gives an idle share of nearly 100 %.
-    QCOMPARE(cpuLoadPercent(records[0].idleDelta, records[0].totalDelta), 0);
-    updateCpuDeltas({{5, 10}, {0, 0}}, records);
-    QCOMPARE(cpuLoadPercent(records[0].idleDelta, records[0].totalDelta), 50);
-}
+    void liveCountIsTheLastIndexPlusOne()
+    {
+        const int count = cpuCount(); // libgtop sets ncpu on the first read
+        QCOMPARE(count, cpuCountFromLastIndex(glibtop_global_server->ncpu));
+    }
 
-void TestCpuLoad::noCpuIsHandled()
-{
-    std::vector<CpuRec> none;
-    QCOMPARE(updateCpuDeltas({}, none), quint64(0));
-    QCOMPARE(sampleCpus(none), quint64(0));
-}
+    void recordFieldsAreInOrderAndStartAtZero()
+    {
+        QCOMPARE(countersOf({1, 2, 3, 4, nullptr, nullptr, nullptr}), (Counters{1, 2, 3, 4}));
+        QVERIFY(offsetof(CpuRec, gauge) < offsetof(CpuRec, percentLabel));
+        QVERIFY(offsetof(CpuRec, percentLabel) < offsetof(CpuRec, captionLabel));
 
-void TestCpuLoad::loadIsComputed_data()
-{
-    QTest::addColumn<quint64>("idle");
-    QTest::addColumn<quint64>("total");
-    QTest::addColumn<int>("load");
+        std::vector<CpuRec> records;
+        records.resize(1);
+        QCOMPARE(countersOf(records[0]), (Counters{0, 0, 0, 0}));
+        QVERIFY(!records[0].gauge && !records[0].percentLabel && !records[0].captionLabel);
+    }
 
-    const auto row = [](const char *name, quint64 idle, quint64 total, int load) {
-        QTest::newRow(name) << idle << total << load;
-    };
-    row("idle", 300, 300, 0);
-    row("busy", 0, 300, 100);
-    row("half", 150, 300, 50);
-    row("a third", 100, 300, 67); // the share is truncated, so the load is rounded up
-    row("an idle share of 99.7 makes 1, not 0", 997, 1000, 1);
-    row("an idle share of 0.9 makes 100", 9, 1000, 100);
-    row("no time, idle or not", 0, 0, 100);
-    row("no time, but idle", 7, 0, 100);
-    row("no time, but largest idle delta", largest, 0, 100);
-    row("more idle than total time: negative", 150, 100, -50);
-    row("the lowest load", 2009, 1000, -100);
-    row("a load of -101", 201, 100, 100);
-    row("a load far below -101", 100000, 100, 100);
-    row("a share beyond 32 bits", 1ULL << 40, 1, 100);
-    row("a share beyond 64 bits", largest, 1, 100);
-    row("idle counter fell", largest - 2, 300, 100);
-    row("total counter fell", 300, largest - 2, 100);
-    row("both fell", largest - 1, largest, 0);
-    row("2^63 is a large number, not a negative one", 1ULL << 62, 1ULL << 63, 50);
-}
+    void deltasAreSinceThePreviousSample_data()
+    {
+        QTest::addColumn<Samples>("samples");
+        QTest::addColumn<Counters>("sums"); // one per sample
+        QTest::addColumn<QVector<Counters>>("records");
 
-void TestCpuLoad::loadIsComputed()
-{
-    QFETCH(quint64, idle);
-    QFETCH(quint64, total);
-    QTEST(cpuLoadPercent(idle, total), "load");
-}
+        const auto row = [](const char *name, const Samples &samples, const Counters &sums,
+                            const QVector<Counters> &records) {
+            QTest::newRow(name) << samples << sums << records;
+        };
+        row("first sample: since zero", {{{1000, 3000}, {50, 60}}}, {3060},
+            {{1000, 3000, 1000, 3000}, {50, 60, 50, 60}});
+        row("second sample", {{{1000, 3000}, {50, 60}}, {{1010, 3040}, {50, 61}}}, {3060, 41},
+            {{10, 40, 1010, 3040}, {0, 1, 50, 61}});
+        row("the sum is of the latest deltas only",
+            {{{0, 300}, {0, 60}}, {{0, 310}, {0, 65}}, {{0, 310}, {0, 65}}}, {360, 15, 0},
+            {{0, 0, 0, 310}, {0, 0, 0, 65}});
+        row("falling counters wrap", {{{500, 900}}, {{499, 898}}}, {900, largest - 1},
+            {{largest, largest - 1, 499, 898}});
+        row("a record without a reading stays unchanged", {{{1, 2}, {3, 4}}, {{2, 4}}}, {6, 2},
+            {{1, 2, 2, 4}, {3, 4, 3, 4}});
+        row("a reading without a record is dropped", {{{1, 2}, {3, 4}}}, {2}, {{1, 2, 1, 2}});
+    }
 
-void TestCpuLoad::loadNeverLeavesPlusMinusAHundred()
-{
-    for (quint64 total = 0; total < 64; ++total) {
-        for (quint64 idle = 0; idle < 256; ++idle) {
-            const int load = cpuLoadPercent(idle, total);
-            QVERIFY(load >= -100 && load <= 100);
+    void deltasAreSinceThePreviousSample()
+    {
+        QFETCH(Samples, samples);
+        QFETCH(QVector<Counters>, records);
+        std::vector<CpuRec> sampled(static_cast<std::size_t>(records.size()));
+        Counters sums;
+        for (const std::vector<CpuCounters> &sample : qAsConst(samples)) {
+            sums << updateCpuDeltas(sample, sampled);
+        }
+        QTEST(sums, "sums");
+        QVector<Counters> counters;
+        std::transform(sampled.begin(), sampled.end(), std::back_inserter(counters), countersOf);
+        QCOMPARE(counters, records);
+    }
+
+    void aThousandCpusAreSampled()
+    {
+        std::vector<CpuRec> records(1024);
+        std::vector<CpuCounters> read(1024);
+        updateCpuDeltas(read, records);
+        for (std::size_t i = 0; i < read.size(); ++i) {
+            read[i] = {i, 2 * i};
+        }
+        QCOMPARE(updateCpuDeltas(read, records), quint64(1023 * 1024));
+        QCOMPARE(records[1023].idleDelta, quint64(1023));
+        QCOMPARE(records[1023].totalLast, quint64(2046));
+    }
+
+    void aZeroedReadingIsHandled()
+    {
+        std::vector<CpuRec> records(2);
+        updateCpuDeltas({{0, 0}, {0, 0}}, records);
+        QCOMPARE(cpuLoadPercent(records[0].idleDelta, records[0].totalDelta), 100);
+        updateCpuDeltas({{400, 900}, {0, 0}}, records);
+        updateCpuDeltas({{0, 0}, {0, 0}}, records);
+        // Both differences wrap to nearly 2^64, which gives an idle share of nearly 100 %.
+        QCOMPARE(cpuLoadPercent(records[0].idleDelta, records[0].totalDelta), 0);
+        updateCpuDeltas({{5, 10}, {0, 0}}, records);
+        QCOMPARE(cpuLoadPercent(records[0].idleDelta, records[0].totalDelta), 50);
+    }
+
+    void noCpuIsHandled()
+    {
+        std::vector<CpuRec> none;
+        QCOMPARE(updateCpuDeltas({}, none), quint64(0));
+        QCOMPARE(sampleCpus(none), quint64(0));
+    }
+
+    void loadIsComputed_data()
+    {
+        QTest::addColumn<quint64>("idle");
+        QTest::addColumn<quint64>("total");
+        QTest::addColumn<int>("load");
+
+        const auto row = [](const char *name, quint64 idle, quint64 total, int load) {
+            QTest::newRow(name) << idle << total << load;
+        };
+        row("idle", 300, 300, 0);
+        row("busy", 0, 300, 100);
+        row("half", 150, 300, 50);
+        row("a third", 100, 300, 67); // the share is truncated, so the load is rounded up
+        row("an idle share of 99.7 makes 1, not 0", 997, 1000, 1);
+        row("an idle share of 0.9 makes 100", 9, 1000, 100);
+        row("no time, idle or not", 0, 0, 100);
+        row("no time, but idle", 7, 0, 100);
+        row("no time, but largest idle delta", largest, 0, 100);
+        row("more idle than total time: negative", 150, 100, -50);
+        row("the lowest load", 2009, 1000, -100);
+        row("a load of -101", 201, 100, 100);
+        row("a load far below -101", 100000, 100, 100);
+        row("a share beyond 32 bits", 1ULL << 40, 1, 100);
+        row("a share beyond 64 bits", largest, 1, 100);
+        row("idle counter fell", largest - 2, 300, 100);
+        row("total counter fell", 300, largest - 2, 100);
+        row("both fell", largest - 1, largest, 0);
+        row("2^63 is a large number, not a negative one", 1ULL << 62, 1ULL << 63, 50);
+    }
+
+    void loadIsComputed()
+    {
+        QFETCH(quint64, idle);
+        QFETCH(quint64, total);
+        QTEST(cpuLoadPercent(idle, total), "load");
+    }
+
+    void loadNeverLeavesPlusMinusAHundred()
+    {
+        for (quint64 total = 0; total < 64; ++total) {
+            for (quint64 idle = 0; idle < 256; ++idle) {
+                const int load = cpuLoadPercent(idle, total);
+                QVERIFY(load >= -100 && load <= 100);
+            }
         }
     }
-}
 
-void TestCpuLoad::loadTextHasABlankBeforeTheSign()
-{
-    QCOMPARE(cpuLoadText(0), QString("0 %"));
-    QCOMPARE(cpuLoadText(100), QString("100 %"));
-    QCOMPARE(cpuLoadText(-50), QString("-50 %"));
-}
+    void loadTextHasABlankBeforeTheSign()
+    {
+        QCOMPARE(cpuLoadText(0), QString("0 %"));
+        QCOMPARE(cpuLoadText(100), QString("100 %"));
+        QCOMPARE(cpuLoadText(-50), QString("-50 %"));
+    }
 
-void TestCpuLoad::liveReadingHasTheRequestedLength()
-{
-    QCOMPARE(readCpuCounters(0).size(), std::size_t(0));
-    QCOMPARE(readCpuCounters(1).size(), std::size_t(1));
-    QCOMPARE(readCpuCounters(1024).size(), std::size_t(1024));
-    QCOMPARE(readCpuCounters(1000000).size(), std::size_t(1024));
-}
+    void liveReadingHasTheRequestedLength()
+    {
+        QCOMPARE(readCpuCounters(0).size(), std::size_t(0));
+        QCOMPARE(readCpuCounters(1).size(), std::size_t(1));
+        QCOMPARE(readCpuCounters(1024).size(), std::size_t(1024));
+        QCOMPARE(readCpuCounters(1000000).size(), std::size_t(1024));
+    }
 
-void TestCpuLoad::liveCountersAreSane()
-{
-    const CpuCounters first = readCpuCounters(1).front();
-    QVERIFY(first.total > 0);
-    QVERIFY(first.idle <= first.total);
+    void liveCountersAreSane()
+    {
+        const CpuCounters first = readCpuCounters(1).front();
+        QVERIFY(first.total > 0);
+        QVERIFY(first.idle <= first.total);
 
-    std::vector<CpuRec> records(static_cast<std::size_t>(cpuCount()));
-    const quint64 sum = sampleCpus(records);
-    QVERIFY(records[0].totalDelta > 0);
-    QCOMPARE(records[0].totalDelta, records[0].totalLast);
-    QVERIFY(sum >= records[0].totalDelta);
+        std::vector<CpuRec> records(static_cast<std::size_t>(cpuCount()));
+        const quint64 sum = sampleCpus(records);
+        QVERIFY(records[0].totalDelta > 0);
+        QCOMPARE(records[0].totalDelta, records[0].totalLast);
+        QVERIFY(sum >= records[0].totalDelta);
 
-    const quint64 before = totalCpuTime();
-    QVERIFY(before > 0);
-    QVERIFY(totalCpuTime() >= before);
-}
+        const quint64 before = totalCpuTime();
+        QVERIFY(before > 0);
+        QVERIFY(totalCpuTime() >= before);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestCpuLoad)
 #include "test_cpuload.moc"

@@ -38,117 +38,109 @@ class TestHistoRing : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aNewRingIsEmptyWithAHundredZeros();
-    void headAndTailFollowTheSamples_data();
-    void headAndTailFollowTheSamples();
-    void holdsTheSameAsAQueueOfAHundred();
-    void aClearedRingStartsOver_data();
-    void aClearedRingStartsOver();
-    void theLargestSampleIsComparedAsSigned();
-};
+    void aNewRingIsEmptyWithAHundredZeros()
+    {
+        HistoRing ring;
+        QVERIFY(!ring.hasData);
+        QCOMPARE(ring.capacity, quint64(100));
+        QCOMPARE(ring.values, std::vector<quint32>(100, 0));
+        QCOMPARE(ring.head, quint64(0));
+        QCOMPARE(ring.tail, quint64(0));
+        QCOMPARE(ring.count(), quint64(1)); // intentional: only hasData distinguishes an empty ring
 
-void TestHistoRing::aNewRingIsEmptyWithAHundredZeros()
-{
-    HistoRing ring;
-    QVERIFY(!ring.hasData);
-    QCOMPARE(ring.capacity, quint64(100));
-    QCOMPARE(ring.values, std::vector<quint32>(100, 0));
-    QCOMPARE(ring.head, quint64(0));
-    QCOMPARE(ring.tail, quint64(0));
-    QCOMPARE(ring.count(), quint64(1)); // intentional: only hasData distinguishes an empty ring
+        ring.append(std::numeric_limits<quint32>::max());
+        QVERIFY(ring.hasData);
+        QCOMPARE(ring.values[0], std::numeric_limits<quint32>::max());
+    }
 
-    ring.append(std::numeric_limits<quint32>::max());
-    QVERIFY(ring.hasData);
-    QCOMPARE(ring.values[0], std::numeric_limits<quint32>::max());
-}
+    void headAndTailFollowTheSamples_data()
+    {
+        QTest::addColumn<int>("appends");
+        QTest::addColumn<quint64>("head");
+        QTest::addColumn<quint64>("tail");
+        QTest::addColumn<quint64>("count");
+        const auto row = [](int appends, quint64 head, quint64 tail, quint64 count) {
+            QTest::addRow("%d", appends) << appends << head << tail << count;
+        };
+        row(1, 0, 0, 1);
+        row(2, 0, 1, 2);
+        row(99, 0, 98, 99);
+        row(100, 0, 99, 100);
+        row(101, 1, 0, 100);
+        row(102, 2, 1, 100);
+        row(199, 99, 98, 100);
+        row(200, 0, 99, 100);
+        row(201, 1, 0, 100);
+        row(1000, 0, 99, 100);
+    }
 
-void TestHistoRing::headAndTailFollowTheSamples_data()
-{
-    QTest::addColumn<int>("appends");
-    QTest::addColumn<quint64>("head");
-    QTest::addColumn<quint64>("tail");
-    QTest::addColumn<quint64>("count");
-    const auto row = [](int appends, quint64 head, quint64 tail, quint64 count) {
-        QTest::addRow("%d", appends) << appends << head << tail << count;
-    };
-    row(1, 0, 0, 1);
-    row(2, 0, 1, 2);
-    row(99, 0, 98, 99);
-    row(100, 0, 99, 100);
-    row(101, 1, 0, 100);
-    row(102, 2, 1, 100);
-    row(199, 99, 98, 100);
-    row(200, 0, 99, 100);
-    row(201, 1, 0, 100);
-    row(1000, 0, 99, 100);
-}
+    void headAndTailFollowTheSamples()
+    {
+        QFETCH(int, appends);
+        HistoRing ring;
+        appendSamples(ring, appends);
+        QTEST(ring.head, "head");
+        QTEST(ring.tail, "tail");
+        QTEST(ring.count(), "count");
+    }
 
-void TestHistoRing::headAndTailFollowTheSamples()
-{
-    QFETCH(int, appends);
-    HistoRing ring;
-    appendSamples(ring, appends);
-    QTEST(ring.head, "head");
-    QTEST(ring.tail, "tail");
-    QTEST(ring.count(), "count");
-}
-
-void TestHistoRing::holdsTheSameAsAQueueOfAHundred()
-{
-    HistoRing ring;
-    std::deque<quint32> queue;
-    for (int i = 0; i < 1000; ++i) {
-        ring.append(sample(i));
-        queue.push_front(sample(i));
-        if (queue.size() > 100) {
-            queue.pop_back();
+    void holdsTheSameAsAQueueOfAHundred()
+    {
+        HistoRing ring;
+        std::deque<quint32> queue;
+        for (int i = 0; i < 1000; ++i) {
+            ring.append(sample(i));
+            queue.push_front(sample(i));
+            if (queue.size() > 100) {
+                queue.pop_back();
+            }
+            QCOMPARE(newestFirst(ring), queue);
+            QCOMPARE(ring.values[ring.head], queue.back());
+            QCOMPARE(ring.values[ring.tail], queue.front());
         }
-        QCOMPARE(newestFirst(ring), queue);
-        QCOMPARE(ring.values[ring.head], queue.back());
-        QCOMPARE(ring.values[ring.tail], queue.front());
     }
-}
 
-void TestHistoRing::aClearedRingStartsOver_data()
-{
-    QTest::addColumn<int>("before");
-    for (int before : {0, 1, 50, 100, 101, 150, 250}) {
-        QTest::addRow("%d", before) << before;
+    void aClearedRingStartsOver_data()
+    {
+        QTest::addColumn<int>("before");
+        for (int before : {0, 1, 50, 100, 101, 150, 250}) {
+            QTest::addRow("%d", before) << before;
+        }
     }
-}
 
-void TestHistoRing::aClearedRingStartsOver()
-{
-    QFETCH(int, before);
-    HistoRing ring;
-    appendSamples(ring, before);
-    ring.clear();
-    QVERIFY(!ring.hasData);
-    QCOMPARE(ring.head, quint64(0));
-    QCOMPARE(ring.tail, quint64(0));
+    void aClearedRingStartsOver()
+    {
+        QFETCH(int, before);
+        HistoRing ring;
+        appendSamples(ring, before);
+        ring.clear();
+        QVERIFY(!ring.hasData);
+        QCOMPARE(ring.head, quint64(0));
+        QCOMPARE(ring.tail, quint64(0));
 
-    ring.append(7);
-    ring.append(8);
-    QCOMPARE(newestFirst(ring), (std::deque<quint32>{8, 7}));
-    appendSamples(ring, 101);
-    QCOMPARE(ring.count(), quint64(100));
-    QCOMPARE(ring.at(99), sample(1));
-}
-
-void TestHistoRing::theLargestSampleIsComparedAsSigned()
-{
-    HistoRing ring;
-    const std::vector<std::pair<quint32, qint32>> samples = {
-        {0xffffffffU, -1}, {0x80000000U, -1}, {0, 0}, {0x7fffffffU, 0x7fffffff}};
-    for (const auto &[value, largest] : samples) {
-        ring.append(value);
-        QCOMPARE(ring.largest(), largest);
+        ring.append(7);
+        ring.append(8);
+        QCOMPARE(newestFirst(ring), (std::deque<quint32>{8, 7}));
+        appendSamples(ring, 101);
+        QCOMPARE(ring.count(), quint64(100));
+        QCOMPARE(ring.at(99), sample(1));
     }
-    for (quint32 i = 0; i < 100; ++i) {
-        ring.append(i % 40);
+
+    void theLargestSampleIsComparedAsSigned()
+    {
+        HistoRing ring;
+        const std::vector<std::pair<quint32, qint32>> samples = {
+            {0xffffffffU, -1}, {0x80000000U, -1}, {0, 0}, {0x7fffffffU, 0x7fffffff}};
+        for (const auto &[value, largest] : samples) {
+            ring.append(value);
+            QCOMPARE(ring.largest(), largest);
+        }
+        for (quint32 i = 0; i < 100; ++i) {
+            ring.append(i % 40);
+        }
+        QCOMPARE(ring.largest(), 39); // dropped samples no longer count
     }
-    QCOMPARE(ring.largest(), 39); // dropped samples no longer count
-}
+};
 
 QTEST_APPLESS_MAIN(TestHistoRing)
 #include "test_historing.moc"

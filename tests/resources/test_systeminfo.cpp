@@ -48,185 +48,179 @@ private:
     }
 
 private Q_SLOTS:
-    void hostAndDomainAreJoined_data();
-    void hostAndDomainAreJoined();
-    void descriptionAndModelAreFound_data();
-    void descriptionAndModelAreFound();
-    void cpuinfoIsReadNoFurtherThanTheFirstModel();
-    void onlyTheFallbackOfTheDescriptionIsTranslated_data();
-    void onlyTheFallbackOfTheDescriptionIsTranslated();
-    void anEndlessLineIsHandled();
-    void noiseIsHandled();
-    void liveProbesDescribeThisMachine();
-};
+    void hostAndDomainAreJoined_data()
+    {
+        QTest::addColumn<QByteArray>("host");
+        QTest::addColumn<QByteArray>("domain");
+        QTest::addColumn<QString>("joined");
 
-void TestSystemInfo::hostAndDomainAreJoined_data()
-{
-    QTest::addColumn<QByteArray>("host");
-    QTest::addColumn<QByteArray>("domain");
-    QTest::addColumn<QString>("joined");
+        const auto row = [](const char *name, const QByteArray &host, const QByteArray &domain,
+                            const QString &joined) { QTest::newRow(name) << host << domain << joined; };
+        row("(none) yields the bare host", "box", "(none)", "box");
+        row("a domain follows a dot", "box", "lan.net", "box.lan.net");
+        row("an empty domain leaves a trailing dot", "box", "", "box.");
+        row("a null domain leaves a trailing dot", "box", QByteArray(), "box.");
+        row("the case matters", "box", "(None)", "box.(None)");
+        row("(none) as a prefix doesn't count", "box", "(none).net", "box.(none).net");
+        row("blanks are not trimmed", "box", "(none) ", "box.(none) ");
+        row("an empty host", "", "(none)", "");
+        row("both are UTF-8", "b\xc3\xb6x", "m\xc3\xbcn", QString::fromUtf8("b\xc3\xb6x.m\xc3\xbcn"));
+        row("invalid UTF-8 is replaced", "b\xffx", "d\xfe", QString("b\uFFFDx.d\uFFFD"));
+        row("the text ends at the first NUL", QByteArray("box\0junk", 8), QByteArray("(none)\0junk", 11),
+            "box");
+        row("a name as long as the buffer", QByteArray(3999, 'h'), "(none)", QString(3999, 'h'));
+    }
 
-    const auto row = [](const char *name, const QByteArray &host, const QByteArray &domain,
-                        const QString &joined) { QTest::newRow(name) << host << domain << joined; };
-    row("(none) yields the bare host", "box", "(none)", "box");
-    row("a domain follows a dot", "box", "lan.net", "box.lan.net");
-    row("an empty domain leaves a trailing dot", "box", "", "box.");
-    row("a null domain leaves a trailing dot", "box", QByteArray(), "box.");
-    row("the case matters", "box", "(None)", "box.(None)");
-    row("(none) as a prefix doesn't count", "box", "(none).net", "box.(none).net");
-    row("blanks are not trimmed", "box", "(none) ", "box.(none) ");
-    row("an empty host", "", "(none)", "");
-    row("both are UTF-8", "b\xc3\xb6x", "m\xc3\xbcn", QString::fromUtf8("b\xc3\xb6x.m\xc3\xbcn"));
-    row("invalid UTF-8 is replaced", "b\xffx", "d\xfe", QString("b\uFFFDx.d\uFFFD"));
-    row("the text ends at the first NUL", QByteArray("box\0junk", 8), QByteArray("(none)\0junk", 11), "box");
-    row("a name as long as the buffer", QByteArray(3999, 'h'), "(none)", QString(3999, 'h'));
-}
+    void hostAndDomainAreJoined()
+    {
+        QFETCH(QByteArray, host);
+        QFETCH(QByteArray, domain);
+        QTEST(joinHostAndDomain(host, domain), "joined");
+    }
 
-void TestSystemInfo::hostAndDomainAreJoined()
-{
-    QFETCH(QByteArray, host);
-    QFETCH(QByteArray, domain);
-    QTEST(joinHostAndDomain(host, domain), "joined");
-}
+    void descriptionAndModelAreFound_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("isCpuModel");
+        QTest::addColumn<QString>("found");
 
-void TestSystemInfo::descriptionAndModelAreFound_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("isCpuModel");
-    QTest::addColumn<QString>("found");
+        const auto os = [](const char *name, const QByteArray &content, const QString &found) {
+            QTest::addRow("description: %s", name) << content << false << found;
+        };
+        os("quotes are dropped", "DISTRIB_ID=Some\nDISTRIB_DESCRIPTION=\"Some OS 1.0\"\nDISTRIB_RELEASE=1\n",
+           "Some OS 1.0");
+        os("no quotes are needed", "DISTRIB_DESCRIPTION=Some OS 1.0\n", "Some OS 1.0");
+        os("only an opening quote loses only that", "DISTRIB_DESCRIPTION=\"Some OS\n", "Some OS");
+        os("only a closing quote loses only that", "DISTRIB_DESCRIPTION=Some OS\"\n", "Some OS");
+        os("one pair of quotes only", "DISTRIB_DESCRIPTION=\"\"Some OS\"\"\n", "\"Some OS\"");
+        os("a single quote character leaves nothing", "DISTRIB_DESCRIPTION=\"\n", "");
+        os("empty quotes leave nothing", "DISTRIB_DESCRIPTION=\"\"\n", "");
+        os("an empty value replaces the fallback", "DISTRIB_DESCRIPTION=\n", "");
+        os("no equals sign gives an empty value", "DISTRIB_DESCRIPTION\n", "");
+        os("text after a second equals sign is dropped", "DISTRIB_DESCRIPTION=\"Some=OS\"\n", "Some");
+        os("of two matches the later one is shown",
+           "DISTRIB_DESCRIPTION=\"First\"\nDISTRIB_DESCRIPTION=\"Second\"\n", "Second");
+        os("leading blanks are trimmed", " \t DISTRIB_DESCRIPTION=\"Some OS\"\n", "Some OS");
+        os("trailing blanks are no part of the value", "DISTRIB_DESCRIPTION=\"Some OS\" \t\n", "Some OS");
+        os("blanks after the equals sign stay, and so does the opening quote",
+           "DISTRIB_DESCRIPTION= \"Some OS\"\n", " \"Some OS");
+        os("a longer key matches too", "DISTRIB_DESCRIPTION_LONG=\"Some OS\"\n", "Some OS");
+        os("the case matters", "distrib_description=\"Some OS\"\n", "Unknown OS");
+        os("a match must begin the line", "# DISTRIB_DESCRIPTION=\"Some OS\"\n", "Unknown OS");
+        os("no match gives the fallback", "DISTRIB_ID=Some\n", "Unknown OS");
+        os("an empty file gives the fallback", "", "Unknown OS");
+        os("lines may end in CR LF", "DISTRIB_DESCRIPTION=\"Some OS\"\r\n\r\n", "Some OS");
+        os("the last line needs no end", "\n\nDISTRIB_DESCRIPTION=\"Some OS\"", "Some OS");
+        os("the text is UTF-8", "DISTRIB_DESCRIPTION=\"S\xc3\xb6me\"\n", QString::fromUtf8("S\xc3\xb6me"));
+        os("invalid UTF-8 is replaced", "DISTRIB_DESCRIPTION=\"S\xffme\"\n", "S\uFFFDme");
+        os("NULs don't end the text", QByteArray("\0\nDISTRIB_DESCRIPTION=\"a\0b\"\n", 28),
+           QString::fromLatin1("a\0b", 3));
 
-    const auto os = [](const char *name, const QByteArray &content, const QString &found) {
-        QTest::addRow("description: %s", name) << content << false << found;
-    };
-    os("quotes are dropped", "DISTRIB_ID=Some\nDISTRIB_DESCRIPTION=\"Some OS 1.0\"\nDISTRIB_RELEASE=1\n",
-       "Some OS 1.0");
-    os("no quotes are needed", "DISTRIB_DESCRIPTION=Some OS 1.0\n", "Some OS 1.0");
-    os("only an opening quote loses only that", "DISTRIB_DESCRIPTION=\"Some OS\n", "Some OS");
-    os("only a closing quote loses only that", "DISTRIB_DESCRIPTION=Some OS\"\n", "Some OS");
-    os("one pair of quotes only", "DISTRIB_DESCRIPTION=\"\"Some OS\"\"\n", "\"Some OS\"");
-    os("a single quote character leaves nothing", "DISTRIB_DESCRIPTION=\"\n", "");
-    os("empty quotes leave nothing", "DISTRIB_DESCRIPTION=\"\"\n", "");
-    os("an empty value replaces the fallback", "DISTRIB_DESCRIPTION=\n", "");
-    os("no equals sign gives an empty value", "DISTRIB_DESCRIPTION\n", "");
-    os("text after a second equals sign is dropped", "DISTRIB_DESCRIPTION=\"Some=OS\"\n", "Some");
-    os("of two matches the later one is shown",
-       "DISTRIB_DESCRIPTION=\"First\"\nDISTRIB_DESCRIPTION=\"Second\"\n", "Second");
-    os("leading blanks are trimmed", " \t DISTRIB_DESCRIPTION=\"Some OS\"\n", "Some OS");
-    os("trailing blanks are no part of the value", "DISTRIB_DESCRIPTION=\"Some OS\" \t\n", "Some OS");
-    os("blanks after the equals sign stay, and so does the opening quote",
-       "DISTRIB_DESCRIPTION= \"Some OS\"\n", " \"Some OS");
-    os("a longer key matches too", "DISTRIB_DESCRIPTION_LONG=\"Some OS\"\n", "Some OS");
-    os("the case matters", "distrib_description=\"Some OS\"\n", "Unknown OS");
-    os("a match must begin the line", "# DISTRIB_DESCRIPTION=\"Some OS\"\n", "Unknown OS");
-    os("no match gives the fallback", "DISTRIB_ID=Some\n", "Unknown OS");
-    os("an empty file gives the fallback", "", "Unknown OS");
-    os("lines may end in CR LF", "DISTRIB_DESCRIPTION=\"Some OS\"\r\n\r\n", "Some OS");
-    os("the last line needs no end", "\n\nDISTRIB_DESCRIPTION=\"Some OS\"", "Some OS");
-    os("the text is UTF-8", "DISTRIB_DESCRIPTION=\"S\xc3\xb6me\"\n", QString::fromUtf8("S\xc3\xb6me"));
-    os("invalid UTF-8 is replaced", "DISTRIB_DESCRIPTION=\"S\xffme\"\n", "S\uFFFDme");
-    os("NULs don't end the text", QByteArray("\0\nDISTRIB_DESCRIPTION=\"a\0b\"\n", 28),
-       QString::fromLatin1("a\0b", 3));
+        const auto cpu = [](const char *name, const QByteArray &content, const QString &found) {
+            QTest::addRow("model: %s", name) << content << true << found;
+        };
+        cpu("the first model is taken", "processor\t: 0\nmodel name\t: First\n\nmodel name\t: Second\n",
+            "First");
+        cpu("runs of blanks become one", "model name\t:  Big \t CPU   2.00GHz  \n", "Big CPU 2.00GHz");
+        cpu("text after a second colon is dropped", "model name\t: CPU: the best\n", "CPU");
+        cpu("leading blanks prevent a match", "  model name\t: Indented\n", "Unknown CPU");
+        cpu("an indented line is skipped", " model name : No\nmodel name : Yes\n", "Yes");
+        cpu("the case matters", "Model name\t: CPU\n", "Unknown CPU");
+        cpu("the model number doesn't match", "model\t\t: 167\n", "Unknown CPU");
+        cpu("no colon gives an empty model", "model name\n", "");
+        cpu("an empty model is a model", "model name\t:\nmodel name\t: Second\n", "");
+        cpu("an empty file gives the fallback", "", "Unknown CPU");
+        cpu("lines may end in CR LF", "processor : 0\r\nmodel name : CPU\r\n", "CPU");
+        cpu("the last line needs no end", "model name : CPU", "CPU");
+        cpu("invalid UTF-8 is replaced", "model name : C\xffU\n", "C\uFFFDU");
+        cpu("NULs don't end the text", QByteArray("\0\nmodel name : C\0U\n", 19),
+            QString::fromLatin1("C\0U", 3));
+        cpu("a machine of 1024 cores", manyCores(1024), "Tiny CPU");
+    }
 
-    const auto cpu = [](const char *name, const QByteArray &content, const QString &found) {
-        QTest::addRow("model: %s", name) << content << true << found;
-    };
-    cpu("the first model is taken", "processor\t: 0\nmodel name\t: First\n\nmodel name\t: Second\n", "First");
-    cpu("runs of blanks become one", "model name\t:  Big \t CPU   2.00GHz  \n", "Big CPU 2.00GHz");
-    cpu("text after a second colon is dropped", "model name\t: CPU: the best\n", "CPU");
-    cpu("leading blanks prevent a match", "  model name\t: Indented\n", "Unknown CPU");
-    cpu("an indented line is skipped", " model name : No\nmodel name : Yes\n", "Yes");
-    cpu("the case matters", "Model name\t: CPU\n", "Unknown CPU");
-    cpu("the model number doesn't match", "model\t\t: 167\n", "Unknown CPU");
-    cpu("no colon gives an empty model", "model name\n", "");
-    cpu("an empty model is a model", "model name\t:\nmodel name\t: Second\n", "");
-    cpu("an empty file gives the fallback", "", "Unknown CPU");
-    cpu("lines may end in CR LF", "processor : 0\r\nmodel name : CPU\r\n", "CPU");
-    cpu("the last line needs no end", "model name : CPU", "CPU");
-    cpu("invalid UTF-8 is replaced", "model name : C\xffU\n", "C\uFFFDU");
-    cpu("NULs don't end the text", QByteArray("\0\nmodel name : C\0U\n", 19), QString::fromLatin1("C\0U", 3));
-    cpu("a machine of 1024 cores", manyCores(1024), "Tiny CPU");
-}
-
-void TestSystemInfo::descriptionAndModelAreFound()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(bool, isCpuModel);
-    const QString path = recorded(content);
-    QTEST(isCpuModel ? cpuModel(path) : osDescription(path), "found");
-}
-
-void TestSystemInfo::cpuinfoIsReadNoFurtherThanTheFirstModel()
-{
-    QByteArray content = manyCores(1024);
-    QBuffer device(&content);
-    QVERIFY(device.open(QIODevice::ReadOnly));
-    QTextStream text(&device);
-    QCOMPARE(cpuModelFromText(text), QString("Tiny CPU"));
-    QVERIFY2(device.pos() < content.size() / 10, qPrintable(QString::number(device.pos())));
-}
-
-void TestSystemInfo::onlyTheFallbackOfTheDescriptionIsTranslated_data()
-{
-    QTest::addColumn<QString>("path");
-    const QString pipe = directory.filePath("pipe");
-    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    QTest::newRow("missing file") << directory.filePath("missing");
-    QTest::newRow("pipe, which would block") << pipe;
-    QTest::newRow("directory") << directory.path();
-    QTest::newRow("no path") << QString();
-}
-
-void TestSystemInfo::onlyTheFallbackOfTheDescriptionIsTranslated()
-{
-    QFETCH(QString, path);
-    QCOMPARE(osDescription(path), QString("Unknown OS"));
-    QCOMPARE(cpuModel(path), QString("Unknown CPU"));
-    const BracketTranslator translator("Updater");
-    QCOMPARE(osDescription(path), QString("<Unknown OS>"));
-    QCOMPARE(cpuModel(path), QString("Unknown CPU"));
-}
-
-void TestSystemInfo::anEndlessLineIsHandled()
-{
-    const QString path = recorded(QByteArray(8 << 20, 'x') + "\nmodel name : CPU\nDISTRIB_DESCRIPTION=OS\n");
-    QCOMPARE(cpuModel(path), QString("CPU"));
-    QCOMPARE(osDescription(path), QString("OS"));
-}
-
-void TestSystemInfo::noiseIsHandled()
-{
-    std::mt19937 random(20261121);
-    const QList<QByteArray> pieces = {"DISTRIB_DESCRIPTION", "model name", "=", ":", "\"", "\n", "\r\n", " "};
-    for (int round = 0; round < 500; ++round) {
-        QByteArray content = "x\nmodel name:CPU\nDISTRIB_DESCRIPTION=OS\n";
-        for (int i = 0; i < 60; ++i) {
-            const unsigned pick = random() % 16;
-            content +=
-                pick < 8 ? pieces.at(static_cast<int>(pick)) : QByteArray(1, static_cast<char>(random()));
-        }
+    void descriptionAndModelAreFound()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(bool, isCpuModel);
         const QString path = recorded(content);
-        QCOMPARE(cpuModel(path), QString("CPU"));
-        const QString description = osDescription(path);
-        QVERIFY(description != "Unknown OS");
-        QVERIFY(!description.contains('=') && !description.contains('\n'));
+        QTEST(isCpuModel ? cpuModel(path) : osDescription(path), "found");
     }
-}
 
-void TestSystemInfo::liveProbesDescribeThisMachine()
-{
-    for (const QString &text : {osDescription(), cpuModel()}) {
-        QVERIFY(!text.isNull());
-        QVERIFY(!text.contains('\n'));
+    void cpuinfoIsReadNoFurtherThanTheFirstModel()
+    {
+        QByteArray content = manyCores(1024);
+        QBuffer device(&content);
+        QVERIFY(device.open(QIODevice::ReadOnly));
+        QTextStream text(&device);
+        QCOMPARE(cpuModelFromText(text), QString("Tiny CPU"));
+        QVERIFY2(device.pos() < content.size() / 10, qPrintable(QString::number(device.pos())));
     }
-    const QString name = QSysInfo::machineHostName();
-    QVERIFY(!name.isEmpty());
-    QVERIFY2(hostName().startsWith(name), qPrintable(hostName()));
-    utsname expected{};
-    QCOMPARE(uname(&expected), 0);
-    const KernelFacts facts = kernelFacts();
-    QCOMPARE(facts.release, QString::fromLatin1(expected.release));
-    QCOMPARE(facts.machine, QString::fromLatin1(expected.machine));
-}
+
+    void onlyTheFallbackOfTheDescriptionIsTranslated_data()
+    {
+        QTest::addColumn<QString>("path");
+        const QString pipe = directory.filePath("pipe");
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QTest::newRow("missing file") << directory.filePath("missing");
+        QTest::newRow("pipe, which would block") << pipe;
+        QTest::newRow("directory") << directory.path();
+        QTest::newRow("no path") << QString();
+    }
+
+    void onlyTheFallbackOfTheDescriptionIsTranslated()
+    {
+        QFETCH(QString, path);
+        QCOMPARE(osDescription(path), QString("Unknown OS"));
+        QCOMPARE(cpuModel(path), QString("Unknown CPU"));
+        const BracketTranslator translator("Updater");
+        QCOMPARE(osDescription(path), QString("<Unknown OS>"));
+        QCOMPARE(cpuModel(path), QString("Unknown CPU"));
+    }
+
+    void anEndlessLineIsHandled()
+    {
+        const QString path =
+            recorded(QByteArray(8 << 20, 'x') + "\nmodel name : CPU\nDISTRIB_DESCRIPTION=OS\n");
+        QCOMPARE(cpuModel(path), QString("CPU"));
+        QCOMPARE(osDescription(path), QString("OS"));
+    }
+
+    void noiseIsHandled()
+    {
+        std::mt19937 random(20261121);
+        const QList<QByteArray> pieces = {
+            "DISTRIB_DESCRIPTION", "model name", "=", ":", "\"", "\n", "\r\n", " "};
+        for (int round = 0; round < 500; ++round) {
+            QByteArray content = "x\nmodel name:CPU\nDISTRIB_DESCRIPTION=OS\n";
+            for (int i = 0; i < 60; ++i) {
+                const unsigned pick = random() % 16;
+                content +=
+                    pick < 8 ? pieces.at(static_cast<int>(pick)) : QByteArray(1, static_cast<char>(random()));
+            }
+            const QString path = recorded(content);
+            QCOMPARE(cpuModel(path), QString("CPU"));
+            const QString description = osDescription(path);
+            QVERIFY(description != "Unknown OS");
+            QVERIFY(!description.contains('=') && !description.contains('\n'));
+        }
+    }
+
+    void liveProbesDescribeThisMachine()
+    {
+        for (const QString &text : {osDescription(), cpuModel()}) {
+            QVERIFY(!text.isNull());
+            QVERIFY(!text.contains('\n'));
+        }
+        const QString name = QSysInfo::machineHostName();
+        QVERIFY(!name.isEmpty());
+        QVERIFY2(hostName().startsWith(name), qPrintable(hostName()));
+        utsname expected{};
+        QCOMPARE(uname(&expected), 0);
+        const KernelFacts facts = kernelFacts();
+        QCOMPARE(facts.release, QString::fromLatin1(expected.release));
+        QCOMPARE(facts.machine, QString::fromLatin1(expected.machine));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestSystemInfo)
 #include "test_systeminfo.moc"

@@ -46,38 +46,35 @@ class TestTimeHisto192Dpi : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theLegendHasTwiceItsSize();
-    void noLabelIsCut();
-};
+    void theLegendHasTwiceItsSize()
+    {
+        QCOMPARE(zarnDpiScaled(1.0), 2.0);
+        const histogeometry::LegendSizes sizes = histogeometry::legendSizes();
+        QCOMPARE(sizes.margin, 10);
+        QCOMPARE(sizes.spacing, 10);
+        QCOMPARE(sizes.boxWidth, 190);
+        QCOMPARE(sizes.boxHeight, 120);
 
-void TestTimeHisto192Dpi::theLegendHasTwiceItsSize()
-{
-    QCOMPARE(zarnDpiScaled(1.0), 2.0);
-    const histogeometry::LegendSizes sizes = histogeometry::legendSizes();
-    QCOMPARE(sizes.margin, 10);
-    QCOMPARE(sizes.spacing, 10);
-    QCOMPARE(sizes.boxWidth, 190);
-    QCOMPARE(sizes.boxHeight, 120);
-
-    const QImage image = busyGraph();
-    for (const QPoint &corner : {QPoint(20, 280), QPoint(59, 319)}) {
-        QCOMPARE(image.pixelColor(corner), QColor(Qt::blue));
-        QCOMPARE(image.pixelColor(corner + QPoint(0, 60)), QColor(Qt::red));
+        const QImage image = busyGraph();
+        for (const QPoint &corner : {QPoint(20, 280), QPoint(59, 319)}) {
+            QCOMPARE(image.pixelColor(corner), QColor(Qt::blue));
+            QCOMPARE(image.pixelColor(corner + QPoint(0, 60)), QColor(Qt::red));
+        }
     }
-}
 
-void TestTimeHisto192Dpi::noLabelIsCut()
-{
-    const QImage image = busyGraph();
-    const QRect amount = inkIn(image, QRect(1, 1, 68, 60)); // up to where the grid begins
-    QVERIFY(amount.width() > 40);                           // there is a label
-    QVERIFY(amount.left() >= 2);
-    QVERIFY(amount.right() <= 67);
-    const QRect time = inkIn(image, QRect(210, 387, 428, 12)); // between the base line and the border
-    QVERIFY(time.width() > 300);
-    QVERIFY(time.bottom() <= 397);
-    QVERIFY(inkIn(image, QRect(210, 387, 428, 1)).isEmpty());
-}
+    void noLabelIsCut()
+    {
+        const QImage image = busyGraph();
+        const QRect amount = inkIn(image, QRect(1, 1, 68, 60)); // up to where the grid begins
+        QVERIFY(amount.width() > 40);                           // there is a label
+        QVERIFY(amount.left() >= 2);
+        QVERIFY(amount.right() <= 67);
+        const QRect time = inkIn(image, QRect(210, 387, 428, 12)); // between the base line and the border
+        QVERIFY(time.width() > 300);
+        QVERIFY(time.bottom() <= 397);
+        QVERIFY(inkIn(image, QRect(210, 387, 428, 1)).isEmpty());
+    }
+};
 
 int main(int argc, char *argv[])
 {
