@@ -11,12 +11,12 @@ void Updater::refreshProcesses()
 {
     static auto *filler = gtop_wrappers::ProcessFiller::instance();
     procModel->setTotalCpuTime(totalCpuTime());
-    std::vector<bool> wanted(filler->size(), false);
+    std::vector<bool> eager(filler->size(), false);
     const int sortedBy = procModel->sortedProcessColumn();
     if (sortedBy >= 0) {
-        wanted[static_cast<std::size_t>(sortedBy)] = true;
+        eager[static_cast<std::size_t>(sortedBy)] = true;
     }
-    filler->setEagerColumns(wanted);
+    filler->setEagerColumns(eager);
     const auto types = static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes());
     const int selected = selectedPid();
     procModel->refresh(filler->getProcesses(types), 0);

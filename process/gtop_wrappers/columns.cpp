@@ -83,44 +83,44 @@ ParamPtr makeOnDemand(const OnDemandPtr &values)
     return ParamPtr(new Param(values));
 }
 
-/// Parent PID: the parent is read by Parents, which does without reading it most of the time.
-constexpr unsigned readByParents = 0;
+/// For the pid, which is known, and for the parent, which Parents provides, mostly without a call.
+constexpr unsigned noReads = 0;
 
 using Record = ProcessRecord;
 
 // clang-format off
 const std::array<Column, ColumnCount> table = {{
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Name"), Shown,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Name"), ShownByDefault,
      ReadState, makeName, same<&Record::name>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU"), Shown,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU"), ShownByDefault,
      ReadTime, makeCpu, neverSame, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "PID"), Shown,
-     0, makePid, same<&Record::pid>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "User"), Shown,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "PID"), ShownByDefault,
+     noReads, makePid, same<&Record::pid>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "User"), ShownByDefault,
      ReadState, makeUser, same<&Record::user>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Memory"), Shown,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Memory"), ShownByDefault,
      ReadMemory, makeSize<&Record::resident>, same<&Record::resident>,
      makeOnDemand<OnDemandSizeParam<&Record::resident>>},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "State"), Shown,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "State"), ShownByDefault,
      ReadState, makeState, same<&Record::state>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Virtual memory"), Hidden,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Virtual memory"), HiddenByDefault,
      ReadMemory, makeSize<&Record::virtualSize>, same<&Record::virtualSize>,
      makeOnDemand<OnDemandSizeParam<&Record::virtualSize>>},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Shared memory"), Hidden,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Shared memory"), HiddenByDefault,
      ReadMemory, makeSize<&Record::shared>, same<&Record::shared>,
      makeOnDemand<OnDemandSizeParam<&Record::shared>>},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Nice"), Hidden,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Nice"), HiddenByDefault,
      ReadUid, makeSharedInt<&Record::nice>, same<&Record::nice>, makeOnDemand<OnDemandNiceParam>},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Parent PID"), Hidden,
-     readByParents, makeSharedInt<&Record::parent>, same<&Record::parent>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU time"), Shown,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Parent PID"), HiddenByDefault,
+     noReads, makeSharedInt<&Record::parent>, same<&Record::parent>, nullptr},
+    {QT_TRANSLATE_NOOP("ProcessFiller", "CPU time"), ShownByDefault,
      ReadTime, makeCpuTime, same<&Record::cpuTime, &Record::frequency>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Started"), Shown,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Started"), ShownByDefault,
      ReadTime, makeStarted, same<&Record::started>, nullptr},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Command line"), Shown,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Command line"), ShownByDefault,
      ReadArguments | ReadState, makeCommandLine, same<&Record::arguments, &Record::name>,
      makeOnDemand<OnDemandCommandLineParam>},
-    {QT_TRANSLATE_NOOP("ProcessFiller", "Processor"), Shown,
+    {QT_TRANSLATE_NOOP("ProcessFiller", "Processor"), ShownByDefault,
      ReadState, makeSharedInt<&Record::processor>, same<&Record::processor>, nullptr},
 }};
 // clang-format on

@@ -12,7 +12,8 @@
 
 namespace gtop_wrappers {
 
-enum DefaultVisibility { Shown, Hidden };
+/// Whether a column is shown until the user chooses otherwise.
+enum DefaultVisibility { ShownByDefault, HiddenByDefault };
 
 /// One process column.
 struct Column

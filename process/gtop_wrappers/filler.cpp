@@ -41,7 +41,7 @@ QString ProcessFiller::title(unsigned long i) const
 
 bool ProcessFiller::isShownByDefault(unsigned long i) const
 {
-    return i < size() && columns()[i].visibility == Shown;
+    return i < size() && columns()[i].visibility == ShownByDefault;
 }
 
 std::map<int, Process> ProcessFiller::getProcesses(ProcessTypes types)

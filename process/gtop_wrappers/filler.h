@@ -40,7 +40,7 @@ public:
     /// Chooses the columns that the next snapshots read for all rows, for instance the one that is sorted by.
     /// Missing entries count as chosen, so an empty list (the initial state) chooses all. The expensive
     /// values of the others are read on demand, when a cell asks for them, at most once per snapshot. If the
-    /// process has exited by then, they keep what was last read, or are empty.
+    /// process has exited by then, they keep what was last read on demand, or are empty.
     void setEagerColumns(const std::vector<bool> &columns);
 
 private:

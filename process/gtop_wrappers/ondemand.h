@@ -21,7 +21,7 @@ public:
     /// A new snapshot has the same process: values are read again when they are next asked for.
     void startSnapshot(const ProcessRecord &now);
     /// A record in which the fields of `read`, a single one of Reads, are valid. If the process has exited,
-    /// they hold what was last read; null if they were never read.
+    /// they hold what was last read on demand; null if they were never read.
     const ProcessRecord *record(Reads read);
 
 private:

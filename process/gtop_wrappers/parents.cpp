@@ -38,7 +38,8 @@ void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clo
             exited.push_back(record.pid);
             continue;
         }
-        const ProcessRecord *parent = findByPid(records, record.parent);
+        // What came with the record may be of another process that had the pid when it was read.
+        const ProcessRecord *parent = wasRead ? nullptr : findByPid(records, record.parent);
         if (parent && clock.secondIsOver(record.started, now) && clock.secondIsOver(parent->started, now)) {
             known.push_back({record.pid, record.started, record.parent, parent->started});
         }

@@ -3,6 +3,15 @@
 
 #include <sys/resource.h>
 
+namespace {
+
+int niceOf(const SampleProcess &process)
+{
+    return getpriority(PRIO_PROCESS, static_cast<id_t>(process.pid()));
+}
+
+} // namespace
+
 /// What the kernel refuses a user, and what it grants: lowering the priority of the user's own processes.
 class TestActionsRefused : public ProgramTest
 {
@@ -126,15 +135,6 @@ private:
         return box.value("text").toString() == text && box.value("icon").toInt() == warningIcon && clickOk();
     }
 };
-
-namespace {
-
-int niceOf(const SampleProcess &process)
-{
-    return getpriority(PRIO_PROCESS, static_cast<id_t>(process.pid()));
-}
-
-} // namespace
 
 QTEST_GUILESS_MAIN(TestActionsRefused)
 #include "test_actions_refused.moc"

@@ -4,6 +4,23 @@
 #include <QtMath>
 #include <QtTest>
 
+namespace {
+
+/// A mount of 1 GiB. Quarters of it are exact.
+standin::Mount mount(const std::string &device, const std::string &directory, int percentAvailable,
+                     const char *type = "ext4")
+{
+    const std::uint64_t blocks = 262144; // of 4 KiB each
+    const auto percent = std::uint64_t(percentAvailable);
+    return {device, directory, type, blocks, blocks, blocks * percent / 100};
+}
+
+const standin::Mount rootMount = mount("/dev/sda1", "/", 25);
+const standin::Mount dataMount = mount("/dev/sdb1", "/data", 50, "xfs");
+const standin::Mount discMount = mount("/dev/sr0", "/media/disc", 0, "iso9660");
+
+} // namespace
+
 class TestFileSystemsPage : public QObject
 {
     Q_OBJECT
@@ -222,23 +239,6 @@ private:
 
     std::unique_ptr<PageSession> session;
 };
-
-namespace {
-
-/// A mount of 1 GiB. Quarters of it are exact.
-standin::Mount mount(const std::string &device, const std::string &directory, int percentAvailable,
-                     const char *type = "ext4")
-{
-    const std::uint64_t blocks = 262144; // of 4 KiB each
-    const auto percent = std::uint64_t(percentAvailable);
-    return {device, directory, type, blocks, blocks, blocks * percent / 100};
-}
-
-const standin::Mount rootMount = mount("/dev/sda1", "/", 25);
-const standin::Mount dataMount = mount("/dev/sdb1", "/data", 50, "xfs");
-const standin::Mount discMount = mount("/dev/sr0", "/media/disc", 0, "iso9660");
-
-} // namespace
 
 QTEST_GUILESS_MAIN(TestFileSystemsPage)
 #include "test_filesystems_page.moc"

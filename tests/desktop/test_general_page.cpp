@@ -3,6 +3,35 @@
 
 #include <QtTest>
 
+#include <functional>
+
+namespace {
+
+constexpr std::uint64_t gigabyte = 1024 * 1024 * 1024;
+const QString memoryGauge = "Free memory";
+const QString diskGauge = "Free space";
+
+QString loadGauge(int cpu)
+{
+    return QString("CPU core %1 load").arg(cpu);
+}
+
+standin::Mount mount(const char *device, const char *directory, std::uint64_t blocks, std::uint64_t available)
+{
+    return {device, directory, "ext4", blocks, available, available};
+}
+
+standin::Machine machineWithCpus(int count)
+{
+    standin::Machine machine;
+    machine.cpus = std::vector<standin::Cpu>(std::size_t(count));
+    machine.memory = standin::Memory{8 * gigabyte, gigabyte, gigabyte, 2 * gigabyte};
+    machine.mounts = {mount("/dev/sda1", "/", 1000000, 250000)};
+    return machine;
+}
+
+} // namespace
+
 class TestGeneralPage : public QObject
 {
     Q_OBJECT
@@ -189,7 +218,7 @@ private:
         return (area.isNull() ? session->windowRect() : area).contains(last);
     }
 
-    bool sendUntil(const std::function<void()> &input, const std::function<bool()> &condition) ::function<bool()> &condition)
+    bool sendUntil(const std::function<void()> &input, const std::function<bool()> &condition)
     {
         return session->waitFor([&] {
             for (int i = 0; i < 100; ++i) {
@@ -201,33 +230,6 @@ private:
 
     std::unique_ptr<PageSession> session;
 };
-
-namespace {
-
-constexpr std::uint64_t gigabyte = 1024 * 1024 * 1024;
-const QString memoryGauge = "Free memory";
-const QString diskGauge = "Free space";
-
-QString loadGauge(int cpu)
-{
-    return QString("CPU core %1 load").arg(cpu);
-}
-
-standin::Mount mount(const char *device, const char *directory, std::uint64_t blocks, std::uint64_t available)
-{
-    return {device, directory, "ext4", blocks, available, available};
-}
-
-standin::Machine machineWithCpus(int count)
-{
-    standin::Machine machine;
-    machine.cpus = std::vector<standin::Cpu>(std::size_t(count));
-    machine.memory = standin::Memory{8 * gigabyte, gigabyte, gigabyte, 2 * gigabyte};
-    machine.mounts = {mount("/dev/sda1", "/", 1000000, 250000)};
-    return machine;
-}
-
-} // namespace
 
 QTEST_GUILESS_MAIN(TestGeneralPage)
 #include "test_general_page.moc"

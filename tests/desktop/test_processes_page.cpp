@@ -9,6 +9,21 @@
 #include <pwd.h>
 #include <unistd.h>
 
+namespace {
+
+double share(const QString &cpuText)
+{
+    return cpuText.section(' ', 0, 0).toDouble();
+}
+
+QString userName(uid_t id)
+{
+    const passwd *user = getpwuid(id);
+    return user ? QString::fromLocal8Bit(user->pw_name) : QString::number(id);
+}
+
+} // namespace
+
 class TestProcessesPage : public QObject
 {
     Q_OBJECT
@@ -228,21 +243,6 @@ private:
     std::unique_ptr<DesktopSession> session;
     std::unique_ptr<ProcessesPage> page;
 };
-
-namespace {
-
-double share(const QString &cpuText)
-{
-    return cpuText.section(' ', 0, 0).toDouble();
-}
-
-QString userName(uid_t id)
-{
-    const passwd *user = getpwuid(id);
-    return user ? QString::fromLocal8Bit(user->pw_name) : QString::number(id);
-}
-
-} // namespace
 
 QTEST_GUILESS_MAIN(TestProcessesPage)
 #include "test_processes_page.moc"

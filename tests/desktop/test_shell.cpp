@@ -4,6 +4,21 @@
 #include <QJsonArray>
 #include <QtTest>
 
+namespace {
+
+const QStringList pages{"general", "processes", "filesystems", "network"};
+const QStringList tabTexts{"System", "Processes", "File systems", "Network"};
+const QStringList shownWidgets{"lblHost", "treeView", "tableFS", "comboNet"};
+
+const QByteArray usage = "Usage: zarn-system-monitor [tab]\n"
+                         "tab can be specified as:\n"
+                         "  general or -tab=1 - first page with general system info\n"
+                         "  processes or -tab=2 - second page with process list\n"
+                         "  filesystems or -tab=3 - third page with filesystem list\n"
+                         "  network or -tab=4 - fourth page with network info\n";
+
+} // namespace
+
 class TestShell : public QObject
 {
     Q_OBJECT
@@ -115,21 +130,6 @@ private:
     int currentTab() { return session->widget("tabWidget").value("currentIndex").toInt(-1); }
     std::unique_ptr<DesktopSession> session;
 };
-
-namespace {
-
-const QStringList pages{"general", "processes", "filesystems", "network"};
-const QStringList tabTexts{"System", "Processes", "File systems", "Network"};
-const QStringList shownWidgets{"lblHost", "treeView", "tableFS", "comboNet"};
-
-const QByteArray usage = "Usage: zarn-system-monitor [tab]\n"
-                         "tab can be specified as:\n"
-                         "  general or -tab=1 - first page with general system info\n"
-                         "  processes or -tab=2 - second page with process list\n"
-                         "  filesystems or -tab=3 - third page with filesystem list\n"
-                         "  network or -tab=4 - fourth page with network info\n";
-
-} // namespace
 
 QTEST_GUILESS_MAIN(TestShell)
 #include "test_shell.moc"

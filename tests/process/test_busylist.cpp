@@ -6,45 +6,6 @@
 #include <QScrollBar>
 #include <QtTest>
 
-/// More than a thousand processes that start, exit and change while a view is used.
-class TestBusyList : public QObject
-{
-    Q_OBJECT
-private Q_SLOTS:
-    void everyRefreshShowsWhatTheRulesSay_data()
-    {
-        QTest::addColumn<bool>("flat");
-        QTest::addColumn<unsigned int>("seed");
-        QTest::newRow("flat") << true << 4711U;
-        QTest::newRow("tree") << false << 4712U;
-    }
-
-    void everyRefreshShowsWhatTheRulesSay()
-    {
-        QFETCH(bool, flat);
-        QFETCH(unsigned int, seed);
-        const int refreshes = qEnvironmentVariableIntValue("ZSM_TEST_REFRESHES");
-        BusyList list(seed, flat);
-        for (int round = 1; round <= (refreshes > 0 ? refreshes : 200); ++round) {
-            list.refresh();
-            list.check();
-            if (round % 50 == 0) {
-                list.checkItems();
-            }
-            if (round % 20 == 0) {
-                list.reset();
-            }
-            for (int i = 0; i < 4; ++i) {
-                list.use();
-            }
-            if (QTest::currentTestFailed()) {
-                qWarning("failed in refresh %d", round);
-                return;
-            }
-        }
-    }
-};
-
 namespace {
 
 const int processes = 1150;
@@ -197,6 +158,45 @@ private:
 };
 
 } // namespace
+
+/// More than a thousand processes that start, exit and change while a view is used.
+class TestBusyList : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void everyRefreshShowsWhatTheRulesSay_data()
+    {
+        QTest::addColumn<bool>("flat");
+        QTest::addColumn<unsigned int>("seed");
+        QTest::newRow("flat") << true << 4711U;
+        QTest::newRow("tree") << false << 4712U;
+    }
+
+    void everyRefreshShowsWhatTheRulesSay()
+    {
+        QFETCH(bool, flat);
+        QFETCH(unsigned int, seed);
+        const int refreshes = qEnvironmentVariableIntValue("ZSM_TEST_REFRESHES");
+        BusyList list(seed, flat);
+        for (int round = 1; round <= (refreshes > 0 ? refreshes : 200); ++round) {
+            list.refresh();
+            list.check();
+            if (round % 50 == 0) {
+                list.checkItems();
+            }
+            if (round % 20 == 0) {
+                list.reset();
+            }
+            for (int i = 0; i < 4; ++i) {
+                list.use();
+            }
+            if (QTest::currentTestFailed()) {
+                qWarning("failed in refresh %d", round);
+                return;
+            }
+        }
+    }
+};
 
 QTEST_MAIN(TestBusyList)
 #include "test_busylist.moc"

@@ -23,6 +23,37 @@
 #include <algorithm>
 #include <cstring>
 
+namespace {
+
+using Counters = QVector<guint64>;
+
+/// The record that a libgtop call fills in over garbage.
+template <typename Record, typename... Parameters, typename... Arguments>
+Record answer(void (*call)(Record *, Parameters...), Arguments... arguments)
+{
+    Record record;
+    std::memset(&record, 0xff, sizeof record);
+    call(&record, arguments...);
+    return record;
+}
+
+std::vector<pid_t> listedPids(gint64 which = GLIBTOP_KERN_PROC_ALL, gint64 arg = 0)
+{
+    glibtop_proclist list;
+    pid_t *pids = glibtop_get_proclist(&list, which, arg);
+    const std::vector<pid_t> result(pids, pids + list.number);
+    g_free(pids);
+    return result;
+}
+
+bool isListed(qint64 pid)
+{
+    const std::vector<pid_t> pids = listedPids();
+    return std::find(pids.begin(), pids.end(), pid) != pids.end();
+}
+
+} // namespace
+
 class TestGtopStandin : public QObject
 {
     Q_OBJECT
@@ -229,37 +260,6 @@ private Q_SLOTS:
         QCOMPARE(standin::calls().mountList, 0u);
     }
 };
-
-namespace {
-
-using Counters = QVector<guint64>;
-
-/// The record that a libgtop call fills in over garbage.
-template <typename Record, typename... Parameters, typename... Arguments>
-Record answer(void (*call)(Record *, Parameters...), Arguments... arguments)
-{
-    Record record;
-    std::memset(&record, 0xff, sizeof record);
-    call(&record, arguments...);
-    return record;
-}
-
-std::vector<pid_t> listedPids(gint64 which = GLIBTOP_KERN_PROC_ALL, gint64 arg = 0)
-{
-    glibtop_proclist list;
-    pid_t *pids = glibtop_get_proclist(&list, which, arg);
-    const std::vector<pid_t> result(pids, pids + list.number);
-    g_free(pids);
-    return result;
-}
-
-bool isListed(qint64 pid)
-{
-    const std::vector<pid_t> pids = listedPids();
-    return std::find(pids.begin(), pids.end(), pid) != pids.end();
-}
-
-} // namespace
 
 QTEST_GUILESS_MAIN(TestGtopStandin)
 #include "test_gtopstandin.moc"

@@ -8,6 +8,25 @@
 
 #include <stdexcept>
 
+namespace {
+
+standin::Machine fullMachine()
+{
+    standin::Machine machine;
+    machine.cpus = {{1, 2}, {3, ~std::uint64_t(0)}};
+    machine.memory = standin::Memory{100, 20, 3, 4};
+    machine.mounts = {{"/dev/sd a", "/mnt/\xff%\n", "", 5, 4, 3, 2, 512, true, 7}, standin::Mount{}};
+    machine.mountListFails = true;
+    machine.interfaces = {{"eth0", 0x0100007f, 0xff, 11, 12, 13, true}};
+    machine.interfaceListFails = true;
+    const standin::Process process{-2, "a b", 1000, 16, -20, 1, 2, 3, 4, 5, 6, std::string("a\0b\0", 4), 2};
+    machine.processes = {{42, process}, {43, standin::Process{}}};
+    machine.mostOfOthers = 8;
+    return machine;
+}
+
+} // namespace
+
 class TestGtopStandinText : public QObject
 {
     Q_OBJECT
@@ -85,25 +104,6 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(standin::save({}, unwritable), std::runtime_error);
     }
 };
-
-namespace {
-
-standin::Machine fullMachine()
-{
-    standin::Machine machine;
-    machine.cpus = {{1, 2}, {3, ~std::uint64_t(0)}};
-    machine.memory = standin::Memory{100, 20, 3, 4};
-    machine.mounts = {{"/dev/sd a", "/mnt/\xff%\n", "", 5, 4, 3, 2, 512, true, 7}, standin::Mount{}};
-    machine.mountListFails = true;
-    machine.interfaces = {{"eth0", 0x0100007f, 0xff, 11, 12, 13, true}};
-    machine.interfaceListFails = true;
-    const standin::Process process{-2, "a b", 1000, 16, -20, 1, 2, 3, 4, 5, 6, std::string("a\0b\0", 4), 2};
-    machine.processes = {{42, process}, {43, standin::Process{}}};
-    machine.mostOfOthers = 8;
-    return machine;
-}
-
-} // namespace
 
 QTEST_GUILESS_MAIN(TestGtopStandinText)
 #include "test_gtopstandintext.moc"
