@@ -16,6 +16,7 @@ namespace {
 template <auto... Members>
 bool same(const ProcessRecord &before, const ProcessRecord &now)
 {
+    // NOLINTNEXTLINE(misc-redundant-expression): the check takes the fold for a comparison with itself
     return ((before.*Members == now.*Members) && ...);
 }
 
