@@ -8,15 +8,14 @@
 
 namespace gtop_wrappers {
 
-static_assert(stoppedState == GLIBTOP_PROCESS_STOPPED && stoppedState == 16,
-              "the process menu takes this state for stopped");
+static_assert(stoppedState == GLIBTOP_PROCESS_STOPPED, "it stands for libgtop's code");
+static_assert(stoppedState == 16, "the process menu is required to go by this number");
 
 namespace {
 
 template <auto... Members>
 bool same(const ProcessRecord &before, const ProcessRecord &now)
 {
-    // NOLINTNEXTLINE(misc-redundant-expression): the check takes the fold for a comparison with itself
     return ((before.*Members == now.*Members) && ...);
 }
 
