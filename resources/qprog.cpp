@@ -6,6 +6,7 @@
 #include <QPen>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -109,24 +110,23 @@ void QProg::setValue(double v)
 
 void QProg::setMaxValue(double v)
 {
-    if (lowest > v) {
-        highest = lowest;
-        lowest = v;
-        currentValue = v;
-    } else {
-        highest = v; // Intentional: the value is not clamped again.
-    }
-    rangeOrValueChanged();
+    setRange(lowest, v);
 }
 
 void QProg::setMinValue(double v)
 {
-    if (v > highest) {
-        lowest = highest;
-        highest = v;
+    setRange(v, highest);
+}
+
+/// Swaps ends that are in the wrong order; the value then becomes the new minimum. Intentional: otherwise the
+/// value is not clamped again.
+void QProg::setRange(double min, double max)
+{
+    lowest = min;
+    highest = max;
+    if (lowest > highest) {
+        std::swap(lowest, highest);
         currentValue = lowest;
-    } else {
-        lowest = v; // Intentional: the value is not clamped again.
     }
     rangeOrValueChanged();
 }

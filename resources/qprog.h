@@ -57,6 +57,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void setRange(double min, double max);
     void rangeOrValueChanged();
     void paintFrame();
     void paintBar();
