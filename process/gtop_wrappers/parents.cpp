@@ -27,8 +27,20 @@ bool isDead(const ProcessRecord &record)
 
 } // namespace
 
+void Parents::learn(const std::vector<ProcessRecord> &records, quint64 started)
+{
+    last.clear();
+    for (const ProcessRecord &record : records) {
+        const ProcessRecord *parent = findByPid(records, record.parent);
+        if (parent && record.started < started && parent->started < started) {
+            last.push_back({record.pid, record.started, record.parent, parent->started});
+        }
+    }
+}
+
 void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clock, StartClock::Time now)
 {
+    ++snapshots;
     std::vector<Known> known;
     known.reserve(records.size());
     std::vector<int> exited;
@@ -48,11 +60,18 @@ void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clo
     dropRecords(exited, records); // only now: until here the list is searched for parents
 }
 
+/// True for a tenth of all pids in each snapshot but the first, and for each pid in one of ten.
+bool Parents::isDueForReading(int pid) const
+{
+    constexpr unsigned period = 10;
+    return snapshots > 1 && (snapshots + static_cast<unsigned>(pid)) % period == 0;
+}
+
 /// Sets the parent of the last snapshot if it is certain to be the same; false otherwise.
 bool Parents::keepParent(ProcessRecord &record, const std::vector<ProcessRecord> &records) const
 {
     const Known *known = findByPid(last, record.pid);
-    if (!known || known->started != record.started) {
+    if (!known || known->started != record.started || isDueForReading(record.pid)) {
         return false;
     }
     const ProcessRecord *parent = findByPid(records, known->parent);

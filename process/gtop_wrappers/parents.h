@@ -9,14 +9,20 @@
 
 namespace gtop_wrappers {
 
-/// The parent of every process, read at most once where possible.
+/// The parent of every process, read as seldom as possible.
 ///
 /// Reading a parent is the most expensive call of a snapshot. A process is reparented only when its parent
-/// exits, so a parent is kept for as long as both are seen running. A parent that is not in the list (0, or a
-/// process of another user) can exit unseen and is read again each time.
+/// exits, so a parent is kept for as long as both are seen running, but for no more than ten snapshots: some
+/// changes cannot be seen, as when the thread that forked the child ends in a process whose leader hangs in
+/// its exit. A parent that is not in the list (0, or a process of another user) can exit unseen and is read
+/// again each time.
 class Parents
 {
 public:
+    /// Takes over parents that came with the records, so that resolve() need not read them one by one. Only
+    /// processes that started before `started`, a second before anything was read, are certain: what came
+    /// with the record of another may be of its predecessor with the same pid.
+    void learn(const std::vector<ProcessRecord> &records, quint64 started);
     /// Sets the parent of all records, which are ascending by pid, and reads those that are not known.
     /// Drops the records of processes that exited in the meantime.
     void resolve(std::vector<ProcessRecord> &records, const StartClock &clock, StartClock::Time now);
@@ -31,9 +37,11 @@ private:
         quint64 parentStarted;
     };
 
+    bool isDueForReading(int pid) const;
     bool keepParent(ProcessRecord &record, const std::vector<ProcessRecord> &records) const;
 
     std::vector<Known> last; ///< of the last snapshot, ascending by pid
+    unsigned snapshots = 0;
 };
 
 } // namespace gtop_wrappers

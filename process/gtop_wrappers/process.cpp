@@ -26,7 +26,15 @@ QString Process::getName() const
 
 int Process::getCpuLoad() const
 {
-    return static_cast<int>(static_cast<unsigned>(sortValue(CpuTimeColumn).toULongLong()));
+    // One more than the time, and so never 0 for a process that has used none: the process model takes 0 for
+    // "no previous counter" and would show a share for an idle process on every refresh.
+    const QVariant time = sortValue(CpuTimeColumn);
+    return time.isValid() ? static_cast<int>(static_cast<unsigned>(time.toULongLong() + 1)) : 0;
+}
+
+quint64 Process::startTime() const
+{
+    return sortValue(StartedColumn).toULongLong();
 }
 
 ParamPtr Process::getParam(unsigned long i) const

@@ -42,9 +42,12 @@ public:
     int getPPid() const;
     /// Name as the Name column shows it; empty without values.
     QString getName() const;
-    /// Cumulative user plus system time in the unit of libgtop's total CPU time, truncated to 32 bits, so the
-    /// sign is meaningless. From the CPU time column; 0 without values.
+    /// CPU time counter: user plus system time plus one in the unit of libgtop's total CPU time, truncated to
+    /// 32 bits, so the sign is meaningless. From the CPU time column; 0 without values.
     int getCpuLoad() const;
+    /// When it started, in seconds since the epoch, from the Started column; 0 without values. Together with
+    /// the pid it identifies a process.
+    quint64 startTime() const;
     /// Value of column i; an empty pointer where there is none.
     ParamPtr getParam(unsigned long i) const;
 

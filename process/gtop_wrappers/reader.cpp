@@ -1,17 +1,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/reader.h"
 
+#include <unistd.h>
+
+#include <utility>
+
 namespace gtop_wrappers {
 
 std::vector<ProcessRecord> ProcessReader::read(std::optional<uid_t> user, unsigned reads)
 {
-    std::vector<ProcessRecord> records = readProcesses(user, reads);
+    std::vector<ProcessRecord> records =
+        std::exchange(isFirst, false) ? readFirst(user, reads) : readProcesses(user, reads);
     const StartClock::Time now = std::chrono::steady_clock::now();
     for (const ProcessRecord &record : records) {
         clock.see(record.started, now);
     }
     readRestOfYoung(records, now);
     parents.resolve(records, clock, now);
+    return records;
+}
+
+/// No parent is known yet, and one by one they would take two calls each. Reading them with the rest takes
+/// one, and the parents of all processes that are older than this program are certain.
+std::vector<ProcessRecord> ProcessReader::readFirst(std::optional<uid_t> user, unsigned reads)
+{
+    RawProcess self;
+    readRaw(getpid(), ReadTime, self);
+    std::vector<ProcessRecord> records = readProcesses(user, reads | ReadUid);
+    parents.learn(records, self.time.start_time);
+    for (ProcessRecord &record : records) {
+        record.unread |= ReadUid & ~reads;
+    }
     return records;
 }
 

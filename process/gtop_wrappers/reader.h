@@ -22,10 +22,12 @@ public:
     std::vector<ProcessRecord> read(std::optional<uid_t> user, unsigned reads);
 
 private:
+    std::vector<ProcessRecord> readFirst(std::optional<uid_t> user, unsigned reads);
     void readRestOfYoung(std::vector<ProcessRecord> &records, StartClock::Time now) const;
 
     StartClock clock;
     Parents parents;
+    bool isFirst = true;
 };
 
 } // namespace gtop_wrappers

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/sharedparams.h"
 
-#include "process/gtop_wrappers/oneline.h"
-
 #include <QCoreApplication>
 
 #include <glibtop/procstate.h>
-#include <pwd.h>
 
 #include <algorithm>
 #include <iterator>
@@ -41,12 +38,6 @@ QString stateText(int code)
                                                             : QT_TRANSLATE_NOOP("ProcessFiller", "Other"));
 }
 
-QString userText(int uid)
-{
-    const passwd *entry = getpwuid(static_cast<uid_t>(uid));
-    return entry ? oneLine(entry->pw_name) : QString::number(static_cast<uid_t>(uid));
-}
-
 void dropUnusedOf(std::map<int, ParamPtr> &params)
 {
     for (auto it = params.begin(); it != params.end();) {
@@ -55,15 +46,6 @@ void dropUnusedOf(std::map<int, ParamPtr> &params)
 }
 
 } // namespace
-
-ParamPtr SharedParams::user(int uid)
-{
-    ParamPtr &param = users[uid];
-    if (!param) {
-        param.reset(new SimpleProcessParam(userText(uid)));
-    }
-    return param;
-}
 
 ParamPtr SharedParams::state(int code)
 {
@@ -85,7 +67,7 @@ ParamPtr SharedParams::number(int value)
 
 void SharedParams::dropUnused()
 {
-    dropUnusedOf(users);
+    users.dropUnused();
     dropUnusedOf(states);
     dropUnusedOf(numbers);
 }

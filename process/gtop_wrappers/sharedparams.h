@@ -3,6 +3,7 @@
 #define GTOP_WRAPPERS_SHAREDPARAMS_H
 
 #include "process/gtop_wrappers/param.h"
+#include "process/gtop_wrappers/usernames.h"
 
 #include <map>
 
@@ -12,9 +13,9 @@ namespace gtop_wrappers {
 class SharedParams
 {
 public:
-    /// Name of a user (getpwuid(3)), or the number of an unknown one. Looked up once for as long as a process
-    /// of this user exists.
-    ParamPtr user(int uid);
+    /// See UserNames.
+    void updateUsers(UserNames::Time now) { users.update(now); }
+    ParamPtr user(int uid) { return users.name(uid); }
     /// State by libgtop's code.
     ParamPtr state(int code);
     ParamPtr number(int value);
@@ -22,7 +23,7 @@ public:
     void dropUnused();
 
 private:
-    std::map<int, ParamPtr> users;
+    UserNames users;
     std::map<int, ParamPtr> states;
     std::map<int, ParamPtr> numbers;
 };

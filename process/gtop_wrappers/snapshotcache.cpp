@@ -40,6 +40,7 @@ unsigned SnapshotCache::eagerReads() const
 
 std::map<int, Process> SnapshotCache::snapshot(std::vector<ProcessRecord> records)
 {
+    shared.updateUsers(std::chrono::steady_clock::now());
     std::map<int, Process> processes;
     std::vector<Entry> entries;
     entries.reserve(records.size());

@@ -99,6 +99,91 @@ private Q_SLOTS:
         QTEST(resolved().parent, "parent");
     }
 
+    void isLearntOfProcessesThatWereThereBefore_data()
+    {
+        QTest::addColumn<Change>("prepare");
+        QTest::addColumn<quint64>("started");
+        QTest::addColumn<int>("parent");
+        const auto row = [](
+                             const char *name, quint64 started, int parent, const Change &prepare = [] {}) {
+            QTest::newRow(name) << prepare << started << parent;
+        };
+        row("both were", now - 39, 10);
+        row("process may not have been", now - 40, 1);
+        row("parent may not have been", now - 39, 1, [] { at(10).startTime = now - 39; });
+        row("parent is a zombie", now - 39, 1, [] { at(10).state = GLIBTOP_PROCESS_ZOMBIE; });
+    }
+
+    void isLearntOfProcessesThatWereThereBefore()
+    {
+        QFETCH(Change, prepare);
+        QFETCH(quint64, started);
+        prepare();
+        std::vector<ProcessRecord> records = readProcesses(std::nullopt, ReadState | ReadTime | ReadUid);
+        parents.learn(records, started);
+        for (ProcessRecord &record : records) {
+            record.unread |= ReadUid;
+        }
+        at(11).parent = 1;
+        parents.resolve(records, clock, time);
+        QTEST(records.at(2).parent, "parent");
+    }
+
+    void noneThatWasLearntIsReadInTheFirstSnapshot()
+    {
+        auto &processes = *standin::machine().processes;
+        for (int pid = 100; pid < 110; ++pid) {
+            processes[pid] = madeup::process(1, now - 50);
+        }
+        std::vector<ProcessRecord> records = readProcesses(std::nullopt, ReadEverything);
+        parents.learn(records, now + 1);
+        for (ProcessRecord &record : records) {
+            record.unread |= ReadUid;
+        }
+        standin::resetCalls();
+        parents.resolve(records, clock, time);
+        QCOMPARE(standin::calls().processData, 2U); // for 1, which has no parent
+    }
+
+    void aTenthIsReadAgainInEachSnapshot()
+    {
+        auto &processes = *standin::machine().processes;
+        processes = {{1, madeup::process(0, now - 100)}, {2, madeup::process(0, now)}};
+        for (int pid = 100; pid < 200; ++pid) {
+            processes[pid] = madeup::process(1, now - 50);
+        }
+        resolved();
+        for (int i = 0; i < 20; ++i) {
+            standin::resetCalls();
+            resolved();
+            // State and time of all; the parents of 1 and 2, which have none, and of ten, with their start.
+            QCOMPARE(standin::calls().processData, 102U * 2 + 12 * 2);
+        }
+    }
+
+    void isRightWithinTenSnapshotsOfAnUnseenChange_data()
+    {
+        QTest::addColumn<int>("before");
+        for (int before = 1; before <= 10; ++before) {
+            QTest::addRow("after %d", before) << before;
+        }
+    }
+
+    void isRightWithinTenSnapshotsOfAnUnseenChange()
+    {
+        QFETCH(int, before);
+        for (int i = 0; i < before; ++i) {
+            QCOMPARE(resolved().parent, 10);
+        }
+        at(11).parent = 1; // while 10 goes on running
+        for (int i = 0; i < 9; ++i) {
+            resolved();
+        }
+        for (int i = 0; i < 11; ++i) {
+            QCOMPARE(resolved().parent, 1);
+        }
+    }
+
 private:
     /// Reads and resolves all processes; the record of 11.
     ProcessRecord resolved()

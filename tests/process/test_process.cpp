@@ -61,6 +61,7 @@ private Q_SLOTS:
         QCOMPARE(process.getPPid(), 0);
         QCOMPARE(process.getName(), QString());
         QCOMPARE(process.getCpuLoad(), 0);
+        QCOMPARE(process.startTime(), quint64(0));
         QVERIFY(!process.getParam(NameColumn));
         QVERIFY(!process.getParam(ColumnCount));
         QVERIFY(!process.getParam(std::numeric_limits<unsigned long>::max()));
@@ -75,25 +76,35 @@ private Q_SLOTS:
         QCOMPARE(kept.pid(), 42);
         QCOMPARE(kept.getName(), QStringLiteral("bash"));
         QCOMPARE(kept.getPPid(), 7);
-        QCOMPARE(kept.getCpuLoad(), 1234);
+        QCOMPARE(kept.getCpuLoad(), 1235);
         QCOMPARE(kept.getParam(NameColumn).get(), process.getParam(NameColumn).get());
     }
 
-    void counterIsTheLow32Bits_data()
+    void counterIsTheLow32BitsOfTheTimePlusOne_data()
     {
         QTest::addColumn<quint64>("jiffies");
         QTest::addColumn<int>("load");
-        QTest::newRow("highest positive") << quint64(0x7fffffff) << 0x7fffffff;
-        QTest::newRow("one more") << quint64(0x80000000) << std::numeric_limits<int>::min();
-        QTest::newRow("all bits") << quint64(0xffffffff) << -1;
-        QTest::newRow("wrapped") << quint64(0x100000005) << 5;
-        QTest::newRow("highest") << std::numeric_limits<quint64>::max() << -1;
+        QTest::newRow("no time") << quint64(0) << 1;
+        QTest::newRow("highest positive") << quint64(0x7ffffffe) << 0x7fffffff;
+        QTest::newRow("one more") << quint64(0x7fffffff) << std::numeric_limits<int>::min();
+        QTest::newRow("all bits") << quint64(0xfffffffe) << -1;
+        QTest::newRow("wraps to 0") << quint64(0xffffffff) << 0;
+        QTest::newRow("wrapped") << quint64(0x100000005) << 6;
+        QTest::newRow("highest") << std::numeric_limits<quint64>::max() << 0;
     }
 
-    void counterIsTheLow32Bits()
+    void counterIsTheLow32BitsOfTheTimePlusOne()
     {
         QFETCH(quint64, jiffies);
         QTEST(processWith(QString(), 0, jiffies).getCpuLoad(), "load");
+    }
+
+    void startComesFromTheStartedColumn()
+    {
+        Process process = processWith(QStringLiteral("bash"), 7, 0);
+        QCOMPARE(process.startTime(), quint64(0));
+        process.params[StartedColumn].reset(new StartedProcessParam(1700000000));
+        QCOMPARE(process.startTime(), quint64(1700000000));
     }
 
     void columnNumbersAreFixed()

@@ -102,7 +102,8 @@ private Q_SLOTS:
         QCOMPARE(model.index(0, 2).data(Qt::UserRole), QVariant(12));
         QCOMPARE(model.index(0, 5).data(), QVariant(QStringLiteral("state")));
         QCOMPARE(model.index(0, 5).data(Qt::UserRole), QVariant(16));
-        QCOMPARE(model.index(0, 6).data(Qt::UserRole), QVariant(4711)); // process column 10
+        QCOMPARE(model.index(0, 6).data(Qt::UserRole),
+                 QVariant(4710)); // process column 10, one less than the counter
     }
 
     void otherRolesAndMissingParametersGiveNothing()

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/gtop_wrappers/textondemand.h"
 #include "process/procmodel.h"
 #include "tests/process/support/synthetic.h"
 
 #include <QtTest>
 
 #include <limits>
+#include <utility>
 
 using gtop_wrappers::Process;
 
@@ -24,9 +26,21 @@ struct Refresh
 };
 using Refreshes = std::vector<Refresh>;
 
+/// The CPU time of a process, in jiffies, and the load that is sorted by after a refresh.
+using TimesAndLoads = std::vector<std::pair<quint64, double>>;
+
+ProcModel::Snapshot snapshotWithCpuTime(quint64 jiffies)
+{
+    ProcModel::Snapshot snapshot = makeCpuSnapshot({{7, 1}});
+    auto *time = new gtop_wrappers::CpuTimeProcessParam(jiffies, 100);
+    snapshot.at(7).params[gtop_wrappers::CpuTimeColumn].reset(time);
+    return snapshot;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Refreshes)
+Q_DECLARE_METATYPE(TimesAndLoads)
 
 class TestProcModelCpu : public QObject
 {
@@ -55,6 +69,28 @@ private Q_SLOTS:
         for (const Refresh &refresh : refreshes) {
             model.update(makeCpuSnapshot({{7, refresh.counter}}), refresh.total);
             QCOMPARE(model.index(0, cpuColumn).data(Qt::UserRole).toDouble(), refresh.load);
+        }
+    }
+
+    void theLoadFollowsTheCpuTime_data()
+    {
+        QTest::addColumn<TimesAndLoads>("refreshes");
+        QTest::newRow("nothing from the second refresh on if it never ran")
+            << TimesAndLoads{{0, 0.1}, {0, 0.0}, {0, 0.0}, {10, 1.0}};
+        QTest::newRow("one unit while the counter has wrapped to 0")
+            << TimesAndLoads{{0xfffffffe, 0.1}, {0xfffffffe, 0.0},  {0xffffffff, 0.1},
+                             {0xffffffff, 0.1}, {0x100000000, 0.1}, {0x100000000, 0.0}};
+    }
+
+    void theLoadFollowsTheCpuTime()
+    {
+        QFETCH(TimesAndLoads, refreshes);
+        ProcModel model;
+        for (const auto &[jiffies, load] : refreshes) {
+            model.update(snapshotWithCpuTime(jiffies), 1000);
+            const QModelIndex cell = model.index(0, cpuColumn);
+            QCOMPARE(cell.data(Qt::UserRole).toDouble(), load);
+            QCOMPARE(cell.data().toString(), QString::number(load, 'f', 1) + QStringLiteral(" %"));
         }
     }
 

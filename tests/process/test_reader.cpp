@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+#include <unistd.h>
+
 using namespace gtop_wrappers;
 
 class TestReader : public QObject
@@ -34,6 +36,24 @@ private Q_SLOTS:
         QCOMPARE(standin::calls().processData, 4U * 2 + 2 + 4);
         standin::machine().processes->insert({100, madeup::process(1, madeup::now + 1)});
         QCOMPARE(unread(), (QMap<int, unsigned>{{1, rest}, {10, rest}, {11, rest}, {99, rest}, {100, 0}}));
+    }
+
+    void firstSnapshotReadsParentsWithTheRest()
+    {
+        const int self = getpid();
+        standin::machine().processes->insert({self, madeup::process(1, madeup::now - 1)});
+        standin::resetCalls();
+        const unsigned rest = ReadUid | ReadMemory | ReadArguments;
+        QMap<int, int> parents;
+        for (const ProcessRecord &record : reader.read(std::nullopt, ReadState | ReadTime)) {
+            parents[record.pid] = record.parent;
+            QCOMPARE(record.unread, record.pid == 99 ? 0U : rest);
+        }
+        QCOMPARE(parents, (QMap<int, int>{{1, 0}, {10, 1}, {11, 10}, {99, 1}, {self, 1}}));
+        // The start of this program; state, parent and time of five; with its start, the parent of 1, which
+        // has none, and of this program, before which nothing is certain; the rest and the start of the
+        // young 99.
+        QCOMPARE(standin::calls().processData, 1U + 5 * 3 + 2 * 2 + 4);
     }
 
     void processThatExitsWhileBeingReadIsLeftOut_data()

@@ -67,7 +67,8 @@ private Q_SLOTS:
         QCOMPARE(process.pid(), 42);
         QCOMPARE(process.getName(), QStringLiteral("bash"));
         QCOMPARE(process.getPPid(), 1);
-        QCOMPARE(process.getCpuLoad(), 100);
+        QCOMPARE(process.getCpuLoad(), 101); // jiffies plus one
+        QCOMPARE(process.startTime(), quint64(1700000000));
         QVERIFY(dynamic_cast<CpuProcessParam *>(process.getParam(1).get()));
     }
 
@@ -253,7 +254,7 @@ private Q_SLOTS:
         const Process process = made(record);
         const QString broken(QChar::ReplacementCharacter);
         QCOMPARE(process.getName(), QString(broken + QLatin1Char(' ') + broken));
-        QCOMPARE(process.getCpuLoad(), -1);
+        QCOMPARE(process.getCpuLoad(), 0);
         QCOMPARE(process.getPPid(), std::numeric_limits<int>::max());
         QCOMPARE(shown(process, NiceColumn), QStringLiteral("-2147483648"));
         QCOMPARE(shown(process, UserColumn), QStringLiteral("4294967295"));

@@ -63,7 +63,9 @@ Process makeProcess(const Facts &facts)
     process.params[StateColumn].reset(new IntProcessParam(facts.state, QStringLiteral("state")));
     process.params[NiceColumn].reset(new IntProcessParam(facts.nice));
     process.params[ParentPidColumn].reset(new IntProcessParam(facts.ppid));
-    process.params[CpuTimeColumn].reset(new IntProcessParam(facts.cpuCounter));
+    // The counter is one more than the time.
+    const auto time = static_cast<int>(static_cast<unsigned>(facts.cpuCounter) - 1U);
+    process.params[CpuTimeColumn].reset(new IntProcessParam(time));
     return process;
 }
 

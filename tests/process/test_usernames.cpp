@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "process/gtop_wrappers/snapshotcache.h"
+#include "process/gtop_wrappers/usernames.h"
+
+#include "cells.h"
+
+#include <QtTest>
+
+#include <pwd.h>
+
+#include <cerrno>
+#include <map>
+#include <string>
+
+using namespace gtop_wrappers;
+using std::chrono::seconds;
+
+namespace {
+
+/// A user directory.
+struct Directory
+{
+    std::map<uid_t, std::string> names;
+    int error = 0; ///< errno of look-ups without a result
+    bool isReachable = true;
+    int lookUps = 0;
+};
+
+Directory directory;
+
+constexpr UserNames::Time start;
+
+QString shown(const ParamPtr &name)
+{
+    return name->displayValue().toString();
+}
+
+} // namespace
+
+/// Replaces that of the C library.
+extern "C" passwd *getpwuid(uid_t uid)
+{
+    static passwd entry;
+    ++directory.lookUps;
+    const auto found = directory.names.find(uid);
+    if (!directory.isReachable || found == directory.names.end()) {
+        if (directory.error != 0) {
+            errno = directory.error;
+        }
+        return nullptr;
+    }
+    entry.pw_name = found->second.data();
+    return &entry;
+}
+
+class TestUserNames : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        directory = Directory();
+        directory.names = {{1000, "ann"}};
+        users = UserNames();
+        users.update(start);
+    }
+
+    void isTheNameOrElseTheNumber()
+    {
+        directory.names[1001] = "b\nb";
+        QCOMPARE(shown(users.name(1000)), QStringLiteral("ann"));
+        QCOMPARE(shown(users.name(1001)), QStringLiteral("b b"));
+        QCOMPARE(shown(users.name(1002)), QStringLiteral("1002"));
+        QCOMPARE(shown(users.name(-2)), QStringLiteral("4294967294"));
+    }
+
+    void isOneObjectLookedUpOnce()
+    {
+        const ParamPtr name = users.name(1000);
+        QVERIFY(users.name(1000) == name);
+        QVERIFY(users.name(1001) != name);
+        QCOMPARE(directory.lookUps, 2);
+    }
+
+    void anUnknownUserIsLookedUpWithEachUpdate()
+    {
+        const ParamPtr name = users.name(1001);
+        users.update(start);
+        users.update(start);
+        QCOMPARE(directory.lookUps, 3);
+        QCOMPARE(shown(name), QStringLiteral("1001"));
+        directory.names[1001] = "bob";
+        users.update(start);
+        QCOMPARE(shown(name), QStringLiteral("bob"));
+        QVERIFY(users.name(1001) == name);
+    }
+
+    void aKnownUserIsLookedUpOnceAMinute()
+    {
+        const ParamPtr name = users.name(1000);
+        directory.names[1000] = "anne";
+        users.update(start + seconds(59));
+        QCOMPARE(shown(name), QStringLiteral("ann"));
+        users.update(start + seconds(60));
+        QCOMPARE(shown(name), QStringLiteral("anne"));
+        QVERIFY(users.name(1000) == name);
+        users.update(start + seconds(119));
+        QCOMPARE(directory.lookUps, 2);
+        users.update(start + seconds(120));
+        QCOMPARE(directory.lookUps, 3);
+    }
+
+    void aKnownUserWithoutAResult_data()
+    {
+        QTest::addColumn<int>("error");
+        QTest::addColumn<QString>("text");
+        const QString name = QStringLiteral("ann");
+        const QString number = QStringLiteral("1000");
+        QTest::newRow("no such user") << 0 << number;
+        QTest::newRow("ENOENT") << ENOENT << number;
+        QTest::newRow("ESRCH") << ESRCH << number;
+        QTest::newRow("EBADF") << EBADF << number;
+        QTest::newRow("EPERM") << EPERM << number;
+        QTest::newRow("interrupted") << EINTR << name;
+        QTest::newRow("input/output error") << EIO << name;
+        QTest::newRow("no descriptor left") << EMFILE << name;
+        QTest::newRow("too many open files") << ENFILE << name;
+        QTest::newRow("no memory") << ENOMEM << name;
+        QTest::newRow("try again") << EAGAIN << name;
+        QTest::newRow("refused") << ECONNREFUSED << name;
+        QTest::newRow("timed out") << ETIMEDOUT << name;
+    }
+
+    void aKnownUserWithoutAResult()
+    {
+        QFETCH(int, error);
+        QFETCH(QString, text);
+        const ParamPtr name = users.name(1000);
+        directory.isReachable = false;
+        directory.error = error;
+        errno = EIO; // of an earlier call
+        users.update(start + seconds(60));
+        QCOMPARE(shown(name), text);
+        // One that is still known is asked for again after a minute, so that a slow directory is not asked
+        // with each update.
+        directory.isReachable = true;
+        directory.names[1000] = "anne";
+        users.update(start + seconds(61));
+        QCOMPARE(directory.lookUps, text == QStringLiteral("ann") ? 2 : 3);
+        users.update(start + seconds(120));
+        QCOMPARE(shown(name), QStringLiteral("anne"));
+        QCOMPARE(directory.lookUps, 3);
+    }
+
+    void aUserNeverKnownIsANumberWhileTheDirectoryIsUnreachable()
+    {
+        directory.isReachable = false;
+        directory.error = EIO;
+        const ParamPtr name = users.name(1000);
+        QCOMPARE(shown(name), QStringLiteral("1000"));
+        directory.isReachable = true;
+        users.update(start);
+        QCOMPARE(shown(name), QStringLiteral("ann"));
+    }
+
+    void unusedOnesAreForgotten()
+    {
+        const ParamPtr kept = users.name(1001);
+        std::tr1::weak_ptr<IProcessParam> forgotten = users.name(1002);
+        users.dropUnused();
+        QVERIFY(forgotten.expired());
+        QVERIFY(users.name(1001) == kept);
+        directory.lookUps = 0;
+        users.update(start);
+        QCOMPARE(directory.lookUps, 1);
+    }
+
+    void eachSnapshotLooksUnknownUsersUp()
+    {
+        ProcessRecord record;
+        record.pid = 42;
+        record.user = 1001;
+        SnapshotCache cache;
+        QCOMPARE(shown(cache.snapshot({record}).at(42), UserColumn), QStringLiteral("1001"));
+        directory.names[1001] = "bob";
+        QCOMPARE(shown(cache.snapshot({record}).at(42), UserColumn), QStringLiteral("bob"));
+        directory.names[1001] = "bobby";
+        QCOMPARE(shown(cache.snapshot({record}).at(42), UserColumn), QStringLiteral("bob"));
+        QCOMPARE(directory.lookUps, 2);
+    }
+
+private:
+    UserNames users;
+};
+
+QTEST_GUILESS_MAIN(TestUserNames)
+#include "test_usernames.moc"
