@@ -49,6 +49,21 @@ QRect boundTo(const QRect &screen, QRect client, int titleBarHeight)
     return client;
 }
 
+bool isUsable(const QSize &client)
+{
+    return client.width() >= smallestWindow.width() && client.height() >= smallestWindow.height();
+}
+
+/// The stored client area as this platform can restore it; empty if it cannot.
+QRect restorableClient(const Placement &stored)
+{
+    if (zarnClientsPlaceWindows(QGuiApplication::platformName())) {
+        return zarnFitToScreens(stored.client, stored.titleBarHeight, availableScreens());
+    }
+    const QSize size = zarnFitSizeToScreens(stored.client.size(), stored.titleBarHeight, availableScreens());
+    return {QPoint(), size};
+}
+
 void place(QWidget *window, const Placement &placement, const QRect &defaultRect)
 {
     window->setWindowState(window->windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
@@ -59,7 +74,11 @@ void place(QWidget *window, const Placement &placement, const QRect &defaultRect
         window->resize(defaultRect.size());
         return;
     }
-    window->setGeometry(placement.client);
+    if (zarnClientsPlaceWindows(QGuiApplication::platformName())) {
+        window->setGeometry(placement.client);
+    } else {
+        window->resize(placement.client.size());
+    }
     if (placement.maximized) {
         window->setWindowState(window->windowState() | Qt::WindowMaximized);
     }
@@ -79,7 +98,7 @@ void zarnSaveGeometry(const QWidget *window, QSettings *settings, bool withToolB
 void zarnRestoreGeometry(QWidget *window, QSettings *settings, const QRect &defaultRect, bool withToolBars)
 {
     Placement stored = placementFromFields(settings->value(QLatin1String(geometryKey)).toStringList());
-    stored.client = zarnFitToScreens(stored.client, stored.titleBarHeight, availableScreens());
+    stored.client = restorableClient(stored);
     place(window, stored, defaultRect);
     auto *mainWindow = qobject_cast<QMainWindow *>(window);
     if (withToolBars && mainWindow) {
@@ -87,9 +106,27 @@ void zarnRestoreGeometry(QWidget *window, QSettings *settings, const QRect &defa
     }
 }
 
+bool zarnClientsPlaceWindows(const QString &platformName)
+{
+    return !platformName.startsWith(QLatin1String("wayland"));
+}
+
+QSize zarnFitSizeToScreens(const QSize &client, int titleBarHeight, const QVector<QRect> &screens)
+{
+    const auto area = [](const QSize &size) { return qint64(size.width()) * size.height(); };
+    QSize best;
+    for (const QRect &screen : screens) {
+        const QSize fitted = client.boundedTo(screen.size() - QSize(0, titleBarHeight));
+        if (isUsable(fitted) && (!best.isValid() || area(fitted) > area(best))) {
+            best = fitted;
+        }
+    }
+    return best;
+}
+
 QRect zarnFitToScreens(const QRect &client, int titleBarHeight, const QVector<QRect> &screens)
 {
-    if (client.width() < smallestWindow.width() || client.height() < smallestWindow.height()) {
+    if (!isUsable(client.size())) {
         return QRect();
     }
     const QRect titleBar(client.left(), client.top() - titleBarHeight, client.width(),

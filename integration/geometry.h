@@ -3,9 +3,11 @@
 #define ZARN_INTEGRATION_GEOMETRY_H
 
 #include <QRect>
+#include <QSize>
 #include <QVector>
 
 class QSettings;
+class QString;
 class QWidget;
 
 /// Saves the position and the normal size of the top-level `window` and whether it is maximized, under the
@@ -16,8 +18,17 @@ void zarnSaveGeometry(const QWidget *window, QSettings *settings, bool withToolB
 
 /// Restores what zarnSaveGeometry() saved, if the title bar is still reachable on one of the screens.
 /// Otherwise, and for missing or invalid values, `defaultRect` gives the position of the frame and the size
-/// of the client area.
+/// of the client area. Where the compositor alone places windows, as under Wayland, the size and the
+/// maximized state are restored, on whatever screen.
 void zarnRestoreGeometry(QWidget *window, QSettings *settings, const QRect &defaultRect, bool withToolBars);
+
+/// False for the Qt platforms whose clients neither know nor choose where their windows are. The names are
+/// those of QGuiApplication::platformName().
+bool zarnClientsPlaceWindows(const QString &platformName);
+
+/// The client size `client`, shrunk to the screen that has the most room for it, with its title bar. Invalid
+/// if it is too small to be usable, or without a screen. For windows that the compositor places.
+QSize zarnFitSizeToScreens(const QSize &client, int titleBarHeight, const QVector<QRect> &screens);
 
 /// The client area `client`, shrunk to the screen that shows most of the window's title bar. An empty
 /// rectangle if no screen shows enough of the title bar to drag the window by, or if `client` is too small to

@@ -133,6 +133,61 @@ private Q_SLOTS:
         QTEST(zarnFitToScreens(client, titleBar, screens), "fitted");
     }
 
+    void onlyWaylandPlacesWindowsItself_data()
+    {
+        QTest::addColumn<bool>("clientsDo");
+        for (const char *name : {"xcb", "offscreen", "minimal", "vnc", ""}) {
+            QTest::newRow(name) << true;
+        }
+        for (const char *name : {"wayland", "wayland-egl", "wayland-xcomposite-egl"}) {
+            QTest::newRow(name) << false;
+        }
+    }
+
+    void onlyWaylandPlacesWindowsItself()
+    {
+        QTEST(zarnClientsPlaceWindows(QString::fromLatin1(QTest::currentDataTag())), "clientsDo");
+    }
+
+    void onlyTheSizeIsBoundWhereWindowsAreNotPlaced_data()
+    {
+        QTest::addColumn<QSize>("client");
+        QTest::addColumn<int>("titleBar");
+        QTest::addColumn<QVector<QRect>>("screens");
+        QTest::addColumn<QSize>("fitted");
+
+        const QVector<QRect> one{QRect(0, 0, 1280, 1024)};
+        const QVector<QRect> upright{QRect(0, 0, 1280, 720), QRect(1280, 0, 1080, 1920)};
+        const auto row = [](const char *name, const QSize &client, int titleBar,
+                            const QVector<QRect> &screens, const QSize &fitted) {
+            QTest::newRow(name) << client << titleBar << screens << fitted;
+        };
+        row("smaller than the screen", QSize(900, 700), 30, one, QSize(900, 700));
+        row("as large as the screen", QSize(1280, 994), 30, one, QSize(1280, 994));
+        row("one pixel too large each way", QSize(1281, 995), 30, one, QSize(1280, 994));
+        row("without a title bar", QSize(5000, 4000), 0, one, QSize(1280, 1024));
+        row("fits the second screen only", QSize(1000, 1500), 30, upright, QSize(1000, 1500));
+        row("fits the first screen only", QSize(1200, 600), 30, upright, QSize(1200, 600));
+        row("fits no screen", QSize(2000, 2000), 20, upright, QSize(1080, 1900));
+        row("the largest numbers", QSize(1000000, 1000000), 0, {QRect(0, 0, 1000000, 1000000)},
+            QSize(1000000, 1000000));
+        row("smallest", QSize(64, 32), 30, one, QSize(64, 32));
+        row("too narrow", QSize(63, 480), 30, one, QSize());
+        row("too low", QSize(640, 31), 30, one, QSize());
+        row("negative", QSize(-640, -480), 30, one, QSize());
+        row("none", QSize(), 0, one, QSize());
+        row("no room below the title bar", QSize(640, 480), 500, {QRect(0, 0, 800, 500)}, QSize());
+        row("no screen", QSize(900, 700), 30, {}, QSize());
+    }
+
+    void onlyTheSizeIsBoundWhereWindowsAreNotPlaced()
+    {
+        QFETCH(QSize, client);
+        QFETCH(int, titleBar);
+        QFETCH(QVector<QRect>, screens);
+        QTEST(zarnFitSizeToScreens(client, titleBar, screens), "fitted");
+    }
+
     void firstStartGivesTheDefault()
     {
         Window window;
