@@ -4,11 +4,11 @@
 
 #include <QRect>
 
-/// Geometry of the window without a stored one: at the origin, 640 x 480 or less on a screen with a smaller
-/// available area.
-inline QRect defaultGeometry(const QRect &available)
+/// Geometry of the window without a stored one: at the origin, 640 x 480, higher if the first page needs it,
+/// and less on a screen with a smaller available area.
+inline QRect defaultGeometry(const QRect &available, int neededHeight)
 {
-    return {0, 0, qMin(available.width() - 20, 640), qMin(available.height() - 40, 480)};
+    return {0, 0, qMin(available.width() - 20, 640), qMin(available.height() - 40, qMax(480, neededHeight))};
 }
 
 #endif

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/updater.h"
 
+#include "app/followup.h"
 #include "app/pageintervals.h"
 #include "app/settingskeys.h"
 #include "fs/proxyfsmodel.h"
@@ -23,7 +24,8 @@ Updater::Updater(int startPage)
     : fsModel(nullptr), procModel(nullptr), currentNetDevice(-1), cpuCount(0), cpuFirstSample(1),
       timer(nullptr), fileMenu(nullptr), editMenu(nullptr), menuProcess(nullptr), processMenu(nullptr),
       intervals(new PageIntervals(&mainWindow, settings::pageCount)), tick(0), chart(nullptr),
-      timeHisto(nullptr), diskGauge(nullptr), memoryGauge(nullptr), cpuTotalDelta(0), lastBytesIn(0),
+      timeHisto(nullptr), diskGauge(nullptr), memoryGauge(nullptr), cpuTotalDelta(0), lastCpuTotal(0),
+      followUp(new FollowUp(this)), listMenuTrigger(nullptr), stage(Stage::Building), lastBytesIn(0),
       lastBytesOut(0)
 {
     glibtop_init_r(&glibtop_global_server, 0, 0);
@@ -37,11 +39,16 @@ Updater::Updater(int startPage)
     update(true);
     fillGeneralPage();
     setNetDevice(0);
+    // The start page and each stored column make ticks; what falls due in them is refreshed once.
+    deferred.begin();
     ui.tabWidget->setCurrentIndex(startPage);
     startTimer();
     loadSettings();
+    stage = Stage::SettingsLoaded;
+    deferred.add(Pages().set(static_cast<std::size_t>(ui.tabWidget->currentIndex())));
+    refresh(deferred.end());
     updateMainMenu();
-    mainWindow.show();
+    showWindow();
 }
 
 Updater::~Updater()
@@ -59,34 +66,65 @@ void Updater::startTimer()
     timer->start(tickMilliseconds);
 }
 
+void Updater::showWindow()
+{
+    stage = Stage::WindowShown;
+    reading.clear();
+    mainWindow.show();
+}
+
 void Updater::update(bool _updateAll)
 {
-    const ReleasedDescriptors released(descriptors);
-    if (released.enough()) {
-        refreshDuePages(_updateAll);
+    const Pages due = duePages(_updateAll);
+    if (deferred.areDeferred()) {
+        deferred.add(due);
+    } else {
+        refresh(due);
     }
     ++tick;
 }
 
-void Updater::refreshDuePages(bool _updateAll)
+Pages Updater::duePages(bool _updateAll) const
 {
-    const int shown = ui.tabWidget->currentIndex();
-    const auto wanted = [&](Page page) {
-        return _updateAll || (shown == page && intervals->isDue(page, tick));
-    };
-    if (wanted(GeneralPage)) {
-        refreshGeneral();
-    }
-    if (wanted(ProcessesPage)) {
-        refreshProcesses();
-    }
-    if (wanted(FileSystemsPage)) {
-        refreshFileSystems();
+    Pages due;
+    for (const Page page : {GeneralPage, ProcessesPage, FileSystemsPage}) {
+        due[page] = _updateAll || (isShown(page) && intervals->isDue(page, tick));
     }
     // Intentional: the network is sampled on its own interval, shown or not, so that its graph has no gaps,
     // and a full refresh does not force it.
-    if (intervals->isDue(NetworkPage, tick)) {
+    due[NetworkPage] = intervals->isDue(NetworkPage, tick);
+    return due;
+}
+
+void Updater::refresh(const Pages &pages)
+{
+    const ReleasedDescriptors released(descriptors);
+    if (!released.enough()) {
+        return;
+    }
+    if (pages[GeneralPage]) {
+        refreshGeneral();
+    }
+    if (pages[ProcessesPage]) {
+        refreshProcesses();
+    }
+    if (pages[FileSystemsPage]) {
+        refreshFileSystems();
+    }
+    if (pages[NetworkPage]) {
         refreshNetwork();
+    }
+}
+
+bool Updater::isShown(Page page) const
+{
+    return ui.tabWidget->currentIndex() == page;
+}
+
+void Updater::refreshAgain(int page)
+{
+    if (isShown(static_cast<Page>(page))) {
+        refresh(Pages().set(static_cast<std::size_t>(page)));
     }
 }
 

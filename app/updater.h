@@ -2,8 +2,11 @@
 #ifndef APP_UPDATER_H
 #define APP_UPDATER_H
 
+#include "app/deferredrefreshes.h"
 #include "app/descriptorreserve.h"
 #include "app/page.h"
+#include "process/listplace.h"
+#include "process/procmodel.h"
 #include "resources/cpuload.h"
 #include "resources/netdevices.h"
 #include "ui_mainwindow.h"
@@ -12,9 +15,12 @@
 #include <QModelIndex>
 #include <QObject>
 
+#include <optional>
 #include <vector>
 
 class Chart;
+class FollowUp;
+class ListMenuTrigger;
 class PageIntervals;
 class ProcessMenu;
 class ProxyFsModel;
@@ -64,6 +70,13 @@ public Q_SLOTS:
     void slotAbout();
     void slotHelp();
 
+private Q_SLOTS:
+    /// One more refresh of a page, if it is still shown. Not a tick.
+    void refreshAgain(int page);
+    /// Before and after the list of processes is emptied by a change of types, mode or columns.
+    void deferRefreshes();
+    void refillProcesses();
+
 private:
     // updater_window.cpp
     void buildWindow();
@@ -84,7 +97,9 @@ private:
     void refreshGeneral();
     // updater_processes.cpp
     void refreshProcesses();
-    int selectedPid() const; ///< -1 without a selection
+    void restoreSelection(const ListPlace &place);
+    double readProcesses();
+    void chooseEagerColumns();
     // updater_filesystems.cpp
     void refreshFileSystems();
     // updater_network.cpp
@@ -93,7 +108,10 @@ private:
     void showNetDevice(const NetRec &device);
     // updater.cpp, updater_settings.cpp
     void startTimer();
-    void refreshDuePages(bool _updateAll);
+    Pages duePages(bool _updateAll) const;
+    void refresh(const Pages &pages);
+    bool isShown(Page page) const;
+    void showWindow();
     void loadSettings();
     void saveSettings() const;
 
@@ -121,8 +139,17 @@ private:
     TimeHisto *timeHisto;
     QProg *diskGauge;
     QProg *memoryGauge;
-    /// Jiffies of all CPUs between the last two samples; required, though nothing reads it.
-    quint64 cpuTotalDelta;
+    quint64 cpuTotalDelta; ///< jiffies of all CPUs between the last two samples
+    quint64 lastCpuTotal;  ///< jiffies of all CPUs at the last refresh of the processes
+    FollowUp *followUp;
+    ListMenuTrigger *listMenuTrigger;
+    DeferredRefreshes deferred;
+    /// How far the start is. The list of processes is filled once the settings are loaded, since that empties
+    /// it.
+    enum class Stage { Building, SettingsLoaded, WindowShown } stage;
+    ProcModel::Snapshot reading; ///< serves all refreshes until the window is shown; empty afterwards
+    std::optional<ListPlace> placeBeforeReset; ///< until the emptied list is refilled
+    std::optional<ListPlace> rowlessSelection; ///< until the process has a row again, or another is selected
     quint64 lastBytesIn;
     quint64 lastBytesOut;
     DescriptorReserve descriptors;

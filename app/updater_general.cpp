@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/generalpagefit.h"
+#include "app/followup.h"
 #include "app/updater.h"
 #include "fs/mountlist.h"
 #include "fs/proxyfsmodel.h"
@@ -30,7 +30,6 @@ void Updater::fillGeneralPage()
     ui.lblArch->setText(kernel.machine);
     ui.lblHost->setText(hostName());
     addCpuModelRows(ui.glGeneral, cpuCount, cpuModel());
-    scrollGeneralPageIfTooHigh(&mainWindow, ui.tabWidget);
 }
 
 void Updater::refreshGeneral()
@@ -46,4 +45,7 @@ void Updater::refreshGeneral()
     memoryGauge->setValue(figures.memPercent);
     sampleCpuLoad();
     showCpuLoad(cpuRecords);
+    if (isShown(GeneralPage)) {
+        followUp->sampled(GeneralPage, machineSeconds(cpuTotalDelta, cpuCount));
+    }
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/listmenutrigger.h"
 #include "app/pageintervals.h"
 #include "app/updater.h"
 #include "images/icons.h"
@@ -8,7 +9,6 @@
 #include "resources/timehisto.h"
 
 #include <QApplication>
-#include <QCursor>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -63,13 +63,14 @@ void Updater::updateProcessActions()
 
 void Updater::popup()
 {
+    rowlessSelection.reset(); // what the menu offers must stay as it was when the menu opened
     QMenu menu(ui.centralwidget);
     processMenu->fillMenu(&menu);
     updateMainMenu();
     updateProcessActions();
     const std::unique_ptr<QMenu> columns(menuVisibleColumns());
     menu.addMenu(columns.get());
-    menu.exec(QCursor::pos());
+    menu.exec(listMenuTrigger->position());
     update(false);
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/followup.h"
 #include "app/updater.h"
 #include "process/gtop_wrappers/filler.h"
 #include "process/proxyprocmodel.h"
@@ -7,34 +8,84 @@
 #include <QMenu>
 #include <QtDebug>
 
+#include <utility>
+
 void Updater::refreshProcesses()
 {
+    const double seconds = readProcesses();
+    if (stage == Stage::Building) {
+        return;
+    }
+    const bool wasEmptied = placeBeforeReset.has_value();
+    const ListPlace place = wasEmptied ? *placeBeforeReset : ListPlace(*procModel, *ui.treeView);
+    placeBeforeReset.reset();
+    procModel->refresh(reading, 0);
+    restoreSelection(place);
+    if (stage == Stage::WindowShown) {
+        reading.clear();
+    }
+    if (wasEmptied) {
+        place.restoreView(*procModel, *ui.treeView);
+    }
+    readCellsInView(*ui.treeView);
+    if (isShown(ProcessesPage)) {
+        followUp->sampled(ProcessesPage, seconds);
+        // The state of the selected process, which decides which shortcuts are enabled, may have changed.
+        updateProcessActions();
+    }
+}
+
+/// Selects the process of `place` again or, if there was none, the one that had no row in the last refresh.
+void Updater::restoreSelection(const ListPlace &place)
+{
+    const ListPlace wanted = place.hasSelection() ? place : rowlessSelection.value_or(place);
+    wanted.restoreSelection(*procModel, *ui.treeView);
+    rowlessSelection.reset();
+    if (wanted.isRowless(*procModel, reading)) {
+        rowlessSelection = wanted;
+    }
+}
+
+/// Reads the processes, with the machine's CPU time to compute their load from. Returns the seconds between
+/// this sample and the one before. Until the window is shown, a reading is made once and stands for all that
+/// follow.
+double Updater::readProcesses()
+{
     static auto *filler = gtop_wrappers::ProcessFiller::instance();
-    procModel->setTotalCpuTime(totalCpuTime());
+    if (stage != Stage::WindowShown && !reading.empty()) {
+        return 0.0;
+    }
+    const quint64 total = totalCpuTime();
+    procModel->setTotalCpuTime(total);
+    chooseEagerColumns();
+    reading = filler->getProcesses(static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes()));
+    return machineSeconds(total - std::exchange(lastCpuTotal, total), cpuCount);
+}
+
+/// The column that is sorted by is read for all rows, the others where they are shown.
+void Updater::chooseEagerColumns()
+{
+    static auto *filler = gtop_wrappers::ProcessFiller::instance();
     std::vector<bool> eager(filler->size(), false);
     const int sortedBy = procModel->sortedProcessColumn();
     if (sortedBy >= 0) {
         eager[static_cast<std::size_t>(sortedBy)] = true;
     }
     filler->setEagerColumns(eager);
-    const auto types = static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes());
-    const int selected = selectedPid();
-    procModel->refresh(filler->getProcesses(types), 0);
-    // When the selected row is removed, the view selects its neighbour, and the next signal would be sent to
-    // a process the user did not choose.
-    if (selectedPid() != selected) {
-        ui.treeView->selectionModel()->clear();
-    }
-    // The state of the selected process, which decides which shortcuts are enabled, may have changed.
-    if (ui.tabWidget->currentIndex() == ProcessesPage) {
-        updateProcessActions();
+}
+
+void Updater::deferRefreshes()
+{
+    deferred.begin();
+    if (!placeBeforeReset) {
+        placeBeforeReset.emplace(*procModel, *ui.treeView);
     }
 }
 
-int Updater::selectedPid() const
+void Updater::refillProcesses()
 {
-    const bool any = ui.treeView->selectionModel()->hasSelection();
-    return procModel->processAt(any ? ui.treeView->currentIndex() : QModelIndex()).pid();
+    deferred.add(Pages().set(ProcessesPage, isShown(ProcessesPage)));
+    refresh(deferred.end());
 }
 
 QMenu *Updater::menuVisibleColumns()

@@ -36,7 +36,8 @@ void Updater::loadSettings()
     static const auto *filler = gtop_wrappers::ProcessFiller::instance();
     setAsideUnsafeSettings();
     QSettings stored;
-    zarnRestoreGeometry(&mainWindow, &stored, defaultGeometry(availableGeometry()), false);
+    const int neededHeight = heightForWholePage(&mainWindow, ui.generalScroll);
+    zarnRestoreGeometry(&mainWindow, &stored, defaultGeometry(availableGeometry(), neededHeight), false);
     for (int page = 0; page < settings::pageCount; ++page) {
         const QString key = QLatin1String(settings::intervalKeys[page].readFrom);
         intervals->setInterval(page, storedInterval(stored.value(key, settings::defaultInterval)));
@@ -44,13 +45,10 @@ void Updater::loadSettings()
     if (intervals->interval(NetworkPage) != settings::defaultInterval) {
         timeHisto->setInterval(intervals->interval(NetworkPage)); // the time axis depends on it
     }
-    // Each change of a column resets the model, which refreshes it whenever a tick is due.
-    procModel->setLayoutDeferred(true);
     for (unsigned long i = 0; i < filler->size(); ++i) {
         const QString key = settings::columnKey(filler->name(i));
         procModel->setColumnVisible(i, stored.value(key, procModel->isColumnVisible(i)).toBool());
     }
-    procModel->setLayoutDeferred(false);
     const int order = stored.value(QLatin1String(settings::sortOrder)).toInt();
     const int column = stored.value(QLatin1String(settings::sortColumn)).toInt();
     ui.treeView->sortByColumn(column,

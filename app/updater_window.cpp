@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/followup.h"
+#include "app/listmenutrigger.h"
 #include "app/updater.h"
 #include "fs/chart.h"
 #include "fs/proxyfsmodel.h"
@@ -33,6 +35,7 @@ void Updater::buildWindow()
 {
     initImages();
     ui.setupUi(&mainWindow);
+    ui.generalScroll->makeTransparent();
     addStateGauges();
     buildNetworkPage();
     addChart();
@@ -98,4 +101,8 @@ void Updater::followProcessSelection()
     connect(ui.treeView->selectionModel(), SIGNAL(currentChanged(QModelIndex, QModelIndex)), this,
             SLOT(updateProcessActions()));
     connect(procModel, SIGNAL(modelReset()), this, SLOT(updateProcessActions()));
+    connect(procModel, SIGNAL(aboutToEmptyList()), this, SLOT(deferRefreshes()));
+    connect(procModel, SIGNAL(listEmptied()), this, SLOT(refillProcesses()));
+    listMenuTrigger = new ListMenuTrigger(ui.treeView);
+    connect(followUp, SIGNAL(due(int)), this, SLOT(refreshAgain(int)));
 }

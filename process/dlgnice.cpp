@@ -9,14 +9,16 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
-DlgNice::DlgNice(QWidget *dialogParent)
-    : parentWidget(dialogParent), valueLabel(nullptr), descriptionLabel(nullptr), okButton(nullptr)
+DlgNice::DlgNice(QWidget *dialogParent, const QString &processLabel)
+    : parentWidget(dialogParent), subject(processLabel), valueLabel(nullptr), descriptionLabel(nullptr),
+      okButton(nullptr)
 {}
 
 int DlgNice::askPriority(int current)
 {
     QDialog dialog(parentWidget);
-    dialog.setWindowTitle(tr("Change priority"));
+    const QString title = tr("Change priority");
+    dialog.setWindowTitle(subject.isEmpty() ? title : title + QStringLiteral(" - ") + subject);
     dialog.resize(400, 100);
     auto *layout = new QVBoxLayout(&dialog);
     QSlider *slider = makeSlider(current);

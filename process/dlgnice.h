@@ -3,6 +3,7 @@
 #define PROCESS_DLGNICE_H
 
 #include <QObject>
+#include <QString>
 
 class QGridLayout;
 class QLabel;
@@ -15,9 +16,9 @@ class DlgNice : public QObject
 {
     Q_OBJECT
 public:
-    /// `dialogParent` becomes the parent widget of the dialog; may be null. This object has no QObject
-    /// parent.
-    explicit DlgNice(QWidget *dialogParent);
+    /// `dialogParent` becomes the parent widget of the dialog; may be null. The dialog's title names
+    /// `processLabel`, unless it is empty. This object has no QObject parent.
+    explicit DlgNice(QWidget *dialogParent, const QString &processLabel = QString());
 
     /// Runs the modal dialog. Returns the chosen nice value, -20 to 20 (the kernel clamps 20 to 19), or
     /// `current` unless the user presses OK.
@@ -35,6 +36,7 @@ private:
     QGridLayout *makeGrid(QSlider *slider);
 
     QWidget *parentWidget;
+    QString subject;
     // The next three belong to the dialog being shown. Afterwards the labels dangle and the button is null,
     // which is what update() checks.
     QLabel *valueLabel;

@@ -4,13 +4,13 @@
 #include "images/icons.h"
 #include "process/dlgnice.h"
 #include "process/gtop_wrappers/filler.h"
+#include "process/processbox.h"
 #include "process/proxyprocmodel.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
 #include <QDebug>
-#include <QMessageBox>
 
 #include <signal.h>
 #include <sys/resource.h>
@@ -152,7 +152,8 @@ ProcessMenu::ProcessMenu(QObject *parent, ProxyProcModel *proxy) : QObject(paren
 /// Intentional: the group is created right before its first action, which is its place among the children.
 void ProcessMenu::createAction(const ActionRow &row, QActionGroup *&group)
 {
-    if (row.checking == Exclusive && !group) {
+    const bool isExclusive = row.checking == Exclusive;
+    if (isExclusive && !group) {
         group = new QActionGroup(this);
     }
     auto *action = new QAction(tr(row.text), this);
@@ -162,7 +163,7 @@ void ProcessMenu::createAction(const ActionRow &row, QActionGroup *&group)
         action->setIcon(QIcon::fromTheme(QLatin1String(row.themeIcon), fallback));
     }
     action->setCheckable(row.checking != Plain);
-    if (row.checking == Exclusive) {
+    if (isExclusive) {
         group->addAction(action);
     }
     QList<QVariant> data{row.kind};
@@ -266,7 +267,7 @@ void ProcessMenu::process()
 }
 
 /// Asks before a signal is sent; false unless the user presses OK.
-bool ProcessMenu::confirmSignal(int signal)
+bool ProcessMenu::confirmSignal(int signal, const Process &process)
 {
     const auto sendsIt = [signal](const ActionRow &row) {
         return row.kind == SendSignal && row.argument == signal;
@@ -274,27 +275,27 @@ bool ProcessMenu::confirmSignal(int signal)
     const auto *row = std::find_if(std::begin(actionRows), std::end(actionRows), sendsIt);
     const Question &question = row != std::end(actionRows) ? row->question : unknownSignalQuestion;
     // Cancel is the default, so that a stray Enter sends nothing.
-    return QMessageBox::question(nullptr, tr(question.title), tr(question.text),
-                                 QMessageBox::Ok | QMessageBox::Cancel,
-                                 QMessageBox::Cancel) == QMessageBox::Ok;
+    return showProcessBox(QMessageBox::Question, tr(question.title), tr(question.text), process,
+                          QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;
 }
 
-/// Copies the pid before the box opens: the selection can change while its event loop runs, and the signal
-/// must go to the process that the user was asked about.
+/// Copies the process before the box opens: the selection can change while its event loop runs, and the
+/// signal must go to the process that the user was asked about.
 void ProcessMenu::signalSelected(int signal)
 {
-    const int pid = selected.pid();
-    if (confirmSignal(signal)) {
-        model->sendSignal(pid, signal);
+    const Process process = selected;
+    if (confirmSignal(signal, process)) {
+        model->sendSignal(process, signal);
     }
 }
 
 void ProcessMenu::changePriorityOfSelected()
 {
-    const int pid = selected.pid();
-    const int current = niceOf(selected);
-    const int chosen = DlgNice(QApplication::activeWindow()).askPriority(current);
+    const Process process = selected;
+    const int current = niceOf(process);
+    DlgNice dialog(QApplication::activeWindow(), processLabel(process));
+    const int chosen = dialog.askPriority(current);
     if (chosen != current) {
-        model->setPriority(pid, chosen);
+        model->setPriority(process, chosen);
     }
 }

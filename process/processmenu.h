@@ -37,7 +37,7 @@ private:
     static const ActionRow actionRows[];
     static QAction *ProcessMenu::*const menuOrder[];
 
-    static bool confirmSignal(int signal);
+    static bool confirmSignal(int signal, const gtop_wrappers::Process &process);
     void createAction(const ActionRow &row, QActionGroup *&group);
     void updateListActions();
     void updateSignalActions();

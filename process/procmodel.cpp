@@ -2,8 +2,7 @@
 #include "process/procmodel.h"
 
 #include "process/gtop_wrappers/filler.h"
-
-#include <QMessageBox>
+#include "process/processbox.h"
 
 #include <signal.h>
 #include <sys/resource.h>
@@ -37,10 +36,11 @@ bool isSameProcess(const Process &known, const Process &fresh)
     return known.getPPid() == fresh.getPPid() && known.getName() == fresh.getName();
 }
 
-void showError(const QString &whatFailed, int error)
+void showError(const QString &whatFailed, int error, const Process &process)
 {
-    QMessageBox::warning(nullptr, ProcModel::tr("Error"),
-                         whatFailed + QString::fromLocal8Bit(strerror(error)), QMessageBox::Ok);
+    showProcessBox(QMessageBox::Warning, ProcModel::tr("Error"),
+                   whatFailed + QString::fromLocal8Bit(strerror(error)), process, QMessageBox::Ok,
+                   QMessageBox::Ok);
 }
 
 /// Runs a system call on one process and returns its errno, 0 for success. A pid of 0 or below would mean a
@@ -160,6 +160,14 @@ int ProcModel::processColumn(int column) const
                : -1;
 }
 
+int ProcModel::columnOf(unsigned long processColumn) const
+{
+    const auto found = std::lower_bound(visibleColumns.begin(), visibleColumns.end(), processColumn);
+    return found != visibleColumns.end() && *found == processColumn
+               ? static_cast<int>(found - visibleColumns.begin())
+               : -1;
+}
+
 void ProcModel::clear()
 {
     beginResetModel();
@@ -190,16 +198,28 @@ void ProcModel::update(const Snapshot &snapshot, unsigned long totalDelta, int)
 
 void ProcModel::sendSignal(int pid, int signal)
 {
+    sendSignal(itemByPid(pid) ? processByPid(pid) : Process(pid), signal);
+}
+
+void ProcModel::sendSignal(const Process &process, int signal)
+{
+    const int pid = process.pid();
     if (const int error = onProcess(pid, [&] { return kill(pid, signal); })) {
-        showError(tr("Unable send signal to process. Reason - "), error);
+        showError(tr("Unable send signal to process. Reason - "), error, process);
     }
 }
 
 void ProcModel::setPriority(int pid, int priority)
 {
+    setPriority(itemByPid(pid) ? processByPid(pid) : Process(pid), priority);
+}
+
+void ProcModel::setPriority(const Process &process, int priority)
+{
+    const int pid = process.pid();
     const auto call = [&] { return setpriority(PRIO_PROCESS, static_cast<id_t>(pid), priority); };
     if (const int error = onProcess(pid, call)) {
-        showError(tr("Unable change priority. Reason - "), error);
+        showError(tr("Unable change priority. Reason - "), error, process);
     }
 }
 
@@ -220,6 +240,13 @@ Process ProcModel::processByPid(int pid) const
 Process ProcModel::processAt(const QModelIndex &index) const
 {
     return index.isValid() ? processByPid(static_cast<int>(index.internalId())) : Process(-1);
+}
+
+QModelIndex ProcModel::indexOfPid(int pid) const
+{
+    // In tree mode an item can have lost its parent, and with it its row.
+    const ProcItem *item = itemByPid(pid);
+    return item && item->isDescendantOf(root.get()) ? indexOf(item) : QModelIndex();
 }
 
 /// The root for an invalid index; null for a stale one.

@@ -45,6 +45,8 @@ public:
 
     /// The process column shown in the model's column `column`; -1 if there is none.
     int processColumn(int column) const;
+    /// The model's column that shows this process column; -1 if it is hidden.
+    int columnOf(unsigned long processColumn) const;
 
     /// Removes all processes; the columns and the mode stay.
     void clear();
@@ -55,13 +57,18 @@ public:
     /// kill(2); a failure opens a warning box. A pid of 0 or below, which would mean a process group or
     /// everyone, fails as ESRCH without the call.
     void sendSignal(int pid, int signal);
+    /// The same for a process that may have left the model; the box names it all the same.
+    void sendSignal(const gtop_wrappers::Process &process, int signal);
     /// setpriority(2) on one process, nice value -20 to 19. Fails like sendSignal().
     void setPriority(int pid, int priority);
+    void setPriority(const gtop_wrappers::Process &process, int priority);
 
     /// A copy of the process; Process(-1) if it is not in the model.
     gtop_wrappers::Process processByPid(int pid) const;
     /// A copy of the process in the row of `index`; Process(-1) for an invalid or stale index.
     gtop_wrappers::Process processAt(const QModelIndex &index) const;
+    /// First cell of the process's row; invalid if it has none.
+    QModelIndex indexOfPid(int pid) const;
 
 private:
     using ItemPtr = std::tr1::shared_ptr<ProcItem>;

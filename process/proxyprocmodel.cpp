@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/proxyprocmodel.h"
 
+#include "process/fittingdelegate.h"
 #include "process/gtop_wrappers/filler.h"
 
 ProxyProcModel::ProxyProcModel(QObject *parent)
-    : QSortFilterProxyModel(parent), source(new ProcModel(parent)), expandAndFit(true), layoutDeferred(false),
-      layoutPending(false), types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
+    : QSortFilterProxyModel(parent), source(new ProcModel(parent)), delegate(new FittingDelegate(this)),
+      expandAndFit(true), types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
 {
     setSortRole(Qt::UserRole);
     setDynamicSortFilter(true);
@@ -19,6 +20,7 @@ void ProxyProcModel::setView(QTreeView *treeView)
     view = treeView;
     if (view) {
         view->setModel(this);
+        view->setItemDelegate(delegate);
     }
 }
 
@@ -31,42 +33,37 @@ void ProxyProcModel::setTotalCpuTime(unsigned long total)
 void ProxyProcModel::refresh(const ProcModel::Snapshot &snapshot, int)
 {
     source->update(snapshot, currentCpuTotal - previousCpuTotal, 0);
-    layoutPending = true;
-    layOutUnlessDeferred();
-}
-
-void ProxyProcModel::setLayoutDeferred(bool deferred)
-{
-    layoutDeferred = deferred;
-    layOutUnlessDeferred();
-}
-
-void ProxyProcModel::layOutUnlessDeferred()
-{
-    if (!layoutPending || layoutDeferred || !view) {
-        return;
+    if (view) {
+        layOutView();
     }
+}
+
+void ProxyProcModel::layOutView()
+{
     if (expandAndFit) {
         expandAndFitView();
         expandAndFit = false;
     }
     // The view on its own would lay out on a zero timer, and a scroll before that would read freed mappings.
     view->doItemsLayout();
-    layoutPending = false;
 }
 
 void ProxyProcModel::expandAndFitView()
 {
     expandAll();
     for (int column = 0; column < columnCount(); ++column) {
+        delegate->beginColumn();
         view->resizeColumnToContents(column);
+        delegate->endColumn();
     }
 }
 
 void ProxyProcModel::setProcessTypes(int processTypes)
 {
+    Q_EMIT aboutToEmptyList();
     types = processTypes;
     reset();
+    Q_EMIT listEmptied();
 }
 
 bool ProxyProcModel::isFlat() const
@@ -76,8 +73,10 @@ bool ProxyProcModel::isFlat() const
 
 void ProxyProcModel::setFlat(bool on)
 {
+    Q_EMIT aboutToEmptyList();
     source->setFlat(on);
     reset();
+    Q_EMIT listEmptied();
 }
 
 bool ProxyProcModel::isColumnVisible(unsigned long i) const
@@ -87,8 +86,32 @@ bool ProxyProcModel::isColumnVisible(unsigned long i) const
 
 void ProxyProcModel::setColumnVisible(unsigned long i, bool on)
 {
+    const int sortedBy = sortedProcessColumn();
+    source->isColumnVisible(i); // throws before anything has changed
+    Q_EMIT aboutToEmptyList();
     source->setColumnVisible(i, on);
     reset();
+    sortByProcessColumn(sortedBy);
+    Q_EMIT listEmptied();
+}
+
+/// Sorting goes by column number, which names another column once one before it is hidden or shown.
+void ProxyProcModel::sortByProcessColumn(int processColumn)
+{
+    if (processColumn < 0) {
+        return;
+    }
+    const int column = source->columnOf(static_cast<unsigned long>(processColumn));
+    if (column == sortColumn()) {
+        return;
+    }
+    const int byName = qMax(source->columnOf(gtop_wrappers::NameColumn), 0);
+    const Qt::SortOrder order = column >= 0 ? sortOrder() : Qt::AscendingOrder;
+    if (view) {
+        view->sortByColumn(column >= 0 ? column : byName, order);
+    } else {
+        sort(column >= 0 ? column : byName, order);
+    }
 }
 
 /// Qt::ItemNeverHasChildren keeps expandAll() from storing a persistent index for every row of a flat list;
@@ -114,9 +137,19 @@ void ProxyProcModel::sendSignal(int pid, int signal)
     source->sendSignal(pid, signal);
 }
 
+void ProxyProcModel::sendSignal(const gtop_wrappers::Process &process, int signal)
+{
+    source->sendSignal(process, signal);
+}
+
 void ProxyProcModel::setPriority(int pid, int priority)
 {
     source->setPriority(pid, priority);
+}
+
+void ProxyProcModel::setPriority(const gtop_wrappers::Process &process, int priority)
+{
+    source->setPriority(process, priority);
 }
 
 void ProxyProcModel::expandAll()
@@ -140,6 +173,5 @@ void ProxyProcModel::reset()
     beginResetModel();
     source->clear();
     expandAndFit = true;
-    layoutPending = false;
     endResetModel();
 }

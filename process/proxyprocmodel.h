@@ -8,6 +8,8 @@
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 
+class FittingDelegate;
+
 /// The sorted process list that the view shows, and the only access to the processes for the rest of the
 /// program.
 class ProxyProcModel : public QSortFilterProxyModel
@@ -29,10 +31,6 @@ public:
     /// all rows and fits the columns. The second argument is required, but unused.
     void refresh(const ProcModel::Snapshot &snapshot, int = 0);
 
-    /// While the layout is deferred, refresh() does not lay out the view; the end of the deferral does. For a
-    /// series of changes whose intermediate states nobody sees.
-    void setLayoutDeferred(bool deferred);
-
     /// Which processes are listed: a gtop_wrappers::ProcessTypes.
     int processTypes() const { return types; }
     void setProcessTypes(int processTypes);
@@ -40,6 +38,7 @@ public:
     void setFlat(bool on);
     /// Both throw std::out_of_range past the last process column.
     bool isColumnVisible(unsigned long i) const;
+    /// The list stays sorted by the same process column; by name, ascending, if that one is hidden.
     void setColumnVisible(unsigned long i, bool on);
 
     /// The process column that the list is sorted by; -1 if it is not sorted.
@@ -52,22 +51,32 @@ public:
     // call it.
     gtop_wrappers::Process processAt(const QModelIndex &index) const;
     gtop_wrappers::Process processByPid(int pid) const;
+    /// First cell of the process's row; invalid if it has none.
+    QModelIndex rowOfPid(int pid) const { return mapFromSource(source->indexOfPid(pid)); }
     void sendSignal(int pid, int signal);
+    void sendSignal(const gtop_wrappers::Process &process, int signal);
     void setPriority(int pid, int priority);
+    void setPriority(const gtop_wrappers::Process &process, int priority);
 
     void expandAll();
     void collapseAll();
 
+Q_SIGNALS:
+    /// Before and after a change of types, mode or columns. In between come all of its resets; afterwards the
+    /// list is empty and wants a refresh.
+    void aboutToEmptyList();
+    void listEmptied();
+
 private:
     void reset();
-    void layOutUnlessDeferred();
+    void sortByProcessColumn(int processColumn);
+    void layOutView();
     void expandAndFitView();
 
     ProcModel *source;
     QPointer<QTreeView> view;
-    bool expandAndFit; ///< in the next layout, as it is the first one or the first after a reset
-    bool layoutDeferred;
-    bool layoutPending; ///< refreshed since the last layout
+    FittingDelegate *delegate; ///< of the view
+    bool expandAndFit;         ///< in the next layout, as it is the first one or the first after a reset
     int types;
     quint64 currentCpuTotal;
     quint64 previousCpuTotal;

@@ -3,6 +3,7 @@
 
 #include <glibtop.h>
 #include <glibtop/cpu.h>
+#include <unistd.h>
 
 #include <algorithm>
 
@@ -24,6 +25,12 @@ quint64 totalCpuTime()
     glibtop_cpu cpu;
     glibtop_get_cpu(&cpu);
     return cpu.total;
+}
+
+double machineSeconds(quint64 jiffies, int cpuCount)
+{
+    const double perSecond = static_cast<double>(sysconf(_SC_CLK_TCK)) * cpuCount;
+    return static_cast<double>(jiffies) / perSecond;
 }
 
 std::vector<CpuCounters> readCpuCounters(std::size_t count)

@@ -37,11 +37,14 @@ int cpuCountFromLastIndex(int lastIndex);
 /// Jiffies of all CPUs together since boot (`total` of glibtop_cpu).
 quint64 totalCpuTime();
 
+/// Seconds that passed while all CPUs together counted so many jiffies.
+double machineSeconds(quint64 jiffies, int cpuCount);
+
 /// Counters of the first `count` CPUs, at most 1024, from glibtop_get_cpu. An offline CPU reads as 0.
 std::vector<CpuCounters> readCpuCounters(std::size_t count);
 
 /// Updates the deltas and latest counters of `records` from `read`; records without a reading stay unchanged.
-/// Returns the sum of the total deltas, which the controller is required to keep although nothing reads it.
+/// Returns the sum of the total deltas.
 /// Unsigned throughout: a counter that decreased yields a huge delta.
 quint64 updateCpuDeltas(const std::vector<CpuCounters> &read, std::vector<CpuRec> &records);
 

@@ -23,7 +23,9 @@ void addCpuModelRows(QGridLayout *glGeneral, int cpuCount, const QString &model)
     const QString caption = QCoreApplication::translate("Updater", "CPU ");
     for (int i = 1; i <= cpuCount; ++i) {
         glGeneral->addWidget(new QLabel(caption + QString::number(i), glGeneral->parentWidget()), i + 6, 1);
-        glGeneral->addWidget(new QLabel(model, glGeneral->parentWidget()), i + 6, 3);
+        auto *value = new QLabel(model, glGeneral->parentWidget());
+        value->setTextFormat(Qt::PlainText);
+        glGeneral->addWidget(value, i + 6, 3);
     }
 }
 

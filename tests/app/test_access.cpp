@@ -87,7 +87,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("page");
         QTest::addColumn<QStringList>("order");
-        QTest::newRow("General") << 0 << QStringList({"qt_tabwidget_tabbar"});
+        QTest::newRow("General") << 0 << QStringList({"qt_tabwidget_tabbar", "generalScroll"});
         QTest::newRow("Processes") << 1 << QStringList({"qt_tabwidget_tabbar", "treeView"});
         QTest::newRow("File systems") << 2 << QStringList({"qt_tabwidget_tabbar", "tableFS"});
         QTest::newRow("Network") << 3 << QStringList({"qt_tabwidget_tabbar", "comboNet"});

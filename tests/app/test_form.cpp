@@ -35,7 +35,9 @@ private Q_SLOTS:
         row("centralwidget", "QWidget");
         row("tabWidget", "QTabWidget");
         row("tab", "QWidget");
-        row("lblHost", "QLabel", "localhost");
+        row("generalScroll", "PageScroll");
+        row("generalContents", "QWidget");
+        row("lblHost", "ElidedLabel", "localhost");
         row("label_2", "QLabel", "Operating system", "glGeneral", 0, 0);
         row("label_3", "QLabel", "System", "glGeneral", 1, 1);
         row("lblSystem", "QLabel", "TextLabel", "glGeneral", 1, 3);
@@ -64,7 +66,7 @@ private Q_SLOTS:
         row("frmDisk", "QWidget");
         row("widget", "QWidget");
         row("label_17", "QLabel", "Device", "gridLayout_5", 0, 1);
-        row("lblMountPoint", "QLabel", "TextLabel", "gridLayout_5", 0, 2);
+        row("lblMountPoint", "ElidedLabel", "TextLabel", "gridLayout_5", 0, 2);
         row("label_18", "QLabel", "Total", "gridLayout_5", 1, 1);
         row("lblTotal", "QLabel", "TextLabel", "gridLayout_5", 1, 2);
         row("lblUsedColor", "QLabel", "", "gridLayout_5", 2, 0);
@@ -114,6 +116,13 @@ private Q_SLOTS:
         }
     }
 
+    void generalPageScrollsInsideItsTab()
+    {
+        QCOMPARE(ui.tab->layout()->count(), 1);
+        QCOMPARE(ui.tab->layout()->itemAt(0)->widget(), static_cast<QWidget *>(ui.generalScroll));
+        QCOMPARE(ui.generalScroll->widget(), ui.generalContents);
+    }
+
     void eachTabHasItsWidgetAndTitle()
     {
         QCOMPARE(window->windowTitle(), QStringLiteral("System monitor"));
@@ -138,7 +147,7 @@ private Q_SLOTS:
             QTest::newRow(layout) << QString::fromLatin1(owner) << members;
         };
         row("verticalLayout", "centralwidget", {"tabWidget"});
-        row("verticalLayout_4", "tab", {"lblHost", "horizontalLayout", "label_8", "glState"});
+        row("verticalLayout_4", "generalContents", {"lblHost", "horizontalLayout", "label_8", "glState"});
         row("verticalLayout_5", "tab_2", {"treeView"});
         row("verticalLayout_6", "tab_3", {"splitter"});
         row("verticalLayout_3", "frmDsk", {"frmDisk", "widget"});
@@ -206,8 +215,10 @@ private Q_SLOTS:
 
     void valuesAreNeverReadAsRichText()
     {
-        for (const QLabel *value : {ui.lblHost, ui.lblSystem, ui.lblKernel, ui.lblArch, ui.lblMemTotal,
-                                    ui.lblMountPoint, ui.lblFsType, ui.netAdress}) {
+        const std::initializer_list<const QLabel *> values = {ui.lblHost,   ui.lblSystem,   ui.lblKernel,
+                                                              ui.lblArch,   ui.lblMemTotal, ui.lblMountPoint,
+                                                              ui.lblFsType, ui.netAdress};
+        for (const QLabel *value : values) {
             QCOMPARE(value->textFormat(), Qt::PlainText);
         }
     }

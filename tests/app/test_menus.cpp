@@ -102,6 +102,9 @@ private Q_SLOTS:
         select(1);
         QVERIFY(processAction("Kill process")->isVisible());
         Fixture::processes()->setColumnVisible(3, false); // resets the model
+        QVERIFY(processAction("Kill process")->isVisible());
+        standin::machine().processes->erase(200); // the selected one
+        Fixture::processes()->setColumnVisible(3, true);
         QVERIFY(!processAction("Kill process")->isVisible());
     }
 
@@ -302,7 +305,7 @@ private:
         return result;
     }
     static QTreeView *tree() { return Fixture::find<QTreeView>("treeView"); }
-    /// Loading the settings may have emptied the list, so it is refreshed once more.
+    /// The tick is 1 afterwards.
     void startOnProcesses(int selectedRow = -1)
     {
         fixture->start(1);

@@ -30,7 +30,9 @@ private Q_SLOTS:
             QCOMPARE(method.methodSignature(), QByteArray(signature));
             QCOMPARE(method.methodType(), QMetaMethod::Slot);
         }
-        QCOMPARE(meta.methodCount(), meta.methodOffset() + index);
+        for (int rest = meta.methodOffset() + index; rest < meta.methodCount(); ++rest) {
+            QCOMPARE(meta.method(rest).access(), QMetaMethod::Private);
+        }
         QCOMPARE(QByteArray(meta.method(meta.methodOffset() + 6).typeName()), QByteArray("QMenu*"));
     }
 
@@ -45,22 +47,13 @@ private Q_SLOTS:
         QVERIFY(Fixture::window()->isVisible());
     }
 
-    void startPageIsRefreshedAgainAndHasItsMenuBeforeTheWindowIsShown()
+    void startPageHasItsMenuBeforeTheWindowIsShown()
     {
-        fixture->start(-1);
-        const unsigned withoutPage = standin::calls().processList;
-        fixture->stop();
-        standin::resetCalls();
         fixture->start(1);
-        QVERIFY(standin::calls().processList > withoutPage + 1);
         QCOMPARE(Fixture::find<QTabWidget>("tabWidget")->currentIndex(), 1);
         QMenu *edit = Fixture::window()->menuBar()->actions().at(1)->menu();
         QVERIFY(edit->actions().at(1)->isVisible());
         QVERIFY(edit->actions().at(1)->isEnabled());
-        // Loading the settings resets the list twice per column, and each reset is a tick that refreshes only
-        // if due. With the present number of columns and the default interval, one of the last two ticks is
-        // due.
-        QCOMPARE(Fixture::processes()->rowCount(), 4);
     }
 
     void shownPageIsRefreshedOnItsInterval_data()
@@ -123,26 +116,6 @@ private Q_SLOTS:
         standin::resetCalls();
         Fixture::choosePage(0);
         QCOMPARE(reads(), Reads({1, 0, 1, 1}));
-    }
-
-    void everyResetOfTheProcessModelIsATick()
-    {
-        fixture->start(1);
-        auto *proxy = Fixture::processes();
-        QSignalSpy resets(proxy, SIGNAL(modelReset()));
-        fixture->refresh(1);
-        // From tick 1 two resets lead to tick 3, so the tick after them is the next one due.
-        standin::resetCalls();
-        proxy->setProcessTypes(proxy->processTypes());
-        QCOMPARE(resets.count(), 2);
-        QCOMPARE(reads().at(1), 0u);
-        QCOMPARE(ticks(1).last().at(1), 1u);
-        // From tick 4 three resets pass tick 6.
-        ticks(2);
-        standin::resetCalls();
-        proxy->setFlat(!proxy->isFlat());
-        QCOMPARE(resets.count(), 5);
-        QCOMPARE(reads().at(1), 1u);
     }
 
     void theTimerTicksEverySecond()

@@ -4,6 +4,7 @@
 #include "rows.h"
 
 #include "app/defaultgeometry.h"
+#include "app/pagescroll.h"
 #include "process/gtop_wrappers/filler.h"
 #include "process/proxyprocmodel.h"
 
@@ -22,27 +23,36 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(Fixture::settingsFile()));
         fixture->start(0);
         verifyDefaults();
-        // Larger only where the fonts of the platform need more.
-        QCOMPARE(Fixture::window()->size(), QSize(640, 480).expandedTo(Fixture::window()->minimumSizeHint()));
+        // Larger only where the page needs more in the fonts of the platform.
+        const QSize least = Fixture::window()->minimumSizeHint();
+        auto *page = Fixture::find<PageScroll>("generalScroll");
+        const int needed = heightForWholePage(Fixture::window(), page);
+        QCOMPARE(Fixture::window()->size(), QSize(640, qMax(480, needed)).expandedTo(least));
         QCOMPARE(Fixture::window()->pos(), QPoint(0, 0));
     }
 
     void theDefaultGeometryFitsSmallScreens_data()
     {
         QTest::addColumn<QRect>("available");
+        QTest::addColumn<int>("neededHeight");
         QTest::addColumn<QRect>("expected");
-        QTest::newRow("large") << QRect(0, 0, 1920, 1080) << QRect(0, 0, 640, 480);
-        QTest::newRow("800 x 500") << QRect(0, 0, 800, 500) << QRect(0, 0, 640, 460);
-        QTest::newRow("just fits") << QRect(0, 0, 660, 520) << QRect(0, 0, 640, 480);
-        QTest::newRow("narrow") << QRect(0, 0, 659, 519) << QRect(0, 0, 639, 479);
-        QTest::newRow("with a panel") << QRect(50, 30, 1230, 690) << QRect(0, 0, 640, 480);
+        QTest::newRow("large") << QRect(0, 0, 1920, 1080) << 300 << QRect(0, 0, 640, 480);
+        QTest::newRow("800 x 500") << QRect(0, 0, 800, 500) << 300 << QRect(0, 0, 640, 460);
+        QTest::newRow("just fits") << QRect(0, 0, 660, 520) << 480 << QRect(0, 0, 640, 480);
+        QTest::newRow("narrow") << QRect(0, 0, 659, 519) << 300 << QRect(0, 0, 639, 479);
+        QTest::newRow("with a panel") << QRect(50, 30, 1230, 690) << 300 << QRect(0, 0, 640, 480);
+        QTest::newRow("a higher page") << QRect(0, 0, 1920, 1080) << 481 << QRect(0, 0, 640, 481);
+        QTest::newRow("a page higher than the screen")
+            << QRect(0, 0, 1920, 1080) << 5000 << QRect(0, 0, 640, 1040);
+        QTest::newRow("a higher page on a low screen")
+            << QRect(0, 0, 800, 500) << 5000 << QRect(0, 0, 640, 460);
     }
 
     void theDefaultGeometryFitsSmallScreens()
     {
         QFETCH(QRect, available);
-        QFETCH(QRect, expected);
-        QCOMPARE(defaultGeometry(available), expected);
+        QFETCH(int, neededHeight);
+        QTEST(defaultGeometry(available, neededHeight), "expected");
     }
 
     void everyKeyIsWritten()
@@ -267,7 +277,7 @@ private:
         QCOMPARE(Fixture::processes()->sortOrder(), Qt::AscendingOrder);
         const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
         QCOMPARE(Fixture::window()->width(),
-                 qMax(defaultGeometry(available).width(), Fixture::window()->minimumSizeHint().width()));
+                 qMax(defaultGeometry(available, 0).width(), Fixture::window()->minimumSizeHint().width()));
         QVERIFY(available.intersects(Fixture::window()->geometry()));
     }
 

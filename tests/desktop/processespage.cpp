@@ -88,7 +88,8 @@ bool ProcessesPage::waitForDialog(const QString &title)
 {
     return desktop.waitFor([&] {
         const QJsonObject dialog = desktop.dialog();
-        return dialog.value("title").toString() == title && dialog.value("active").toBool();
+        const QString shown = dialog.value("title").toString();
+        return (shown == title || shown.startsWith(title + " - ")) && dialog.value("active").toBool();
     });
 }
 

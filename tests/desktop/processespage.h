@@ -48,9 +48,10 @@ public:
         return desktop.waitFor(
             [&] { return desktop.menuTexts().isEmpty() || (desktop.key("Escape") && false); });
     }
-    bool waitForDialog(const QString &title); ///< until it has the focus
-    bool waitForNoDialog();                   ///< until the main window has the focus
-    bool dismissAll();                        ///< closes open menus and dialogs with Escape
+    /// Until it has the focus. A " - " and the name of a process may follow the title.
+    bool waitForDialog(const QString &title);
+    bool waitForNoDialog(); ///< until the main window has the focus
+    bool dismissAll();      ///< closes open menus and dialogs with Escape
     /// With Ctrl+Q.
     bool quit() { return dismissAll() && desktop.key("ctrl+q") && desktop.waitForExit(); }
 

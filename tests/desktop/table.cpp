@@ -16,7 +16,7 @@ Table::Table(const QJsonObject &json)
     const QJsonArray jsonHeaders = json.value("headers").toArray();
     for (const QJsonValue &header : jsonHeaders) {
         headers.append({header["text"].toString(), header["section"].toInt(), header["visible"].toBool(),
-                        rectOf(header["rect"])});
+                        rectOf(header["rect"]), header["contentWidth"].toInt()});
     }
     const QJsonArray jsonRows = json.value("rows").toArray();
     for (const QJsonValue &jsonRow : jsonRows) {

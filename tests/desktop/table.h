@@ -19,6 +19,7 @@ struct Table
         int section = -1; ///< the model's column
         bool visible = false;
         QRect rect;
+        int contentWidth = 0; ///< the width that fits the header and the cells
     };
 
     struct Row

@@ -135,7 +135,7 @@ private Q_SLOTS:
         QCOMPARE(first.state(), 'S');
     }
 
-    /// While the box is open, the process renames itself: its row is replaced, which drops the selection.
+    /// While the box is open, the process renames itself, and its row is replaced.
     void signalGoesToTheProcessThatTheBoxNamed()
     {
         const SampleProcess process = sample("ask");
@@ -144,6 +144,8 @@ private Q_SLOTS:
         QVERIFY(ask(Shortcut, killCommand, process.pid()));
         QVERIFY(process.sendSignal(SIGUSR1));
         QVERIFY(page->waitForText(process.pid(), "Name", process.renamed()));
+        QCOMPARE(session->dialog().value("informativeText").toString(),
+                 QString("%1 (%2)").arg(process.name()).arg(process.pid()));
         QVERIFY(session->clickButton("OK"));
         QVERIFY(session->waitFor([&] { return process.endedBy() == SIGKILL; }));
         QCOMPARE(bystander.state(), 'S');

@@ -83,10 +83,10 @@ private Q_SLOTS:
 
     void acceptedIntervalIsUsed()
     {
+        QVERIFY(open("General interval"));
         const QString before = session->text("lblMemFree");
         machine.memory->free = 3 << 20;
         session->setMachine(machine);
-        QVERIFY(open("General interval"));
         dragSliderTo(1);
         QVERIFY(session->waitFor([&] { return okIsEnabled(); }));
         QCOMPARE(session->text("lblMemFree"), before);

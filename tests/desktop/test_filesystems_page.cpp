@@ -140,6 +140,33 @@ private Q_SLOTS:
         QVERIFY(waitForDevice("/dev/\uFFFD") && waitForPie("rrrrbbbb"));
     }
 
+    void aLongDeviceNameMovesNothing()
+    {
+        const std::string luks = "/dev/mapper/luks-8b1f3c1e-5a7d-4e0a-9f0e-0123456789ab-and-its-home";
+        start({rootMount, mount(luks, "/data", 50)});
+        QVERIFY(waitForDevice("/dev/sda1"));
+        const auto sizes = [&] {
+            return QVector<QRect>{session->windowRect(), session->widgetRect("tableFS"),
+                                  session->widgetRect("Chart"),
+                                  rectOf(session->mainWindow().value("minimumSize"))};
+        };
+        const QVector<QRect> before = sizes();
+        const auto toolTip = [&] { return session->widget("lblMountPoint").value("toolTip").toString(); };
+        for (int round = 0; round < 2; ++round) {
+            QVERIFY(choose("/data"));
+            QVERIFY(waitForDevice(luks.c_str()));
+            QVERIFY(session->waitFor([&] { return toolTip() == luks.c_str(); }));
+            QCOMPARE(sizes(), before);
+            session->x().moveTo(session->widgetRect("lblMountPoint").center());
+            QVERIFY(session->waitFor([&] { return session->text("QTipLabel") == luks.c_str(); }));
+            QVERIFY(session->savePicture("filesystems-long-device"));
+            QVERIFY(choose("/"));
+            QVERIFY(waitForDevice("/dev/sda1"));
+            QVERIFY(session->waitFor([&] { return toolTip().isEmpty(); }));
+            QCOMPARE(sizes(), before);
+        }
+    }
+
     void eachOfFiveHundredMountsCanBeChosen()
     {
         std::vector<standin::Mount> mounts;

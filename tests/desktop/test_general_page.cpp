@@ -136,15 +136,9 @@ private Q_SLOTS:
         QCOMPARE(session->undefinedNumber(), QString());
     }
 
-    void theWindowOpensAtItsDefaultSizeAndEachGaugeCanBeReached_data()
-    {
-        QTest::addColumn<int>("cpus");
-        for (const int cpus : {1, 2, 8, 16, 64, 256, 1024}) {
-            QTest::addRow("%d CPUs", cpus) << cpus;
-        }
-    }
+    void theWindowOpensAsHighAsThePageNeeds_data() { addCpuRows({1, 2, 8, 12, 14, 16, 64, 256, 1024}); }
 
-    void theWindowOpensAtItsDefaultSizeAndEachGaugeCanBeReached()
+    void theWindowOpensAsHighAsThePageNeeds()
     {
         QFETCH(int, cpus);
         start(machineWithCpus(cpus));
@@ -153,28 +147,75 @@ private Q_SLOTS:
         QVERIFY2(frame.top() < rect.top(), "the window manager draws a title bar");
         QVERIFY2(QRect(QPoint(), SessionOptions().screen).contains(frame | rect),
                  "the window is on the screen");
-        const QRect area = session->widgetRect("generalScroll");
-        const bool scrolls = !area.isNull();
-        QVERIFY(scrolls ? cpus > 2 : cpus < 64);
-        const QSize least = scrolls ? QSize() : rectOf(session->mainWindow().value("minimumSize")).size();
-        QCOMPARE(rect.size(), QSize(640, 480).expandedTo(least));
+        QVERIFY(session->widgetRect("tab").contains(scrollArea()));
         QCOMPARE(session->widgets("QProg").size(), cpus + 2);
-        if (lastGaugeIsShown()) {
-            return;
+        QVERIFY(session->savePicture(QString("general-%1-cpus").arg(cpus)));
+        const int lowest = 480;
+        const int highest = SessionOptions().screen.height() - 40;
+        QCOMPARE(rect.width(), 640);
+        QVERIFY(rect.height() >= lowest && rect.height() <= highest);
+        QVERIFY2(lastGaugeIsShown() || rect.height() == highest, "the page would fit the screen");
+        if (rect.height() > lowest && rect.height() < highest) {
+            const int spare = scrollArea().bottom() - lastGauge().bottom();
+            QVERIFY2(spare < lastGauge().height(), qPrintable(QString::number(spare)));
+        } else {
+            QCOMPARE(rect.height(), cpus <= 4 ? lowest : highest);
         }
-        QVERIFY(session->clickWidget("lblHost"));
-        QVERIFY(sendUntil([&] { session->key("Page_Down"); }, [&] { return lastGaugeIsShown(); }));
-        // With the wheel from the bottom to the top and back.
-        session->x().moveTo(area.center());
-        QVERIFY(sendUntil([&] { session->x().click(4); },
-                          [&] { return area.contains(session->widgetRect("lblHost")); }));
-        QVERIFY(sendUntil([&] { session->x().click(5); }, [&] { return lastGaugeIsShown(); }));
+        QVERIFY(reachLastGauge());
+    }
+
+    void everyPageCanBeMadeSmall_data() { addCpuRows({2, 12, 14, 64}); }
+
+    void everyPageCanBeMadeSmall()
+    {
+        QFETCH(int, cpus);
+        start(machineWithCpus(cpus));
+        for (const char *tab : {"Processes", "File systems", "Network", "System"}) {
+            QVERIFY(session->clickTab(tab));
+            QVERIFY(session->resizeMainWindow({640, 480}));
+            const QSize small(400, 320);
+            QVERIFY(session->resizeMainWindow(small));
+            QCOMPARE(session->windowRect().height(), small.height());
+            QVERIFY2(session->windowRect().width() < 640, tab);
+            QVERIFY(session->savePicture(QString("small-%1-%2-cpus").arg(tab).arg(cpus)));
+        }
+        QVERIFY(!lastGaugeIsShown());
+        QVERIFY(reachLastGauge());
+    }
+
+    void aLongHostNameIsElided()
+    {
+        const QString host = QString("host-").repeated(12) + "end";
+        SessionOptions options;
+        options.preload = QStringList(ZSM_HOST_OBJECT);
+        options.environment["ZSM_HOST"] = "short";
+        start(machineWithCpus(2), options);
+        const QSize least = rectOf(session->mainWindow().value("minimumSize")).size();
+        QCOMPARE(session->widget("lblHost").value("toolTip").toString(), QString());
+        QVERIFY(session->endsCleanly());
+        options.environment["ZSM_HOST"] = host;
+        start(machineWithCpus(2), options);
+        QCOMPARE(rectOf(session->mainWindow().value("minimumSize")).size(), least);
+        QCOMPARE(session->windowRect().size(), QSize(640, 480));
+        QVERIFY(session->resizeMainWindow(least));
+        QVERIFY(session->text("lblHost").startsWith(host));
+        session->x().moveTo(session->widgetRect("lblHost").center());
+        QVERIFY(session->waitFor([&] { return session->text("QTipLabel").startsWith(host); }));
+        QVERIFY(session->savePicture("general-long-host"));
     }
 
 private:
-    void start(const standin::Machine &machine)
+    static void addCpuRows(std::initializer_list<int> counts)
     {
-        session = std::make_unique<PageSession>(machine);
+        QTest::addColumn<int>("cpus");
+        for (const int cpus : counts) {
+            QTest::addRow("%d CPUs", cpus) << cpus;
+        }
+    }
+
+    void start(const standin::Machine &machine, const SessionOptions &options = {})
+    {
+        session = std::make_unique<PageSession>(machine, options);
         QVERIFY(session->start({"general"}));
     }
 
@@ -210,12 +251,25 @@ private:
         return {};
     }
 
+    QRect scrollArea() { return session->widgetRect("generalScroll"); }
+    QRect lastGauge() { return rectOf(session->widgets("QProg").last().value("rect")); }
     // The gauges are below one another, so a view that shows the last one has passed all of them.
-    bool lastGaugeIsShown()
+    bool lastGaugeIsShown() { return scrollArea().contains(lastGauge()); }
+    /// By keys, then with the wheel from the bottom to the top and back.
+    bool reachLastGauge()
     {
-        const QRect area = session->widgetRect("generalScroll");
-        const QRect last = rectOf(session->widgets("QProg").last().value("rect"));
-        return (area.isNull() ? session->windowRect() : area).contains(last);
+        if (lastGaugeIsShown()) {
+            return true;
+        }
+        const QRect area = scrollArea();
+        if (!session->clickWidget("lblHost") ||
+            !sendUntil([&] { session->key("Page_Down"); }, [&] { return lastGaugeIsShown(); })) {
+            return false;
+        }
+        session->x().moveTo(area.center());
+        return sendUntil([&] { session->x().click(4); },
+                         [&] { return area.contains(session->widgetRect("lblHost")); }) &&
+               sendUntil([&] { session->x().click(5); }, [&] { return lastGaugeIsShown(); });
     }
 
     bool sendUntil(const std::function<void()> &input, const std::function<bool()> &condition)

@@ -39,6 +39,19 @@ bool isNear(int value, int expected, int tolerance)
     return qAbs(value - expected) <= tolerance;
 }
 
+/// Number of the samples on the base line, which are the newest ones.
+int flatSamples(const QImage &graph)
+{
+    const int newest = graph.width() - 1 - margin;
+    const int withoutTimes = 85; // left and right of the samples
+    const double perSample = (graph.width() - withoutTimes) / 100.0;
+    int length = 0;
+    while (shade(graph, {newest - length - 1, graph.height() - 1 - margin}) != '-') {
+        ++length;
+    }
+    return 1 + qRound(length / perSample);
+}
+
 /// Whether the line has no point above the base line.
 bool isFlat(const QImage &graph, char color)
 {
@@ -65,6 +78,37 @@ private Q_SLOTS:
                                        {"netErrors", "7"}}));
         QCOMPARE(listed(), QStringList({"eth0", "eth1", "lo"}));
         QCOMPARE(chosen(), QString("eth0"));
+    }
+
+    void theGraphOfAFreshStartHasOneSample_data()
+    {
+        QTest::addColumn<QString>("startPage");
+        QTest::addColumn<int>("interval");
+        for (const char *startPage : {"general", "network"}) {
+            for (const int interval : {1, 3, 5}) {
+                QTest::addRow("%s, interval %d", startPage, interval) << startPage << interval;
+            }
+        }
+    }
+
+    void theGraphOfAFreshStartHasOneSample()
+    {
+        QFETCH(QString, startPage);
+        QFETCH(int, interval);
+        SessionOptions options;
+        options.settings = "net=" + QByteArray::number(interval) + '\n';
+        session = std::make_unique<PageSession>(machineWith({interface("eth0", 1000, 1000)}), options);
+        QElapsedTimer sinceStart;
+        sinceStart.start();
+        QVERIFY(session->start({startPage}));
+        if (startPage != "network") {
+            QVERIFY(session->clickTab("Network"));
+        }
+        QVERIFY(waitForNoTraffic());
+        const int samples = flatSamples(graph());
+        const int expected = startPage == "network" ? 1 : 3; // a change of the tab may refresh twice
+        const int byTheTimer = int(sinceStart.elapsed() / 1000);
+        QVERIFY2(samples >= 1 && samples <= expected + byTheTimer, qPrintable(QString::number(samples)));
     }
 
     void growingCountersDrawTheirLines()

@@ -164,6 +164,15 @@ void XClient::resizeWindow(unsigned long id, const QSize &size)
                 {widthAndHeightGiven | fromPager, 0, 0, size.width(), size.height()});
 }
 
+void XClient::moveWindow(unsigned long id, const QPoint &topLeft)
+{
+    const long northWest = 1;
+    const long xAndYGiven = (1 << 8) | (1 << 9);
+    const long fromPager = 2 << 12;
+    sendMessage(id, "_NET_MOVERESIZE_WINDOW",
+                {northWest | xAndYGiven | fromPager, topLeft.x(), topLeft.y(), 0, 0});
+}
+
 void XClient::closeWindow(unsigned long id)
 {
     const long fromPager = 2;
@@ -190,6 +199,12 @@ QRect XClient::windowRect(unsigned long id) const
     Window child = 0;
     XTranslateCoordinates(display, id, attributes.root, 0, 0, &x, &y, &child);
     return {x, y, attributes.width, attributes.height};
+}
+
+unsigned long XClient::transientFor(unsigned long id) const
+{
+    Window window = 0;
+    return XGetTransientForHint(display, id, &window) != 0 ? window : 0;
 }
 
 void XClient::mark(unsigned long id, int number)

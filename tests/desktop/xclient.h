@@ -45,11 +45,15 @@ public:
     /// Requests to the window manager, as from a pager or task bar. Window ids are those of X and
     /// QWidget::winId().
     void resizeWindow(unsigned long id, const QSize &size);
+    void moveWindow(unsigned long id, const QPoint &topLeft); ///< of its frame
     void closeWindow(unsigned long id);
     void toggleMaximized(unsigned long id);
 
     /// The position of a window on the screen, without its frame; empty if there is no such window.
     QRect windowRect(unsigned long id) const;
+
+    /// The window that it is a dialog of, by its WM_TRANSIENT_FOR hint; 0 if there is none.
+    unsigned long transientFor(unsigned long id) const;
 
     /// Sends a window one of the probe's marks (tests/support/probe/inputmarks.h).
     void mark(unsigned long id, int number);

@@ -114,6 +114,30 @@ private Q_SLOTS:
         DlgNice(&window).askPriority(0);
     }
 
+    void theTitleNamesTheProcess_data()
+    {
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("none") << ""
+                              << "Change priority";
+        QTest::newRow("name and pid") << "sleep (412)"
+                                      << "Change priority - sleep (412)";
+        QTest::newRow("pid alone") << "412"
+                                   << "Change priority - 412";
+        QTest::newRow("HTML and place markers") << "<b>%1</b> (412)"
+                                                << "Change priority - <b>%1</b> (412)";
+    }
+
+    void theTitleNamesTheProcess()
+    {
+        QFETCH(QString, label);
+        const ModalDriver driver([](QWidget *dialog) {
+            QTEST(dialog->windowTitle(), "title");
+            dialog->close();
+        });
+        DlgNice(nullptr, label).askPriority(0);
+    }
+
     void onlyOkAfterAMoveReturnsTheSlidersValue_data()
     {
         QTest::addColumn<int>("current");

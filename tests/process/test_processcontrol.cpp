@@ -9,6 +9,7 @@
 namespace {
 
 const int stoppedState = 16;
+const int noSuchPid = 0x7ffffff0; ///< beyond the kernel's largest
 
 const char noSuchProcess[] = "Unable send signal to process. Reason - No such process";
 
@@ -106,6 +107,70 @@ private Q_SLOTS:
         const ModalDriver driver({confirm, pressing(QMessageBox::Ok, &seen)});
         desk.trigger("Terminate process");
         verifyErrorBox(seen, noSuchProcess);
+    }
+
+    void theErrorBoxNamesTheProcessThatWasAskedAbout_data()
+    {
+        QTest::addColumn<Change>("duringTheQuestion");
+        QTest::newRow("listed") << Change([](const Desk &, pid_t) {});
+        QTest::newRow("it has left the list") << Change([](const Desk &desk, pid_t other) {
+            desk.list->refresh(makeSnapshot({{other, 0}}));
+        });
+        QTest::newRow("its pid is another process's") << Change([](const Desk &desk, pid_t) {
+            Facts facts;
+            facts.pid = noSuchPid;
+            facts.name = QStringLiteral("another");
+            desk.list->refresh(makeSnapshot(FactsByPid{{noSuchPid, facts}}));
+            desk.list->refresh(makeSnapshot(FactsByPid{{noSuchPid, facts}}));
+            QCOMPARE(desk.list->processByPid(noSuchPid).getName(), facts.name);
+        });
+        QTest::newRow("another one is selected")
+            << Change([](const Desk &desk, pid_t other) { desk.select(other); });
+    }
+
+    void theErrorBoxNamesTheProcessThatWasAskedAbout()
+    {
+        QFETCH(Change, duringTheQuestion);
+        const Child other;
+        const Desk desk;
+        desk.list->refresh(makeSnapshot({{noSuchPid, 0}}));
+        desk.actions->setProcess(desk.list->processAt(desk.list->index(0, 0)));
+        QStringList named;
+        const auto confirm = [&](QWidget *dialog) {
+            duringTheQuestion(desk, other.pid());
+            named << qobject_cast<QMessageBox *>(dialog)->informativeText();
+            pressing(QMessageBox::Ok)(dialog);
+        };
+        const ModalDriver driver({confirm, confirm});
+        desk.trigger("Terminate process");
+        const QString label = QStringLiteral("p%1 (%1)").arg(noSuchPid);
+        QCOMPARE(named, (QStringList{label, label}));
+    }
+
+    void aPidAloneIsNamedAsTheListDoes_data()
+    {
+        QTest::addColumn<bool>("listed");
+        QTest::newRow("listed") << true;
+        QTest::newRow("unknown") << false;
+    }
+
+    void aPidAloneIsNamedAsTheListDoes()
+    {
+        QFETCH(bool, listed);
+        const Desk desk;
+        if (listed) {
+            desk.list->refresh(makeSnapshot({{noSuchPid, 0}}));
+        }
+        QStringList named;
+        const auto read = [&](QWidget *dialog) {
+            named << qobject_cast<QMessageBox *>(dialog)->informativeText();
+            dialog->close();
+        };
+        const ModalDriver driver({read, read});
+        desk.list->sendSignal(noSuchPid, 0);
+        desk.list->setPriority(noSuchPid, 1);
+        const QString label = QString::fromLatin1(listed ? "p%1 (%1)" : "%1").arg(noSuchPid);
+        QCOMPARE(named, (QStringList{label, label}));
     }
 
     void anotherUsersProcessGivesTheErrorBox()

@@ -126,6 +126,26 @@ private Q_SLOTS:
         verifyErrorBox(seen, "Unable change priority. Reason - No such process");
     }
 
+    void dialogAndErrorBoxNameTheSelectedProcess()
+    {
+        const int pid = exitedPid();
+        const Desk desk;
+        desk.list->refresh(makeSnapshot({{pid, 0}}));
+        desk.actions->setProcess(desk.list->processAt(desk.list->index(0, 0)));
+        const QString label = QStringLiteral("p%1 (%1)").arg(pid);
+        const auto choose = [&](QWidget *dialog) {
+            QCOMPARE(dialog->windowTitle(), QStringLiteral("Change priority - ") + label);
+            desk.list->refresh(makeSnapshot({{1, 0}})); // it leaves the list
+            choosing(5)(dialog);
+        };
+        const auto read = [&](QWidget *dialog) {
+            QCOMPARE(qobject_cast<QMessageBox *>(dialog)->informativeText(), label);
+            dialog->close();
+        };
+        const ModalDriver driver({choose, read});
+        desk.trigger("Change priority...");
+    }
+
     void aPriorityWithoutTheRightGivesTheErrorBox()
     {
         if (geteuid() != 0) {

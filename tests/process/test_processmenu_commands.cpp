@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr int noSuchPid = 0x7ffffff0; ///< beyond the kernel's largest
+
 QStringList logged;
 
 void keepLine(QtMsgType type, const QMessageLogContext &context, const QString &text)
@@ -144,6 +146,32 @@ private Q_SLOTS:
             QCOMPARE(seen.defaultButton, QMessageBox::Cancel);
             QVERIFY(!seen.hasParent);
         }
+    }
+
+    void eachQuestionNamesTheSelectedProcess_data()
+    {
+        QTest::addColumn<QString>("action");
+        for (const char *action : {"Stop process", "Continue process", "Terminate process", "Kill process"}) {
+            QTest::newRow(action) << action;
+        }
+    }
+
+    void eachQuestionNamesTheSelectedProcess()
+    {
+        QFETCH(QString, action);
+        const Desk desk;
+        Facts facts;
+        facts.pid = noSuchPid;
+        facts.name = QStringLiteral("<b>%1</b>");
+        facts.state = action == QLatin1String("Continue process") ? 16 : 1;
+        desk.actions->setProcess(makeProcess(facts));
+        const ModalDriver driver([](QWidget *dialog) {
+            QCOMPARE(
+                qobject_cast<QMessageBox *>(dialog)->informativeText(),
+                QStringLiteral("<b>%1</b> (%2)").replace(QLatin1String("%2"), QString::number(noSuchPid)));
+            dialog->close();
+        });
+        desk.trigger(qPrintable(action));
     }
 };
 

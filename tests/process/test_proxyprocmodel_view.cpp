@@ -8,6 +8,11 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <functional>
+#include <stdexcept>
+
+Q_DECLARE_METATYPE(std::function<void(ProxyProcModel *)>)
+
 using gtop_wrappers::ProcessFiller;
 
 namespace {
@@ -95,6 +100,115 @@ private Q_SLOTS:
         QCOMPARE(list.proxy->headerData(0, Qt::Horizontal).toString(), ProcessFiller::instance()->title(1));
     }
 
+    void everyChangeIsFramedByItsSignals_data()
+    {
+        QTest::addColumn<std::function<void(ProxyProcModel *)>>("change");
+        QTest::addColumn<int>("resets");
+        const auto row = [](const char *name, int resets,
+                            const std::function<void(ProxyProcModel *)> &change) {
+            QTest::newRow(name) << change << resets;
+        };
+        row("types", 2, [](ProxyProcModel *proxy) { proxy->setProcessTypes(0); });
+        row("mode", 3, [](ProxyProcModel *proxy) { proxy->setFlat(false); });
+        row("same mode", 2, [](ProxyProcModel *proxy) { proxy->setFlat(true); });
+        row("column", 2, [](ProxyProcModel *proxy) { proxy->setColumnVisible(3, false); });
+        row("sorted column", 2, [](ProxyProcModel *proxy) { proxy->setColumnVisible(0, false); });
+        row("no such column", 0, [](ProxyProcModel *proxy) {
+            QVERIFY_EXCEPTION_THROWN(proxy->setColumnVisible(99, false), std::out_of_range);
+        });
+    }
+
+    void everyChangeIsFramedByItsSignals()
+    {
+        QFETCH(std::function<void(ProxyProcModel *)>, change);
+        QFETCH(int, resets);
+        List list;
+        list.view.sortByColumn(0, Qt::AscendingOrder);
+        list.proxy->refresh(makeSnapshot({{1, 0}, {2, 0}}));
+        QStringList seen;
+        connect(list.proxy, &ProxyProcModel::aboutToEmptyList, this, [&] {
+            QCOMPARE(list.proxy->rowCount(), 2);
+            seen << QStringLiteral("before");
+        });
+        connect(list.proxy, &QAbstractItemModel::modelReset, this, [&] { seen << QStringLiteral("reset"); });
+        connect(list.proxy, &ProxyProcModel::listEmptied, this, [&] {
+            QCOMPARE(list.proxy->rowCount(), 0);
+            seen << QStringLiteral("after");
+        });
+        change(list.proxy);
+        QStringList expected;
+        for (int i = 0; i < resets; ++i) {
+            expected << QStringLiteral("reset");
+        }
+        if (resets > 0) {
+            expected.prepend(QStringLiteral("before"));
+            expected.append(QStringLiteral("after"));
+        }
+        QCOMPARE(seen, expected);
+    }
+
+    void sortingFollowsItsProcessColumn_data()
+    {
+        QTest::addColumn<QList<int>>("hidden"); // process columns, one after the other
+        QTest::addColumn<int>("sortedBy");      // process column afterwards
+        QTest::addColumn<int>("column");        // of the view
+        QTest::addColumn<bool>("descending");
+        const auto row = [](const char *name, const QList<int> &hidden, int sortedBy, int column,
+                            bool descending) {
+            QTest::newRow(name) << hidden << sortedBy << column << descending;
+        };
+        using namespace gtop_wrappers;
+        row("none hidden", {}, StateColumn, 5, true);
+        row("one before", {CpuColumn}, StateColumn, 4, true);
+        row("two before", {CpuColumn, NameColumn}, StateColumn, 3, true);
+        row("one after", {StartedColumn}, StateColumn, 5, true);
+        row("itself", {StateColumn}, NameColumn, 0, false);
+        row("one before, then itself", {CpuColumn, StateColumn}, NameColumn, 0, false);
+        // Without the Name column there is nothing better than the first one.
+        row("the name, then itself", {NameColumn, StateColumn}, CpuColumn, 0, false);
+    }
+
+    void sortingFollowsItsProcessColumn()
+    {
+        QFETCH(QList<int>, hidden);
+        QFETCH(int, sortedBy);
+        List list;
+        list.view.sortByColumn(gtop_wrappers::StateColumn, Qt::DescendingOrder);
+        const auto verify = [&](int processColumn, int column, bool descending) {
+            const Qt::SortOrder order = descending ? Qt::DescendingOrder : Qt::AscendingOrder;
+            QCOMPARE(list.proxy->sortedProcessColumn(), processColumn);
+            QCOMPARE(list.proxy->sortColumn(), column);
+            QCOMPARE(list.proxy->sortOrder(), order);
+            QCOMPARE(list.view.header()->sortIndicatorSection(), column);
+            QCOMPARE(list.view.header()->sortIndicatorOrder(), order);
+        };
+        for (const int column : hidden) {
+            list.proxy->setColumnVisible(static_cast<unsigned long>(column), false);
+        }
+        QFETCH(int, column);
+        QFETCH(bool, descending);
+        verify(sortedBy, column, descending);
+        for (const int shown : hidden) { // and back
+            list.proxy->setColumnVisible(static_cast<unsigned long>(shown), true);
+        }
+        verify(sortedBy, sortedBy, descending);
+    }
+
+    void sortingFollowsItsColumnWithoutAView()
+    {
+        QObject owner;
+        auto *proxy = new ProxyProcModel(&owner);
+        proxy->setView(nullptr);
+        proxy->setColumnVisible(0, false);
+        QCOMPARE(proxy->sortColumn(), -1); // not sorted, and it stays so
+        proxy->setColumnVisible(0, true);
+        proxy->sort(pidColumn, Qt::DescendingOrder);
+        proxy->setColumnVisible(0, false);
+        QCOMPARE(proxy->sortedProcessColumn(), pidColumn);
+        QCOMPARE(proxy->sortColumn(), pidColumn - 1);
+        QCOMPARE(proxy->sortOrder(), Qt::DescendingOrder);
+    }
+
     void columnsAreFittedAndRowsExpandedOnceAfterAReset()
     {
         TwoLevels list;
@@ -145,36 +259,6 @@ private Q_SLOTS:
         list.proxy->refresh(makeSnapshot(facts));
         // Ten rows are left. The scroll bar knows without a run of the event loop.
         QVERIFY(list.view.verticalScrollBar()->maximum() < 10);
-    }
-
-    void aDeferredLayoutHappensAtTheEndOfTheDeferral()
-    {
-        TwoLevels list;
-        list.proxy->setLayoutDeferred(true);
-        list.refresh();
-        list.view.setColumnWidth(0, userWidth);
-        QCOMPARE(list.proxy->rowCount(), 1);
-        QVERIFY(!list.isExpanded());
-        list.proxy->setLayoutDeferred(false);
-        QVERIFY(list.isExpanded());
-        QVERIFY(list.isFitted());
-        list.view.setColumnWidth(0, userWidth);
-        list.proxy->setLayoutDeferred(true);
-        list.proxy->setLayoutDeferred(false);
-        QCOMPARE(list.view.columnWidth(0), userWidth);
-    }
-
-    void aResetDropsADeferredLayout()
-    {
-        TwoLevels list;
-        list.proxy->setLayoutDeferred(true);
-        list.refresh();
-        list.proxy->setProcessTypes(0);
-        list.view.setColumnWidth(0, userWidth);
-        list.proxy->setLayoutDeferred(false);
-        QCOMPARE(list.view.columnWidth(0), userWidth); // until a refresh fills the list
-        list.refresh();
-        QVERIFY(list.isFitted());
     }
 
     void onlyRowsOfATreeCanHaveChildren()

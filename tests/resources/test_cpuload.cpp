@@ -5,6 +5,7 @@
 
 #include <glibtop.h>
 #include <glibtop/cpu.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <climits>
@@ -198,6 +199,16 @@ private Q_SLOTS:
         QCOMPARE(cpuLoadText(0), QString("0 %"));
         QCOMPARE(cpuLoadText(100), QString("100 %"));
         QCOMPARE(cpuLoadText(-50), QString("-50 %"));
+    }
+
+    void machineSecondsAreTheJiffiesPerCpu()
+    {
+        const auto perSecond = static_cast<quint64>(sysconf(_SC_CLK_TCK));
+        QCOMPARE(machineSeconds(0, 4), 0.0);
+        QCOMPARE(machineSeconds(perSecond, 1), 1.0);
+        QCOMPARE(machineSeconds(perSecond, 4), 0.25);
+        QCOMPARE(machineSeconds(perSecond * 8, 4), 2.0);
+        QVERIFY(machineSeconds(largest, 1024) > 1e9); // a counter fell
     }
 
     void liveReadingHasTheRequestedLength()

@@ -63,6 +63,19 @@ private Q_SLOTS:
         QCOMPARE(page.widget.findChildren<QLabel *>().size(), 8);
     }
 
+    void modelsAreShownAsPlainText()
+    {
+        const Page page(0);
+        const QString model("<b>CPU</b> & more");
+        addCpuModelRows(page.grid, 2, model);
+        for (int row : {7, 8}) {
+            const auto *value = qobject_cast<QLabel *>(page.at(row, 3));
+            QVERIFY(value);
+            QCOMPARE(value->text(), model);
+            QCOMPARE(value->textFormat(), Qt::PlainText);
+        }
+    }
+
     void loadRowsStartAtRowThree_data()
     {
         QTest::addColumn<int>("count");

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/pagescroll.h"
 #include "app/storedsettings.h"
 #include "support.h"
 
@@ -135,7 +136,9 @@ private Q_SLOTS:
         const QByteArray content = damage + "\n[interval]\ngeneral=5\n";
         writeSettings(content);
         fixture->start(0);
-        QCOMPARE(Fixture::window()->size(), QSize(640, 480).expandedTo(Fixture::window()->minimumSizeHint()));
+        const int needed = heightForWholePage(Fixture::window(), Fixture::find<PageScroll>("generalScroll"));
+        QCOMPARE(Fixture::window()->size(),
+                 QSize(640, qMax(480, needed)).expandedTo(Fixture::window()->minimumSizeHint()));
         fixture->stop();
         QCOMPARE(savedInterval(), 3);
         QCOMPARE(contentOf(pathSetAside()), content);

@@ -40,6 +40,19 @@ void setLastCpu(std::optional<int> last)
     }
 }
 
+/// The counters by now: those that advance do so by the clock, in whole jiffies.
+Cpu advanced(Cpu cpu)
+{
+    using Jiffies = std::chrono::duration<std::uint64_t, std::centi>;
+    const auto sinceBoot = std::chrono::steady_clock::now().time_since_epoch();
+    if (cpu.load >= 0) {
+        const std::uint64_t jiffies = std::chrono::duration_cast<Jiffies>(sinceBoot).count();
+        cpu.total += jiffies;
+        cpu.idle += jiffies * static_cast<std::uint64_t>(100 - cpu.load) / 100;
+    }
+    return cpu;
+}
+
 void fillCpu(glibtop_cpu *buf, const std::vector<Cpu> &cpus)
 {
     const std::size_t count = std::min<std::size_t>(cpus.size(), GLIBTOP_NCPU);
@@ -49,9 +62,10 @@ void fillCpu(glibtop_cpu *buf, const std::vector<Cpu> &cpus)
     buf->xcpu_flags = allFlags;
     buf->frequency = 100;
     for (std::size_t i = 0; i < count; ++i) {
-        buf->xcpu_idle[i] = cpus[i].idle;
-        buf->xcpu_total[i] = cpus[i].total;
-        buf->xcpu_user[i] = cpus[i].total - cpus[i].idle;
+        const Cpu cpu = advanced(cpus[i]);
+        buf->xcpu_idle[i] = cpu.idle;
+        buf->xcpu_total[i] = cpu.total;
+        buf->xcpu_user[i] = cpu.total - cpu.idle;
         buf->idle += buf->xcpu_idle[i];
         buf->total += buf->xcpu_total[i];
         buf->user += buf->xcpu_user[i];

@@ -21,6 +21,7 @@ struct Cpu
 {
     std::uint64_t idle = 0;
     std::uint64_t total = 0;
+    int load = -1; ///< in percent: the counters also advance, 100 jiffies a second; -1: they stand still
 };
 
 /// Memory of the machine, in bytes.

@@ -16,6 +16,7 @@ void visitFields(Visitor &visit, Cpu &cpu)
 {
     visit("idle", cpu.idle);
     visit("total", cpu.total);
+    visit("load", cpu.load);
 }
 
 template <typename Visitor>

@@ -79,6 +79,21 @@ private Q_SLOTS:
                  (Counters{100, 300, 0}));
     }
 
+    void cpusWithALoadAdvanceWithTheClock()
+    {
+        standin::machine().cpus = {{10, 100, 0}, {10, 100, 100}, {10, 100, 25}, {10, 100}};
+        const glibtop_cpu before = answer(glibtop_get_cpu);
+        QTest::qWait(200);
+        const glibtop_cpu now = answer(glibtop_get_cpu);
+        const auto passed = [&](int cpu) { return now.xcpu_total[cpu] - before.xcpu_total[cpu]; };
+        const auto idle = [&](int cpu) { return now.xcpu_idle[cpu] - before.xcpu_idle[cpu]; };
+        QVERIFY(passed(0) >= 20);
+        QCOMPARE(idle(0), passed(0));
+        QCOMPARE(idle(1), guint64(0));
+        QVERIFY(qAbs(qint64(idle(2)) * 4 - qint64(passed(2)) * 3) < 4);
+        QCOMPARE(passed(3), guint64(0));
+    }
+
     void cpusBeyondLibgtopsLimitAreDropped()
     {
         standin::machine().cpus = std::vector<standin::Cpu>(GLIBTOP_NCPU + 5, {1, 2});

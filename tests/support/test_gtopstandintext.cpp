@@ -13,7 +13,7 @@ namespace {
 standin::Machine fullMachine()
 {
     standin::Machine machine;
-    machine.cpus = {{1, 2}, {3, ~std::uint64_t(0)}};
+    machine.cpus = {{1, 2, 50}, {3, ~std::uint64_t(0)}};
     machine.memory = standin::Memory{100, 20, 3, 4};
     machine.mounts = {{"/dev/sd a", "/mnt/\xff%\n", "", 5, 4, 3, 2, 512, true, 7}, standin::Mount{}};
     machine.mountListFails = true;
@@ -43,6 +43,8 @@ private Q_SLOTS:
         QVERIFY(read.mountListFails);
         QVERIFY(read.interfaceListFails);
         QVERIFY(read.interfaces->at(0).fails);
+        QCOMPARE(read.cpus->at(0).load, 50);
+        QCOMPARE(read.cpus->at(1).load, -1);
         QCOMPARE(read.cpus->at(1).total, ~std::uint64_t(0));
         QCOMPARE(read.processes->at(42).arguments, std::string("a\0b\0", 4));
         QCOMPARE(read.processes->at(42).nice, -20);

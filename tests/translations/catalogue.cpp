@@ -73,9 +73,10 @@ std::vector<Message> sourceTexts()
 
 void useLanguage(const QString &locale)
 {
-    qDeleteAll(qApp->findChildren<QTranslator *>());
+    QCoreApplication *application = QCoreApplication::instance();
+    qDeleteAll(application->findChildren<QTranslator *>());
     QLocale::setDefault(QLocale(locale));
-    installTranslations(qApp);
+    installTranslations(application);
 }
 
 void everyLanguage()

@@ -127,7 +127,10 @@ private Q_SLOTS:
     }
 
 private:
-    static QList<QTranslator *> translators() { return qApp->findChildren<QTranslator *>(); }
+    static QList<QTranslator *> translators()
+    {
+        return QCoreApplication::instance()->findChildren<QTranslator *>();
+    }
 
     static QString shown(const Message &text)
     {

@@ -2,6 +2,7 @@
 #include "catalogue.h"
 #include "clipping.h"
 #include "integration/zarninit.h"
+#include "process/processbox.h"
 #include "process/proxyprocmodel.h"
 #include "tests/app/fixture.h"
 #include "tests/support/modal.h"
@@ -51,6 +52,9 @@ private Q_SLOTS:
     {
         select(0);
         checkDialogOf(processAction({4}), [](QWidget *dialog) {
+            const QString title = QCoreApplication::translate("DlgNice", "Change priority");
+            QCOMPARE(title == QLatin1String("Change priority"), isEnglish());
+            QCOMPARE(dialog->windowTitle(), title + QStringLiteral(" - ") + selectedProcess());
             auto *slider = dialog->findChild<QSlider *>();
             for (int nice : {-20, -10, 0, 10, 20}) {
                 slider->setValue(nice);
@@ -64,16 +68,21 @@ private Q_SLOTS:
     {
         for (int signal : {SIGSTOP, SIGCONT, SIGTERM, SIGKILL}) {
             select(signal == SIGCONT ? 2 : 0);
-            checkDialogOf(processAction({1, signal}));
+            checkDialogOf(processAction({1, signal}), [](QWidget *dialog) {
+                QCOMPARE(qobject_cast<QMessageBox *>(dialog)->informativeText(), selectedProcess());
+            });
         }
     }
 
     void theWarningsAreLegible()
     {
         auto *model = qobject_cast<ProxyProcModel *>(tree()->model());
-        const int nobody = 0x7fffffff; // beyond the kernel's largest pid
-        checkDialog([&] { model->sendSignal(nobody, 15); });
-        checkDialog([&] { model->setPriority(nobody, 1); });
+        static constexpr int nobody = 0x7fffffff; // beyond the kernel's largest pid
+        const auto look = [](QWidget *dialog) {
+            QCOMPARE(qobject_cast<QMessageBox *>(dialog)->informativeText(), QString::number(nobody));
+        };
+        checkDialog([&] { model->sendSignal(nobody, 15); }, look);
+        checkDialog([&] { model->setPriority(nobody, 1); }, look);
     }
 
     void theAboutBoxIsLegible()
@@ -90,6 +99,17 @@ private:
 
     static QTreeView *tree() { return Fixture::find<QTreeView>("treeView"); }
     static void select(int row) { tree()->setCurrentIndex(tree()->model()->index(row, 0)); }
+    /// As dialogs name it.
+    static QString selectedProcess()
+    {
+        const auto *model = qobject_cast<ProxyProcModel *>(tree()->model());
+        return processLabel(model->processAt(tree()->currentIndex()));
+    }
+    static bool isEnglish()
+    {
+        QFETCH_GLOBAL(QString, language);
+        return language == QLatin1String("C");
+    }
     static QMenu *menu(int position) { return Fixture::window()->menuBar()->actions().at(position)->menu(); }
 
     /// The entry on a process that has these numbers as its data.

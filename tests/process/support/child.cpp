@@ -22,6 +22,9 @@ Child::Child(uid_t user) : id(-1), ended(false)
         }
         _exit(1);
     }
+    if (id < 0) {
+        qFatal("no child"); // the destructor would kill every process of the user
+    }
     close(started[1]);
     char nothing = 0;
     while (read(started[0], &nothing, 1) == -1) { // returns when exec has closed the child's end

@@ -19,9 +19,9 @@ namespace probe {
 namespace {
 
 /// The properties of a widget that are described if the widget has them.
-const char *const describedProperties[] = {"enabled",      "visible",     "focus",   "text",
-                                           "title",        "currentText", "value",   "minimum",
-                                           "currentIndex", "maximum",     "checked", "default"};
+const char *const describedProperties[] = {
+    "enabled", "visible",      "focus",   "text",    "informativeText", "title",   "currentText",
+    "value",   "currentIndex", "minimum", "maximum", "checked",         "default", "toolTip"};
 
 void addAccessible(const QWidget *widget, QJsonObject &json)
 {

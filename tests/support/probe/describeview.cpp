@@ -24,7 +24,13 @@ QHeaderView *headerOf(QAbstractItemView *view)
     return nullptr;
 }
 
-QJsonArray describeSections(const QHeaderView *header)
+/// Width of a section that is fitted to its contents, in pixels.
+int contentWidth(const QAbstractItemView *view, const QHeaderView *header, int section)
+{
+    return qMax(view->sizeHintForColumn(section), header->sectionSizeHint(section));
+}
+
+QJsonArray describeSections(const QAbstractItemView *view, const QHeaderView *header)
 {
     QJsonArray sections;
     for (int place = 0; place < header->count(); ++place) {
@@ -34,6 +40,7 @@ QJsonArray describeSections(const QHeaderView *header)
         sections.append(QJsonObject{{"section", section},
                                     {"text", header->model()->headerData(section, Qt::Horizontal).toString()},
                                     {"visible", header->isVisible() && !header->isSectionHidden(section)},
+                                    {"contentWidth", contentWidth(view, header, section)},
                                     {"rect", globalRect(header->viewport(), rect)}});
     }
     return sections;
@@ -134,7 +141,7 @@ QJsonObject describeView(QAbstractItemView *view)
 {
     QJsonObject json = describeWidget(view);
     if (const QHeaderView *header = headerOf(view)) {
-        json["headers"] = describeSections(header);
+        json["headers"] = describeSections(view, header);
         json["sortSection"] = header->sortIndicatorSection();
         json["sortDescending"] = header->sortIndicatorOrder() == Qt::DescendingOrder;
     }

@@ -1,0 +1,350 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Which process is selected: over the refreshes of a tree, and when the context menu opens.
+#include "fixture.h"
+
+#include "process/proxyprocmodel.h"
+#include "tests/support/modal.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+class TestListMenu : public ControllerTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aSelectedProcessThatForksStaysSelected_data()
+    {
+        QTest::addColumn<int>("selected");
+        QTest::newRow("a leaf") << 300;
+        QTest::newRow("a parent") << 100;
+    }
+
+    void aSelectedProcessThatForksStaysSelected()
+    {
+        QFETCH(int, selected);
+        startWithTree();
+        select(selected);
+        for (int child = 500; child < 504; ++child) {
+            fork(selected, child);
+            fixture->refresh(1);
+            QVERIFY(list()->rowOfPid(child).isValid());
+            verifySelected(selected);
+            QVERIFY(isInView(selected));
+            QVERIFY(killAction()->isVisible());
+        }
+    }
+
+    void aGrandchildKeepsTheSelectionAndItsAncestorsExpanded()
+    {
+        startWithTree();
+        fork(300, 500);
+        fixture->refresh(1);
+        fork(500, 501);
+        fixture->refresh(1);
+        view()->expandAll();
+        select(501);
+        fork(501, 502);
+        fixture->refresh(1);
+        verifySelected(501);
+        for (const int ancestor : {100, 300, 500}) {
+            QVERIFY(view()->isExpanded(list()->rowOfPid(ancestor)));
+        }
+    }
+
+    void aCollapsedAncestorStaysCollapsed()
+    {
+        startWithTree();
+        select(300);
+        view()->collapse(list()->rowOfPid(100));
+        fork(300, 500);
+        fixture->refresh(1);
+        verifySelected(300);
+        QVERIFY(!view()->isExpanded(list()->rowOfPid(100)));
+    }
+
+    void aSelectionWithoutARowComesBackWithTheRow_data()
+    {
+        QTest::addColumn<bool>("flat");
+        QTest::addColumn<bool>("execs");
+        QTest::newRow("reparented in the list") << true << false;
+        QTest::newRow("reparented in the tree") << false << false;
+        QTest::newRow("exec in the list") << true << true;
+        QTest::newRow("exec in the tree") << false << true;
+    }
+
+    void aSelectionWithoutARowComesBackWithTheRow()
+    {
+        QFETCH(bool, flat);
+        QFETCH(bool, execs);
+        startWithTree();
+        list()->setFlat(flat);
+        for (int round = 0; round < 3; ++round) {
+            select(400);
+            if (execs) {
+                made(400).name = "exec" + std::to_string(round);
+            } else {
+                made(400).parent = made(400).parent == 1 ? 300 : 1;
+            }
+            fixture->refresh(1);
+            QVERIFY(!list()->rowOfPid(400).isValid());
+            verifySelected(-1);
+            QVERIFY(!killAction()->isVisible());
+            fixture->refresh(1);
+            verifySelected(400);
+            QVERIFY(killAction()->isVisible());
+        }
+    }
+
+    void aSelectionWithoutARowGivesWay_data()
+    {
+        QTest::addColumn<bool>("byMenu");
+        QTest::newRow("to another one") << false;
+        QTest::newRow("to the context menu") << true;
+    }
+
+    void aSelectionWithoutARowGivesWay()
+    {
+        QFETCH(bool, byMenu);
+        startWithTree();
+        list()->setFlat(true);
+        select(400);
+        made(400).name = "exec";
+        fixture->refresh(1);
+        verifySelected(-1);
+        if (byMenu) {
+            askForMenu(QContextMenuEvent::Mouse, view()->viewport(), [this](QMenu *) {
+                fixture->refresh(1);
+                QVERIFY(!killAction()->isVisible());
+            });
+        } else {
+            select(200);
+        }
+        fixture->refresh(1);
+        verifySelected(byMenu ? -1 : 200);
+    }
+
+    void theSelectionEndsWithTheProcess_data()
+    {
+        QTest::addColumn<bool>("flat");
+        QTest::addColumn<bool>("reused");
+        QTest::newRow("gone from the list") << true << false;
+        QTest::newRow("pid reused in the list") << true << true;
+        QTest::newRow("gone from the tree") << false << false;
+        QTest::newRow("pid reused in the tree") << false << true;
+    }
+
+    void theSelectionEndsWithTheProcess()
+    {
+        QFETCH(bool, flat);
+        QFETCH(bool, reused);
+        startWithTree();
+        list()->setFlat(flat);
+        select(300);
+        if (reused) {
+            made(300).startTime += 100;
+        } else {
+            standin::machine().processes->erase(300);
+        }
+        fixture->refresh(1);
+        verifySelected(-1);
+        QVERIFY(!killAction()->isVisible());
+    }
+
+    void aRefreshDoesNotMoveTheView()
+    {
+        startWithTree();
+        list()->setFlat(true);
+        addMany();
+        fixture->refresh(1);
+        view()->sortByColumn(2, Qt::AscendingOrder);
+        select(100);
+        QScrollBar *bar = view()->verticalScrollBar();
+        bar->setValue(90);
+        fixture->refresh(1);
+        QCOMPARE(bar->value(), 90);
+        verifySelected(100);
+    }
+
+    void pressesClearTheSelectionOnlyOnEmptySpaceByTheRightButton_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<bool>("onRow");
+        QTest::addColumn<int>("selected");
+        QTest::newRow("right, empty space") << int(Qt::RightButton) << false << -1;
+        QTest::newRow("right, another row") << int(Qt::RightButton) << true << 400;
+        QTest::newRow("left, empty space") << int(Qt::LeftButton) << false << 300;
+        QTest::newRow("left, another row") << int(Qt::LeftButton) << true << 400;
+        QTest::newRow("middle, empty space") << int(Qt::MiddleButton) << false << 300;
+    }
+
+    void pressesClearTheSelectionOnlyOnEmptySpaceByTheRightButton()
+    {
+        QFETCH(int, button);
+        QFETCH(bool, onRow);
+        QFETCH(int, selected);
+        startWithTree();
+        select(300);
+        const QPoint at = onRow ? view()->visualRect(list()->rowOfPid(400)).center() : emptySpace();
+        QTest::mouseClick(view()->viewport(), static_cast<Qt::MouseButton>(button), Qt::NoModifier, at);
+        verifySelected(selected);
+        QCOMPARE(killAction()->isVisible(), selected != -1);
+    }
+
+    void theMenuOnEmptySpaceOffersNoSignal()
+    {
+        startWithTree();
+        select(300);
+        QTest::mousePress(view()->viewport(), Qt::RightButton, Qt::NoModifier, emptySpace());
+        QMenu *open = nullptr;
+        askForMenu(QContextMenuEvent::Mouse, view()->viewport(), [&](QMenu *menu) {
+            open = menu;
+            for (const QAction *action : menu->actions()) {
+                QVERIFY2(!action->isVisible() || action->text() != QStringLiteral("Kill process"), "offered");
+            }
+        });
+        QVERIFY(open);
+    }
+
+    void theMenuOpensAtTheMouse()
+    {
+        startWithTree();
+        select(300);
+        QCursor::setPos(view()->viewport()->mapToGlobal(QPoint(90, 40)));
+        askForMenu(QContextMenuEvent::Mouse, view()->viewport(),
+                   [](QMenu *menu) { QCOMPARE(menu->pos(), QCursor::pos()); });
+        verifySelected(300);
+    }
+
+    void theMenuKeyOpensAtTheSelectedRow_data()
+    {
+        QTest::addColumn<int>("selected");
+        QTest::newRow("selected") << 300;
+        QTest::newRow("scrolled out of view") << 1150;
+        QTest::newRow("collapsed") << 600;
+    }
+
+    void theMenuKeyOpensAtTheSelectedRow()
+    {
+        QFETCH(int, selected);
+        startWithTree();
+        // Leaves room for the whole menu below.
+        Fixture::window()->resize(700, 250);
+        QCoreApplication::processEvents();
+        addMany();
+        fork(300, 600);
+        list()->setFlat(false);
+        select(selected);
+        view()->verticalScrollBar()->setValue(0);
+        if (selected == 600) {
+            view()->collapse(list()->rowOfPid(300));
+        }
+        view()->horizontalScrollBar()->setValue(view()->horizontalScrollBar()->maximum());
+        QVERIFY(view()->horizontalScrollBar()->value() > 0);
+        QCursor::setPos(Fixture::window()->mapToGlobal(QPoint(1, 1)));
+        askForMenu(QContextMenuEvent::Keyboard, view(), [selected](QMenu *menu) {
+            const QRect row = view()->visualRect(list()->rowOfPid(selected));
+            QVERIFY(view()->viewport()->rect().intersects(row));
+            QCOMPARE(menu->pos(), view()->viewport()->mapToGlobal(row.bottomLeft()));
+            QVERIFY(killAction()->isVisible());
+        });
+        verifySelected(selected);
+        // The next one, by the mouse, is at the mouse again.
+        askForMenu(QContextMenuEvent::Mouse, view()->viewport(),
+                   [](QMenu *menu) { QCOMPARE(menu->pos(), QCursor::pos()); });
+    }
+
+    void theMenuKeyWithoutASelectionOpensAtTheMouse()
+    {
+        startWithTree();
+        QCursor::setPos(view()->viewport()->mapToGlobal(QPoint(90, 40)));
+        askForMenu(QContextMenuEvent::Keyboard, view(),
+                   [](QMenu *menu) { QCOMPARE(menu->pos(), QCursor::pos()); });
+    }
+
+private:
+    static QTreeView *view() { return Fixture::find<QTreeView>("treeView"); }
+    static ProxyProcModel *list() { return Fixture::processes(); }
+    static standin::Process &made(int pid) { return standin::machine().processes->at(pid); }
+    static QAction *killAction()
+    {
+        const QMenu *edit = Fixture::window()->menuBar()->actions().at(1)->menu();
+        for (QAction *action : edit->actions().at(1)->menu()->actions()) {
+            if (action->text() == QStringLiteral("Kill process")) {
+                return action;
+            }
+        }
+        return nullptr;
+    }
+
+    /// A tree in which each process of the fixture is the parent of the next. Only the test refreshes.
+    void startWithTree()
+    {
+        for (const int pid : {200, 300, 400}) {
+            made(pid).parent = pid - 100;
+        }
+        fixture->start(1);
+        Fixture::window()->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly)->stop();
+        Fixture::window()->resize(700, 500);
+        QCoreApplication::processEvents();
+        list()->setFlat(false);
+    }
+
+    static void fork(int parent, int child)
+    {
+        standin::Process process = made(parent);
+        process.parent = parent;
+        process.name = "child" + std::to_string(child);
+        standin::machine().processes->emplace(child, process);
+    }
+
+    /// Processes that stand at the top of the tree.
+    static void addMany()
+    {
+        for (int pid = 1000; pid < 1200; ++pid) {
+            fork(100, pid);
+            made(pid).parent = 1;
+        }
+    }
+
+    static void select(int pid)
+    {
+        view()->setCurrentIndex(list()->rowOfPid(pid));
+        verifySelected(pid);
+    }
+    /// Pid -1 means none.
+    static void verifySelected(int pid)
+    {
+        const QModelIndexList rows = view()->selectionModel()->selectedRows();
+        QCOMPARE(rows.size(), pid == -1 ? 0 : 1);
+        if (pid != -1) {
+            QCOMPARE(list()->processAt(rows.first()).pid(), pid);
+            QCOMPARE(list()->processAt(view()->currentIndex()).pid(), pid);
+        }
+    }
+    static bool isInView(int pid)
+    {
+        return view()->viewport()->rect().intersects(view()->visualRect(list()->rowOfPid(pid)));
+    }
+    static QPoint emptySpace()
+    {
+        const QPoint point = view()->viewport()->rect().center();
+        return view()->indexAt(point).isValid() ? QPoint() : point;
+    }
+
+    /// Sends the event that asks for the context menu, calls `act` and closes the menu.
+    static void askForMenu(QContextMenuEvent::Reason reason, QWidget *receiver,
+                           const std::function<void(QMenu *)> &act)
+    {
+        const ModalDriver driver([&](QWidget *widget) {
+            auto *menu = qobject_cast<QMenu *>(widget);
+            act(menu);
+            menu->close();
+        });
+        QContextMenuEvent event(reason, receiver->rect().center());
+        QApplication::sendEvent(receiver, &event);
+    }
+};
+
+QTEST_MAIN(TestListMenu)
+#include "test_listmenu.moc"
