@@ -4,6 +4,22 @@
 #include "process/fittingdelegate.h"
 #include "process/gtop_wrappers/filler.h"
 
+#include <QHeaderView>
+
+namespace {
+
+/// How many rows decide on the width of a column. Measuring a value that is read on demand reads it.
+int rowsToFit(int processColumn)
+{
+    constexpr int expensiveRows = 100;
+    constexpr int rows = 1000;
+    const bool isExpensive =
+        gtop_wrappers::ProcessFiller::instance()->isExpensive(static_cast<unsigned long>(processColumn));
+    return isExpensive ? expensiveRows : rows;
+}
+
+} // namespace
+
 ProxyProcModel::ProxyProcModel(QObject *parent)
     : QSortFilterProxyModel(parent), source(new ProcModel(parent)), delegate(new FittingDelegate(this)),
       expandAndFit(true), types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
@@ -52,6 +68,7 @@ void ProxyProcModel::expandAndFitView()
 {
     expandAll();
     for (int column = 0; column < columnCount(); ++column) {
+        view->header()->setResizeContentsPrecision(rowsToFit(source->processColumn(column)));
         delegate->beginColumn();
         view->resizeColumnToContents(column);
         delegate->endColumn();

@@ -44,6 +44,11 @@ bool ProcessFiller::isShownByDefault(unsigned long i) const
     return i < size() && columns()[i].visibility == ShownByDefault;
 }
 
+bool ProcessFiller::isExpensive(unsigned long i) const
+{
+    return i < size() && columns()[i].makeOnDemand;
+}
+
 std::map<int, Process> ProcessFiller::getProcesses(ProcessTypes types)
 {
     // Any value but MyProcesses lists all processes.

@@ -136,6 +136,18 @@ private Q_SLOTS:
         QCOMPARE(standin::calls().processData, 0U);
     }
 
+    void fittingTheColumnsReadsOnlyAFewCostlyValues()
+    {
+        showMany();
+        standin::machine().processes->at(1300).name = "longer than the others";
+        standin::resetCalls();
+        Fixture::processes()->setProcessTypes(AllProcesses); // reads state and time, and fits again
+        const unsigned costly = standin::calls().processData - 400 * 2;
+        QVERIFY2(costly >= 100 * 4 && costly < 300 * 4, qPrintable(QString::number(costly)));
+        const QFontMetrics metrics(view()->font());
+        QVERIFY(view()->columnWidth(0) > metrics.horizontalAdvance(QStringLiteral("longer than the")));
+    }
+
     void aHiddenListIsNotReadAhead()
     {
         showMany();
