@@ -54,16 +54,16 @@ std::tr1::shared_ptr<IntProcessParam> intParam(const Process &process, unsigned 
 }
 
 /// The nice value according to the kernel; if getpriority(2) fails, the one that was read with the process.
-int niceOf(const Process &process)
+int niceOf(const HeldProcess &process)
 {
-    if (process.pid() > 0) {
+    if (process.exists()) {
         errno = 0; // -1 is a valid nice value too
-        const int nice = getpriority(PRIO_PROCESS, static_cast<id_t>(process.pid()));
+        const int nice = getpriority(PRIO_PROCESS, static_cast<id_t>(process.process().pid()));
         if (errno == 0) {
             return nice;
         }
     }
-    const gtop_wrappers::ParamPtr nice = process.getParam(gtop_wrappers::NiceColumn);
+    const gtop_wrappers::ParamPtr nice = process.process().getParam(gtop_wrappers::NiceColumn);
     return nice ? nice->sortValue().toInt() : 0;
 }
 
@@ -279,23 +279,23 @@ bool ProcessMenu::confirmSignal(int signal, const Process &process)
                           QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;
 }
 
-/// Copies the process before the box opens: the selection can change while its event loop runs, and the
-/// signal must go to the process that the user was asked about.
+/// Holds the process before the box opens: while its event loop runs, the selection can change and the pid
+/// can go to another process, and the signal must go to the process that the user was asked about.
 void ProcessMenu::signalSelected(int signal)
 {
-    const Process process = selected;
-    if (confirmSignal(signal, process)) {
-        model->sendSignal(process, signal);
+    const HeldProcess asked(selected);
+    if (confirmSignal(signal, asked.process())) {
+        model->sendSignal(asked, signal);
     }
 }
 
 void ProcessMenu::changePriorityOfSelected()
 {
-    const Process process = selected;
-    const int current = niceOf(process);
-    DlgNice dialog(QApplication::activeWindow(), processLabel(process));
+    const HeldProcess asked(selected);
+    const int current = niceOf(asked);
+    DlgNice dialog(QApplication::activeWindow(), processLabel(asked.process()));
     const int chosen = dialog.askPriority(current);
     if (chosen != current) {
-        model->setPriority(process, chosen);
+        model->setPriority(asked, chosen);
     }
 }

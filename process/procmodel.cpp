@@ -2,15 +2,9 @@
 #include "process/procmodel.h"
 
 #include "process/gtop_wrappers/filler.h"
-#include "process/processbox.h"
-
-#include <signal.h>
-#include <sys/resource.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <unordered_set>
 
 using gtop_wrappers::Process;
@@ -34,24 +28,6 @@ bool isSameProcess(const Process &known, const Process &fresh)
         return true;
     }
     return known.getPPid() == fresh.getPPid() && known.getName() == fresh.getName();
-}
-
-void showError(const QString &whatFailed, int error, const Process &process)
-{
-    showProcessBox(QMessageBox::Warning, ProcModel::tr("Error"),
-                   whatFailed + QString::fromLocal8Bit(strerror(error)), process, QMessageBox::Ok,
-                   QMessageBox::Ok);
-}
-
-/// Runs a system call on one process and returns its errno, 0 for success. A pid of 0 or below would mean a
-/// process group or everyone, so it gives ESRCH without the call.
-template <typename Call>
-int onProcess(int pid, Call call)
-{
-    if (pid <= 0) {
-        return ESRCH;
-    }
-    return call() == -1 ? errno : 0;
 }
 
 } // namespace
@@ -201,12 +177,9 @@ void ProcModel::sendSignal(int pid, int signal)
     sendSignal(itemByPid(pid) ? processByPid(pid) : Process(pid), signal);
 }
 
-void ProcModel::sendSignal(const Process &process, int signal)
+void ProcModel::sendSignal(const HeldProcess &process, int signal)
 {
-    const int pid = process.pid();
-    if (const int error = onProcess(pid, [&] { return kill(pid, signal); })) {
-        showError(tr("Unable send signal to process. Reason - "), error, process);
-    }
+    ::sendSignal(process, signal);
 }
 
 void ProcModel::setPriority(int pid, int priority)
@@ -214,13 +187,9 @@ void ProcModel::setPriority(int pid, int priority)
     setPriority(itemByPid(pid) ? processByPid(pid) : Process(pid), priority);
 }
 
-void ProcModel::setPriority(const Process &process, int priority)
+void ProcModel::setPriority(const HeldProcess &process, int priority)
 {
-    const int pid = process.pid();
-    const auto call = [&] { return setpriority(PRIO_PROCESS, static_cast<id_t>(pid), priority); };
-    if (const int error = onProcess(pid, call)) {
-        showError(tr("Unable change priority. Reason - "), error, process);
-    }
+    ::setPriority(process, priority);
 }
 
 Process ProcModel::processByPid(int pid) const

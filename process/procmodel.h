@@ -3,6 +3,7 @@
 #define PROCESS_PROCMODEL_H
 
 #include "process/gtop_wrappers/process.h"
+#include "process/processcontrol.h"
 #include "process/procitem.h"
 
 #include <QAbstractItemModel>
@@ -54,14 +55,12 @@ public:
     /// refresh, in the unit of Process::getCpuLoad(). The third argument is required, but unused.
     void update(const Snapshot &snapshot, unsigned long totalDelta, int = 0);
 
-    /// kill(2); a failure opens a warning box. A pid of 0 or below, which would mean a process group or
-    /// everyone, fails as ESRCH without the call.
+    // As in processcontrol.h. A pid means the process that the model has under it or, if there is none, the
+    // pid itself.
     void sendSignal(int pid, int signal);
-    /// The same for a process that may have left the model; the box names it all the same.
-    void sendSignal(const gtop_wrappers::Process &process, int signal);
-    /// setpriority(2) on one process, nice value -20 to 19. Fails like sendSignal().
+    void sendSignal(const HeldProcess &process, int signal);
     void setPriority(int pid, int priority);
-    void setPriority(const gtop_wrappers::Process &process, int priority);
+    void setPriority(const HeldProcess &process, int priority);
 
     /// A copy of the process; Process(-1) if it is not in the model.
     gtop_wrappers::Process processByPid(int pid) const;

@@ -154,7 +154,7 @@ void ProxyProcModel::sendSignal(int pid, int signal)
     source->sendSignal(pid, signal);
 }
 
-void ProxyProcModel::sendSignal(const gtop_wrappers::Process &process, int signal)
+void ProxyProcModel::sendSignal(const HeldProcess &process, int signal)
 {
     source->sendSignal(process, signal);
 }
@@ -164,7 +164,7 @@ void ProxyProcModel::setPriority(int pid, int priority)
     source->setPriority(pid, priority);
 }
 
-void ProxyProcModel::setPriority(const gtop_wrappers::Process &process, int priority)
+void ProxyProcModel::setPriority(const HeldProcess &process, int priority)
 {
     source->setPriority(process, priority);
 }

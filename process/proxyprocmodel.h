@@ -54,9 +54,9 @@ public:
     /// First cell of the process's row; invalid if it has none.
     QModelIndex rowOfPid(int pid) const { return mapFromSource(source->indexOfPid(pid)); }
     void sendSignal(int pid, int signal);
-    void sendSignal(const gtop_wrappers::Process &process, int signal);
+    void sendSignal(const HeldProcess &process, int signal);
     void setPriority(int pid, int priority);
-    void setPriority(const gtop_wrappers::Process &process, int priority);
+    void setPriority(const HeldProcess &process, int priority);
 
     void expandAll();
     void collapseAll();

@@ -2,27 +2,7 @@
 #include "tests/process/support/control.h"
 #include "tests/process/support/menus.h"
 
-#include <QSlider>
-
 namespace {
-
-/// Moves the slider of the priority dialog and presses OK.
-ModalDriver::Handler choosing(int nice, int *shown = nullptr)
-{
-    return [nice, shown](QWidget *dialog) {
-        auto *slider = dialog->findChild<QSlider *>();
-        if (shown) {
-            *shown = slider->value();
-        }
-        slider->setValue(slider->value() == 20 ? -20 : 20);
-        slider->setValue(nice);
-        for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
-            if (button->isDefault()) {
-                button->click();
-            }
-        }
-    };
-}
 
 int exitedPid()
 {

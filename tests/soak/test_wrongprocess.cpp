@@ -50,14 +50,24 @@ private Q_SLOTS:
     void aChangeWhileTheBoxIsOpenDoesNotRedirectTheSignal()
     {
         QFETCH(Change, change);
+        QFETCH(bool, lives);
         QVERIFY(killAction()->isVisible());
-        const ModalDriver driver([&](QWidget *dialog) {
+        const auto confirm = [&](QWidget *dialog) {
             change();
             pressing(QMessageBox::Ok)(dialog);
-        });
+        };
+        SeenBox error;
+        std::vector<ModalDriver::Handler> answers{confirm};
+        if (!lives) {
+            answers.push_back(pressing(QMessageBox::Ok, &error));
+        }
+        const ModalDriver driver(answers);
         killAction()->trigger();
-        QCOMPARE(asked->waitForSignal(), SIGKILL);
+        QCOMPARE(asked->endAndTell(), lives ? SIGKILL : SIGVTALRM);
         QCOMPARE(other->endAndTell(), SIGVTALRM);
+        QCOMPARE(error.text, lives
+                                 ? QString()
+                                 : QStringLiteral("Unable send signal to process. Reason - No such process"));
     }
 
     void aChangeBeforeTheActionDoesNotRedirectTheSignal_data() { changesOfTheList(); }
@@ -113,9 +123,18 @@ private:
     {
         QTest::addColumn<Change>("change");
         QTest::addColumn<bool>("keepsItsRow");
-        addLoss("pid reused by another program", [this] {
+        QTest::addColumn<bool>("lives");
+        addEnd("pid reused by another program", [this] {
             processes()[asked->pid()].startTime += 100;
             runProgram("newcomer");
+        });
+        addEnd("pid reused by the same program", [this] {
+            processes()[asked->pid()].startTime += 100;
+            refresh(*fixture);
+        });
+        addEnd("exited", [this] {
+            processes().erase(asked->pid());
+            refresh(*fixture);
         });
         addLoss("exec", [this] { runProgram("execed"); });
         addChange("exec a while ago", [this] {
@@ -128,10 +147,9 @@ private:
         });
         addLoss("left the list", [this] { leaveList(); });
         addLoss("left the list and came back", [this] {
-            const standin::Process kept = processes()[asked->pid()];
             leaveList();
             refresh(*fixture);
-            processes()[asked->pid()] = kept;
+            processes()[asked->pid()].uid = static_cast<int>(getuid());
             refresh(*fixture);
         });
         addChange("column toggled",
@@ -151,12 +169,14 @@ private:
         });
     }
 
-    static void addChange(const char *name, const Change &change, bool keepsItsRow = true)
+    static void addChange(const char *name, const Change &change, bool keepsItsRow = true, bool lives = true)
     {
-        QTest::newRow(name) << change << keepsItsRow;
+        QTest::newRow(name) << change << keepsItsRow << lives;
     }
     /// For changes that end the selection, or interrupt it until the next refresh.
     static void addLoss(const char *name, const Change &change) { addChange(name, change, false); }
+    /// For changes that end the process.
+    static void addEnd(const char *name, const Change &change) { addChange(name, change, false, false); }
     static void toggleTree() { processList()->setFlat(!processList()->isFlat()); }
 
     void runProgram(const std::string &name)
@@ -166,9 +186,10 @@ private:
         refresh(*fixture);
     }
 
+    /// It runs on as another user.
     void leaveList()
     {
-        processes().erase(asked->pid());
+        processes()[asked->pid()].uid = 65534;
         refresh(*fixture);
     }
 

@@ -8,7 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-Child::Child(uid_t user) : id(-1), ended(false)
+Child::Child(uid_t user, const char *program) : id(-1), ended(false)
 {
     int started[2];
     if (pipe2(started, O_CLOEXEC) != 0) {
@@ -18,7 +18,7 @@ Child::Child(uid_t user) : id(-1), ended(false)
     if (id == 0) {
         setpgid(0, 0);
         if (user == 0 || setuid(user) == 0) {
-            execl("/bin/sleep", "sleep", "1000", nullptr);
+            execl(program, program, "1000", nullptr);
         }
         _exit(1);
     }

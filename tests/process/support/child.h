@@ -10,8 +10,8 @@
 class Child
 {
 public:
-    /// Runs as `user`; 0 means the user of the test.
-    explicit Child(uid_t user = 0);
+    /// Runs as `user`; 0 means the user of the test. `program` is sleep(1), perhaps by another name.
+    explicit Child(uid_t user = 0, const char *program = "/bin/sleep");
     ~Child();
 
     pid_t pid() const { return id; }

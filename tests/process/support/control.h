@@ -5,6 +5,8 @@
 #include "tests/process/support/child.h"
 #include "tests/support/modal.h"
 
+#include <QSlider>
+
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -30,6 +32,24 @@ public:
 inline int niceOf(pid_t pid)
 {
     return getpriority(PRIO_PROCESS, static_cast<id_t>(pid));
+}
+
+/// Moves the slider of the priority dialog and presses OK.
+inline ModalDriver::Handler choosing(int nice, int *shown = nullptr)
+{
+    return [nice, shown](QWidget *dialog) {
+        auto *slider = dialog->findChild<QSlider *>();
+        if (shown) {
+            *shown = slider->value();
+        }
+        slider->setValue(slider->value() == 20 ? -20 : 20);
+        slider->setValue(nice);
+        for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
+            if (button->isDefault()) {
+                button->click();
+            }
+        }
+    };
 }
 
 inline void verifyErrorBox(const SeenBox &seen, const char *text)
