@@ -56,9 +56,7 @@ void Updater::updateMainMenu()
 
 void Updater::updateProcessActions()
 {
-    const bool selected = ui.treeView->selectionModel()->hasSelection();
-    const QModelIndex index = selected ? ui.treeView->currentIndex() : QModelIndex();
-    processMenu->setProcess(procModel->processAt(index));
+    processMenu->setProcess(procModel->processAt(selectedRow(*ui.treeView)));
 }
 
 void Updater::popup()

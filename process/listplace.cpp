@@ -6,6 +6,8 @@
 #include <QScrollBar>
 #include <QTreeView>
 
+#include <algorithm>
+
 using gtop_wrappers::Process;
 
 namespace {
@@ -93,8 +95,16 @@ void ListPlace::restoreView(const ProxyProcModel &model, QTreeView &view) const
 
 QModelIndex selectedRow(const QTreeView &view)
 {
-    const bool hasSelection = view.selectionModel()->hasSelection();
-    return hasSelection ? view.currentIndex().siblingAtColumn(0) : QModelIndex();
+    const QModelIndex current = view.currentIndex().siblingAtColumn(0);
+    const QModelIndexList cells = view.selectionModel()->selectedIndexes();
+    const auto isIn = [](const QModelIndex &row) {
+        return [row](const QModelIndex &cell) { return cell.siblingAtColumn(0) == row; };
+    };
+    if (std::any_of(cells.begin(), cells.end(), isIn(current))) {
+        return current;
+    }
+    const QModelIndex first = cells.isEmpty() ? QModelIndex() : cells.first().siblingAtColumn(0);
+    return std::all_of(cells.begin(), cells.end(), isIn(first)) ? first : QModelIndex();
 }
 
 void readCellsInView(const QTreeView &view)

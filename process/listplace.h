@@ -37,7 +37,9 @@ private:
     int horizontalValue;
 };
 
-/// First cell of the selected row; invalid without a selection.
+/// First cell of the selected row; invalid without a selection. The current index is mostly in that row, but
+/// an assistive technology selects without moving it. Of several selected rows the current one counts; if
+/// none of them is the current one, it is unknown which is meant, and none counts.
 QModelIndex selectedRow(const QTreeView &view);
 
 /// Reads the values of the cells in view that are read on demand. Left to painting, they could be of a

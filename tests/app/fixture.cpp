@@ -5,8 +5,8 @@
 
 #include <QLabel>
 #include <QTabWidget>
-#include <QTreeView>
 #include <QVBoxLayout>
+#include <QtTest>
 
 #include <arpa/inet.h>
 #include <unistd.h>
@@ -112,4 +112,20 @@ int Fixture::drawnSamples()
 QString Fixture::settingsFile()
 {
     return QSettings().fileName();
+}
+
+void ControllerTest::select(int pid)
+{
+    view()->setCurrentIndex(list()->rowOfPid(pid));
+    verifySelected(pid);
+}
+
+void ControllerTest::verifySelected(int pid)
+{
+    const QModelIndexList rows = view()->selectionModel()->selectedRows();
+    QCOMPARE(rows.size(), pid == -1 ? 0 : 1);
+    if (pid != -1) {
+        QCOMPARE(list()->processAt(rows.first()).pid(), pid);
+        QCOMPARE(list()->processAt(view()->currentIndex()).pid(), pid);
+    }
 }

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTreeView>
 
 #include <memory>
 
@@ -67,6 +68,15 @@ protected Q_SLOTS:
     void cleanup() { fixture.reset(); }
 
 protected:
+    /// The process list and its model, and a process of the made-up machine.
+    static QTreeView *view() { return Fixture::find<QTreeView>("treeView"); }
+    static ProxyProcModel *list() { return Fixture::processes(); }
+    static standin::Process &made(int pid) { return standin::machine().processes->at(pid); }
+    /// Selects the row of a process, which must have one.
+    static void select(int pid);
+    /// The row of that process, and no other, is selected and the current one; -1: none is selected.
+    static void verifySelected(int pid);
+
     std::unique_ptr<Fixture> fixture;
 };
 

@@ -303,9 +303,6 @@ private Q_SLOTS:
     }
 
 private:
-    static QTreeView *view() { return Fixture::find<QTreeView>("treeView"); }
-    static ProxyProcModel *list() { return Fixture::processes(); }
-    static standin::Process &made(int pid) { return standin::machine().processes->at(pid); }
     static void toggle(unsigned long column)
     {
         list()->setColumnVisible(column, !list()->isColumnVisible(column));
@@ -362,21 +359,6 @@ private:
         QCoreApplication::processEvents();
     }
 
-    static void select(int pid)
-    {
-        view()->setCurrentIndex(list()->rowOfPid(pid));
-        verifySelected(pid);
-    }
-    /// Pid -1 means none.
-    static void verifySelected(int pid)
-    {
-        const QModelIndexList rows = view()->selectionModel()->selectedRows();
-        QCOMPARE(rows.size(), pid == -1 ? 0 : 1);
-        if (pid != -1) {
-            QCOMPARE(list()->processAt(rows.first()).pid(), pid);
-            QCOMPARE(list()->processAt(view()->currentIndex()).pid(), pid);
-        }
-    }
     static int top() { return list()->processAt(view()->indexAt(QPoint(0, 0))).pid(); }
     static QList<int> pids()
     {

@@ -262,10 +262,72 @@ private Q_SLOTS:
                    [](QMenu *menu) { QCOMPARE(menu->pos(), QCursor::pos()); });
     }
 
+    void theSelectedRowCountsWhereAnotherIsCurrent_data()
+    {
+        QTest::addColumn<bool>("byAssistiveTechnology");
+        QTest::newRow("assistive technology") << true;
+        QTest::newRow("selection model") << false;
+    }
+
+    void theSelectedRowCountsWhereAnotherIsCurrent()
+    {
+        QFETCH(bool, byAssistiveTechnology);
+        startWithTree();
+        list()->setFlat(true);
+        select(100);
+        highlight(300, byAssistiveTechnology);
+        verifyActsOn(300, 100);
+        highlight(400, byAssistiveTechnology);
+        verifyActsOn(400, 100);
+        fixture->refresh(1);
+        verifyActsOn(400, 100);
+        askForMenu(QContextMenuEvent::Keyboard, view(), [](QMenu *menu) {
+            const QRect row = view()->visualRect(list()->rowOfPid(400));
+            QCOMPARE(menu->pos(), view()->viewport()->mapToGlobal(row.bottomLeft()));
+        });
+        list()->setFlat(false); // makes all rows anew
+        verifySelected(400);
+        list()->setFlat(true);
+        highlight(300, byAssistiveTechnology);
+        standin::machine().processes->erase(400); // the current row
+        fixture->refresh(1);
+        verifySelected(300);
+        verifyActsOn(300, 300);
+        highlight(200, byAssistiveTechnology);
+        standin::machine().processes->erase(200); // the selected row
+        fixture->refresh(1);
+        verifySelected(-1);
+        QVERIFY(!killAction()->isVisible());
+    }
+
 private:
-    static QTreeView *view() { return Fixture::find<QTreeView>("treeView"); }
-    static ProxyProcModel *list() { return Fixture::processes(); }
-    static standin::Process &made(int pid) { return standin::machine().processes->at(pid); }
+    /// Selects the row without making it current.
+    static void highlight(int pid, bool byAssistiveTechnology)
+    {
+        const QModelIndex row = list()->rowOfPid(pid);
+        if (byAssistiveTechnology) {
+            QAccessibleInterface *table = QAccessible::queryAccessibleInterface(view());
+            QVERIFY(table->tableInterface()->selectRow(row.row()));
+        } else {
+            view()->selectionModel()->select(row,
+                                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        }
+        QVERIFY(view()->selectionModel()->isRowSelected(row.row(), QModelIndex()));
+    }
+
+    /// The question of the action is about the process, while the row of another one is current.
+    static void verifyActsOn(int pid, int current)
+    {
+        QCOMPARE(list()->processAt(view()->currentIndex()).pid(), current);
+        QString named;
+        const ModalDriver driver([&](QWidget *dialog) {
+            named = qobject_cast<QMessageBox *>(dialog)->informativeText();
+            dialog->close();
+        });
+        killAction()->trigger();
+        QCOMPARE(named, QStringLiteral("made-up%1 (%1)").arg(pid));
+    }
+
     static QAction *killAction()
     {
         const QMenu *edit = Fixture::window()->menuBar()->actions().at(1)->menu();
@@ -307,21 +369,6 @@ private:
         }
     }
 
-    static void select(int pid)
-    {
-        view()->setCurrentIndex(list()->rowOfPid(pid));
-        verifySelected(pid);
-    }
-    /// Pid -1 means none.
-    static void verifySelected(int pid)
-    {
-        const QModelIndexList rows = view()->selectionModel()->selectedRows();
-        QCOMPARE(rows.size(), pid == -1 ? 0 : 1);
-        if (pid != -1) {
-            QCOMPARE(list()->processAt(rows.first()).pid(), pid);
-            QCOMPARE(list()->processAt(view()->currentIndex()).pid(), pid);
-        }
-    }
     static bool isInView(int pid)
     {
         return view()->viewport()->rect().intersects(view()->visualRect(list()->rowOfPid(pid)));

@@ -290,6 +290,26 @@ private Q_SLOTS:
         QVERIFY(list.view.currentIndex().isValid());
         QVERIFY(!selectedRow(list.view).isValid());
     }
+
+    void aSelectedRowCountsEvenIfItIsNotTheCurrentOne()
+    {
+        Processes list;
+        list.refresh({{1, 0}, {2, 0}, {3, 0}});
+        const auto highlight = [&list](int row, QItemSelectionModel::SelectionFlags how) {
+            list.view.selectionModel()->select(list.proxy->index(row, 3), how);
+        };
+        highlight(1, QItemSelectionModel::Select); // a single cell
+        QVERIFY(!list.view.currentIndex().isValid());
+        QCOMPARE(selectedRow(list.view), list.proxy->index(1, 0));
+        list.select(1);
+        highlight(2, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        QCOMPARE(list.view.currentIndex().row(), 0);
+        QCOMPARE(selectedRow(list.view), list.proxy->index(2, 0));
+        highlight(1, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        QVERIFY(!selectedRow(list.view).isValid()); // either could be meant
+        highlight(0, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        QCOMPARE(selectedRow(list.view), list.proxy->index(0, 0));
+    }
 };
 
 QTEST_MAIN(TestListPlace)
