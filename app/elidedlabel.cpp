@@ -46,9 +46,13 @@ bool ElidedLabel::event(QEvent *event)
     return QLabel::event(event);
 }
 
-void ElidedLabel::paintEvent(QPaintEvent * /*event*/)
+void ElidedLabel::paintEvent(QPaintEvent *event)
 {
     updateToolTip();
+    if (textInteractionFlags() & Qt::TextSelectableByMouse) {
+        QLabel::paintEvent(event); // shows what is selected, of the whole text
+        return;
+    }
     // As QLabel does, the text is aligned by its own direction, not by the window's.
     const int direction = text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
     QPainter painter(this);

@@ -68,6 +68,7 @@ void Updater::startTimer()
 
 void Updater::showWindow()
 {
+    finishLabels();
     stage = Stage::WindowShown;
     reading.clear();
     mainWindow.show();

@@ -86,6 +86,7 @@ private:
     void paintColorKeys();
     void connectWindow();
     void followProcessSelection();
+    void finishLabels();
     // updater_menus.cpp
     void buildMenus();
     void buildFileMenu();

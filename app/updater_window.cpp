@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/decorative.h"
 #include "app/followup.h"
 #include "app/listmenutrigger.h"
+#include "app/selectablevalues.h"
 #include "app/updater.h"
 #include "fs/chart.h"
 #include "fs/proxyfsmodel.h"
@@ -27,6 +29,21 @@ QPixmap colorKey(QPixmap &pixmap, const QColor &color)
     painter.setBrush(color);
     painter.drawRect(0, 0, 14, 14);
     return pixmap;
+}
+
+/// A label aligns its text by the text's direction. In a mirrored window a Latin text would stand at the far
+/// end of its cell.
+void alignByWindow(QLabel *label)
+{
+    if (label->isRightToLeft() && label->pixmap(Qt::ReturnByValue).isNull()) {
+        label->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
+    }
+}
+
+/// The Tab key stops at the values of the form, but not at those of the cores, which can be thousands.
+Qt::FocusPolicy focusPolicyOf(const QLabel *value)
+{
+    return value->objectName().isEmpty() ? Qt::ClickFocus : Qt::StrongFocus;
 }
 
 } // namespace
@@ -75,6 +92,22 @@ void Updater::paintColorKeys()
     pixmap.fill(Qt::transparent);
     ui.lblUsedColor->setPixmap(colorKey(pixmap, Chart::usedColor()));
     ui.lblAvailColor->setPixmap(colorKey(pixmap, Chart::availColor()));
+}
+
+/// For the labels of the form and those of the cores: a value is the buddy of its caption.
+void Updater::finishLabels()
+{
+    for (QLabel *picture : {ui.label_27, ui.lblUsedColor, ui.lblAvailColor}) {
+        hideFromAssistiveTechnology(picture);
+    }
+    auto *selectable = new SelectableValues(this);
+    selectable->add(ui.lblHost, Qt::StrongFocus);
+    for (QLabel *label : mainWindow.findChildren<QLabel *>()) {
+        alignByWindow(label);
+        if (auto *value = qobject_cast<QLabel *>(label->buddy())) {
+            selectable->add(value, focusPolicyOf(value));
+        }
+    }
 }
 
 void Updater::connectWindow()

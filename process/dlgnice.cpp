@@ -58,7 +58,9 @@ QGridLayout *DlgNice::makeGrid(QSlider *slider)
     valueLabel = new QLabel;
     grid->addWidget(valueLabel, 0, 1, Qt::AlignHCenter | Qt::AlignBottom);
     grid->addWidget(slider, 1, 1);
-    grid->addWidget(new QLabel(tr("Priority")), 1, 0);
+    auto *caption = new QLabel(tr("Priority"));
+    caption->setBuddy(slider); // also names it for assistive technology
+    grid->addWidget(caption, 1, 0);
     descriptionLabel = new QLabel;
     grid->addWidget(descriptionLabel, 2, 1, Qt::AlignHCenter | Qt::AlignTop);
     return grid;

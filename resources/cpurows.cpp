@@ -22,10 +22,12 @@ void addCpuModelRows(QGridLayout *glGeneral, int cpuCount, const QString &model)
 {
     const QString caption = QCoreApplication::translate("Updater", "CPU ");
     for (int i = 1; i <= cpuCount; ++i) {
-        glGeneral->addWidget(new QLabel(caption + QString::number(i), glGeneral->parentWidget()), i + 6, 1);
+        auto *number = new QLabel(caption + QString::number(i), glGeneral->parentWidget());
+        glGeneral->addWidget(number, i + 6, 1);
         auto *value = new QLabel(model, glGeneral->parentWidget());
         value->setTextFormat(Qt::PlainText);
         glGeneral->addWidget(value, i + 6, 3);
+        number->setBuddy(value);
     }
 }
 
@@ -41,7 +43,7 @@ void createCpuRows(QGridLayout *glState, std::vector<CpuRec> &records)
         glState->addWidget(rec.captionLabel, number + 2, 1);
         glState->addWidget(rec.percentLabel, number + 2, 2);
         glState->addWidget(rec.gauge, number + 2, 3);
-        rec.captionLabel->setBuddy(rec.gauge);
+        rec.captionLabel->setBuddy(rec.percentLabel);
         rec.gauge->setAccessibleName(rec.captionLabel->text());
         ++number;
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "resources/qprog.h"
 
+#include "resources/gaugeaccess.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPen>
@@ -82,6 +84,7 @@ QString qprog::shareText(double min, double max, double value)
 
 QProg::QProg(QWidget *parent) : QLabel(parent)
 {
+    GaugeAccess::install();
     updateGeometry();
     rangeOrValueChanged();
 }
@@ -105,6 +108,8 @@ void QProg::setValue(double v)
     } else {
         currentValue = v;
     }
+    QAccessibleValueChangeEvent event(this, currentValue);
+    QAccessible::updateAccessibility(&event);
     rangeOrValueChanged();
 }
 

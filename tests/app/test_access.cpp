@@ -25,6 +25,72 @@ private Q_SLOTS:
         QCOMPARE(told(gauge(3), QAccessible::Description), QStringLiteral("50 %"));
     }
 
+    void gaugesAreProgressBarsWithAReadOnlyValue()
+    {
+        fixture->start(0);
+        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(gauge(2));
+        QCOMPARE(interface->role(), QAccessible::ProgressBar);
+        QAccessibleValueInterface *value = interface->valueInterface();
+        QVERIFY(value);
+        QCOMPARE(value->minimumValue().toDouble(), 0.0);
+        QCOMPARE(value->maximumValue().toDouble(), 100.0);
+        QCOMPARE(value->minimumStepSize().toDouble(), 0.0);
+        QCOMPARE(value->currentValue().toDouble(), 43.0);
+        value->setCurrentValue(7.0);
+        QCOMPARE(value->currentValue().toDouble(), 43.0);
+    }
+
+    void loadsAndModelsAreLabelledByTheirCore_data()
+    {
+        QTest::addColumn<QString>("grid");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("load of the first core") << "glState" << 3 << 2 << "CPU core 1 load";
+        QTest::newRow("load of the second core") << "glState" << 4 << 2 << "CPU core 2 load";
+        QTest::newRow("model of the first core") << "glGeneral" << 7 << 3 << "CPU 1";
+        QTest::newRow("model of the second core") << "glGeneral" << 8 << 3 << "CPU 2";
+    }
+
+    void loadsAndModelsAreLabelledByTheirCore()
+    {
+        QFETCH(QString, grid);
+        QFETCH(int, row);
+        QFETCH(int, column);
+        QFETCH(QString, caption);
+        fixture->start(0);
+        QWidget *value = Fixture::find<QGridLayout>(qPrintable(grid))->itemAtPosition(row, column)->widget();
+        const auto relations = QAccessible::queryAccessibleInterface(value)->relations(QAccessible::Label);
+        QCOMPARE(relations.size(), 1);
+        QCOMPARE(relations.first().first->text(QAccessible::Name), caption);
+    }
+
+    void logoAndColorKeysAreDecoration()
+    {
+        fixture->start(2);
+        for (const char *picture : {"label_27", "lblUsedColor", "lblAvailColor"}) {
+            QAccessibleInterface *interface =
+                QAccessible::queryAccessibleInterface(Fixture::find<QWidget>(picture));
+            QVERIFY(interface->state().invisible);
+            QCOMPARE(interface->text(QAccessible::Name), QString());
+        }
+        QVERIFY(!QAccessible::queryAccessibleInterface(Fixture::find<QWidget>("lblUsed"))->state().invisible);
+    }
+
+    void headingsCaptionsAndValuesStandOnOneSideOfAMirroredWindow()
+    {
+        QApplication::setLayoutDirection(Qt::RightToLeft);
+        fixture->start(0);
+        for (const QLabel *label : Fixture::window()->findChildren<QLabel *>()) {
+            const bool isText = !label->text().isEmpty();
+            QVERIFY2(!isText || label->alignment() == (Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter),
+                     qPrintable(label->text()));
+        }
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        fixture->start(0);
+        QCOMPARE(Fixture::find<QLabel>("label_2")->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    }
+
     void viewsAreNamedAndChartAndGraphTellWhatTheyShow()
     {
         fixture->start(2);
@@ -87,10 +153,17 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("page");
         QTest::addColumn<QStringList>("order");
-        QTest::newRow("General") << 0 << QStringList({"qt_tabwidget_tabbar", "generalScroll"});
+        QTest::newRow("General") << 0
+                                 << QStringList({"qt_tabwidget_tabbar", "generalScroll", "lblHost",
+                                                 "lblSystem", "lblKernel", "lblArch", "lblMemTotal",
+                                                 "lblDiskFree", "lblMemFree"});
         QTest::newRow("Processes") << 1 << QStringList({"qt_tabwidget_tabbar", "treeView"});
-        QTest::newRow("File systems") << 2 << QStringList({"qt_tabwidget_tabbar", "tableFS"});
-        QTest::newRow("Network") << 3 << QStringList({"qt_tabwidget_tabbar", "comboNet"});
+        QTest::newRow("File systems") << 2
+                                      << QStringList({"qt_tabwidget_tabbar", "tableFS", "lblMountPoint",
+                                                      "lblTotal", "lblUsed", "lblAvail", "lblFsType"});
+        QTest::newRow("Network") << 3
+                                 << QStringList({"qt_tabwidget_tabbar", "comboNet", "netAdress", "netMask",
+                                                 "netIn", "netOut", "netErrors"});
     }
 
     void tabKeyReachesEveryControlOfAPage()

@@ -2,6 +2,7 @@
 #include "process/dlgnice.h"
 #include "tests/support/modal.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QGridLayout>
@@ -90,6 +91,8 @@ private Q_SLOTS:
             QCOMPARE(parts.grid->itemAtPosition(0, 1)->alignment(), Qt::AlignHCenter | Qt::AlignBottom);
             QCOMPARE(parts.grid->itemAtPosition(2, 1)->alignment(), Qt::AlignHCenter | Qt::AlignTop);
             QCOMPARE(parts.caption->text(), QStringLiteral("Priority"));
+            QCOMPARE(QAccessible::queryAccessibleInterface(parts.slider)->text(QAccessible::Name),
+                     QStringLiteral("Priority"));
             QCOMPARE(parts.slider->orientation(), Qt::Horizontal);
             QCOMPARE(parts.slider->minimum(), -20);
             QCOMPARE(parts.slider->maximum(), 20);

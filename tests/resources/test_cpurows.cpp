@@ -97,7 +97,7 @@ private Q_SLOTS:
                 count == 1 ? QString("CPU load") : QString("CPU core %1 load").arg(row - 2);
             QCOMPARE(rec.captionLabel->text(), caption);
             QCOMPARE(rec.gauge->accessibleName(), caption);
-            QCOMPARE(rec.captionLabel->buddy(), static_cast<QWidget *>(rec.gauge));
+            QCOMPARE(rec.captionLabel->buddy(), static_cast<QWidget *>(rec.percentLabel));
             const QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed, QSizePolicy::DefaultType);
             QCOMPARE(rec.gauge->sizePolicy(), policy);
             ++row;
