@@ -4,7 +4,7 @@
 
 class QWidget;
 
-/// Hides a picture that says nothing from assistive technology, which would announce it as an image.
+/// Hides a picture or a spacer that says nothing from assistive technology, which would announce it.
 void hideFromAssistiveTechnology(QWidget *picture);
 
 #endif

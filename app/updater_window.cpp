@@ -97,8 +97,9 @@ void Updater::paintColorKeys()
 /// For the labels of the form and those of the cores: a value is the buddy of its caption.
 void Updater::finishLabels()
 {
-    for (QLabel *picture : {ui.label_27, ui.lblUsedColor, ui.lblAvailColor}) {
-        hideFromAssistiveTechnology(picture);
+    for (QLabel *silent : {ui.label_13, ui.label_14, ui.label_15, ui.label_27, ui.lblUsedColor,
+                           ui.lblAvailColor}) { // spacers and pictures
+        hideFromAssistiveTechnology(silent);
     }
     auto *selectable = new SelectableValues(this);
     selectable->add(ui.lblHost, Qt::StrongFocus);

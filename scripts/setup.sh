@@ -9,8 +9,9 @@ window_packages=(xvfb xauth openbox xdotool imagemagick x11-utils fonts-dejavu-c
 check_packages=(appstream desktop-file-utils file man-db valgrind iproute2 e2fsprogs)
 # Pinned to the versions of Debian 12: other versions format and warn differently.
 style_packages=(clang-format-14 clang-tidy-14)
-# For the test of the geometry under Wayland, which is skipped without them.
+# For tests under Wayland and of what assistive technology sees, which are skipped without them.
 wayland_packages=(weston qtwayland5)
+assistive_packages=(at-spi2-core dbus)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 
 # missing_packages <package>...: prints those that are not installed, one per line.

@@ -65,10 +65,11 @@ private Q_SLOTS:
         QCOMPARE(relations.first().first->text(QAccessible::Name), caption);
     }
 
-    void logoAndColorKeysAreDecoration()
+    void picturesAndSpacersAreHidden()
     {
         fixture->start(2);
-        for (const char *picture : {"label_27", "lblUsedColor", "lblAvailColor"}) {
+        for (const char *picture :
+             {"label_13", "label_14", "label_15", "label_27", "lblUsedColor", "lblAvailColor"}) {
             QAccessibleInterface *interface =
                 QAccessible::queryAccessibleInterface(Fixture::find<QWidget>(picture));
             QVERIFY(interface->state().invisible);
