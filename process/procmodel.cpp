@@ -5,32 +5,9 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <unordered_set>
 
 using gtop_wrappers::Process;
 using gtop_wrappers::ProcessFiller;
-
-namespace {
-
-/// Shortcut for isSameProcess(): unchanged values are mostly the same objects in successive snapshots.
-bool sharesIdentity(const Process &known, const Process &fresh)
-{
-    using namespace gtop_wrappers;
-    return known.params.size() == ColumnCount && fresh.params.size() == ColumnCount &&
-           known.params[NameColumn] == fresh.params[NameColumn] &&
-           known.params[ParentPidColumn] == fresh.params[ParentPidColumn];
-}
-
-/// False if the pid was reused by another program or the process was reparented.
-bool isSameProcess(const Process &known, const Process &fresh)
-{
-    if (sharesIdentity(known, fresh)) {
-        return true;
-    }
-    return known.getPPid() == fresh.getPPid() && known.getName() == fresh.getName();
-}
-
-} // namespace
 
 ProcModel::ProcModel(QObject *parent)
     : QAbstractItemModel(parent), root(new ProcItem(QList<QVariant>(), nullptr)), flat(true),
@@ -151,27 +128,6 @@ void ProcModel::clear()
     endResetModel();
 }
 
-void ProcModel::update(const Snapshot &snapshot, unsigned long totalDelta, int)
-{
-    // QSortFilterProxyModel and QTreeView keep stale mappings if rows are inserted or removed between the two
-    // layout signals, so mismatched rows are removed before them.
-    const Matches matches = matchSnapshot(snapshot);
-    Q_EMIT layoutAboutToBeChanged();
-    updateKnown(matches.known, totalDelta);
-    Q_EMIT layoutChanged(); // also replaces dataChanged(): proxy and view re-read everything
-
-    for (const Process *process : matches.fresh) {
-        insertWithAncestors(*process, snapshot, totalDelta);
-    }
-    // Intentional: a mismatched process, removed and reinserted above, is still stale, so it is removed again
-    // here and comes back with the next refresh.
-    for (const int pid : matches.stale) {
-        if (ProcItem *item = itemByPid(pid)) {
-            removeSubtree(item);
-        }
-    }
-}
-
 void ProcModel::sendSignal(int pid, int signal)
 {
     sendSignal(itemByPid(pid) ? processByPid(pid) : Process(pid), signal);
@@ -244,131 +200,6 @@ QModelIndex ProcModel::indexOf(const ProcItem *item) const
         return QModelIndex();
     }
     return createIndex(item->row(), 0, static_cast<quintptr>(item->pid()));
-}
-
-/// Compares the snapshot with the items, and removes the items whose pid now means another process.
-ProcModel::Matches ProcModel::matchSnapshot(const Snapshot &snapshot)
-{
-    std::vector<int> before;
-    before.reserve(items.size());
-    for (const auto &entry : items) {
-        before.push_back(entry.first);
-        entry.second->startPass();
-    }
-
-    Matches matches;
-    matches.known.reserve(snapshot.size());
-    std::vector<int> knownPids;
-    knownPids.reserve(snapshot.size());
-    for (const auto &entry : snapshot) {
-        ProcItem *item = itemByPid(entry.first);
-        if (item && isSameProcess(item->process(), entry.second)) {
-            matches.known.push_back(&entry.second);
-            knownPids.push_back(entry.first);
-            continue;
-        }
-        if (item) {
-            removeSubtree(item);
-        }
-        matches.fresh.push_back(&entry.second);
-    }
-    std::set_difference(before.begin(), before.end(), knownPids.begin(), knownPids.end(),
-                        std::back_inserter(matches.stale));
-    return matches;
-}
-
-void ProcModel::updateKnown(const ProcessList &known, quint64 totalDelta)
-{
-    for (const Process *process : known) {
-        // Null if it was removed together with an ancestor; the next refresh then inserts it.
-        if (ProcItem *item = itemByPid(process->pid())) {
-            item->update(*process, totalDelta);
-        }
-    }
-}
-
-/// The process and its ancestors in the snapshot, from the process upward. Parent pids can form a ring: an
-/// ancestor that is already in the line counts as not in the snapshot.
-ProcModel::ProcessList ProcModel::lineage(const Process &process, const Snapshot &snapshot) const
-{
-    ProcessList line{&process};
-    std::unordered_set<int> pids{process.pid()};
-    auto above = snapshot.find(process.getPPid());
-    while (above != snapshot.end() && pids.insert(above->first).second) {
-        line.push_back(&above->second);
-        above = snapshot.find(above->second.getPPid());
-    }
-    return line;
-}
-
-/// Intentional: in tree mode every ancestor gets a new item even if it has one already. The old item is
-/// destroyed, and its children stay in the model without a parent, where no view sees them.
-void ProcModel::insertWithAncestors(const Process &process, const Snapshot &snapshot, quint64 totalDelta)
-{
-    const ProcessList line = flat ? ProcessList{&process} : lineage(process, snapshot);
-    ProcItem *parent = root.get();
-    for (auto it = line.rbegin(); it != line.rend(); ++it) {
-        parent = insert(**it, parent, totalDelta);
-    }
-}
-
-ProcItem *ProcModel::insert(const Process &process, ProcItem *parent, quint64 totalDelta)
-{
-    if (ProcItem *replaced = itemByPid(process.pid())) {
-        detach(replaced);
-    }
-    const int row = parent->childCount();
-    beginInsertRows(indexOf(parent), row, row);
-    const ItemPtr item(new ProcItem(QList<QVariant>(), parent));
-    item->update(process, totalDelta);
-    items[process.pid()] = item;
-    parent->append(item.get());
-    endInsertRows();
-    return item.get();
-}
-
-/// Removes the row of an item that is about to be replaced: views would keep stale mappings if the item just
-/// disappeared.
-void ProcModel::detach(ProcItem *item)
-{
-    if (!item->isDescendantOf(root.get())) {
-        return;
-    }
-    const int row = item->row();
-    beginRemoveRows(indexOf(item->parent()), row, row);
-    item->leaveParent();
-    endRemoveRows();
-}
-
-/// Removes the item and its descendants, last child first. Iterative, since a line of ancestors can be as
-/// long as the process table. Emits no signals for items that are not below the root, as no view sees them.
-void ProcModel::removeSubtree(ProcItem *top)
-{
-    const bool shown = top->isDescendantOf(root.get());
-    ProcItem *item = top;
-    bool done = false;
-    while (!done) {
-        while (item->childCount() > 0) {
-            item = item->child(item->childCount() - 1);
-        }
-        done = item == top;
-        ProcItem *above = item->parent();
-        removeChildless(item, shown);
-        item = above;
-    }
-}
-
-void ProcModel::removeChildless(ProcItem *item, bool shown)
-{
-    const int row = item->row();
-    if (shown) {
-        beginRemoveRows(indexOf(item->parent()), row, row);
-    }
-    item->leaveParent();
-    items.erase(item->pid());
-    if (shown) {
-        endRemoveRows();
-    }
 }
 
 /// Clears the links first: each item would otherwise search its parent's children, which is quadratic.

@@ -12,6 +12,8 @@
 #include <tr1/memory>
 #include <vector>
 
+struct InsertedLine;
+
 /// The processes as a tree by parent pid or as a flat list, updated from snapshots.
 ///
 /// The internal id of an index is the pid, which is looked up in a map, so an index that outlives its item is
@@ -87,13 +89,11 @@ private:
 
     Matches matchSnapshot(const Snapshot &snapshot);
     void updateKnown(const ProcessList &known, quint64 totalDelta);
-    ProcessList lineage(const gtop_wrappers::Process &process, const Snapshot &snapshot) const;
-    void insertWithAncestors(const gtop_wrappers::Process &process, const Snapshot &snapshot,
-                             quint64 totalDelta);
-    ProcItem *insert(const gtop_wrappers::Process &process, ProcItem *parent, quint64 totalDelta);
-    void detach(ProcItem *item);
+    void insertFresh(const ProcessList &fresh, const Snapshot &snapshot, quint64 totalDelta);
+    void insert(const InsertedLine &line, quint64 totalDelta);
+    void removeReplaced(int pid);
+    void removeSubtrees(const std::vector<int> &pids);
     void removeSubtree(ProcItem *top);
-    void removeChildless(ProcItem *item, bool shown);
     void destroyItems();
     void rebuildVisibleColumns();
 

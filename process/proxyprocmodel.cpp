@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/proxyprocmodel.h"
 
+#include "process/deeprows.h"
 #include "process/fittingdelegate.h"
 #include "process/gtop_wrappers/filler.h"
 
@@ -22,7 +23,8 @@ int rowsToFit(int processColumn)
 
 ProxyProcModel::ProxyProcModel(QObject *parent)
     : QSortFilterProxyModel(parent), source(new ProcModel(parent)), delegate(new FittingDelegate(this)),
-      expandAndFit(true), types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0)
+      deepRows(nullptr), expandAndFit(true), types(gtop_wrappers::MyProcesses), currentCpuTotal(1),
+      previousCpuTotal(0)
 {
     setSortRole(Qt::UserRole);
     setDynamicSortFilter(true);
@@ -37,6 +39,7 @@ void ProxyProcModel::setView(QTreeView *treeView)
     if (view) {
         view->setModel(this);
         view->setItemDelegate(delegate);
+        deepRows = new DeepRows(this, view);
     }
 }
 
@@ -50,6 +53,7 @@ void ProxyProcModel::refresh(const ProcModel::Snapshot &snapshot, int)
 {
     source->update(snapshot, currentCpuTotal - previousCpuTotal, 0);
     if (view) {
+        deepRows->restore();
         layOutView();
     }
 }

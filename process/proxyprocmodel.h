@@ -8,6 +8,7 @@
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 
+class DeepRows;
 class FittingDelegate;
 
 /// The sorted process list that the view shows, and the only access to the processes for the rest of the
@@ -76,6 +77,7 @@ private:
     ProcModel *source;
     QPointer<QTreeView> view;
     FittingDelegate *delegate; ///< of the view
+    DeepRows *deepRows;        ///< of the view, which owns it
     bool expandAndFit;         ///< in the next layout, as it is the first one or the first after a reset
     int types;
     quint64 currentCpuTotal;

@@ -12,7 +12,7 @@ cd "$(dirname "$0")/.."
 need_packages "${build_packages[@]}" "${window_packages[@]}" "${check_packages[@]}" "${fuzz_packages[@]}"
 build fuzz fuzzers
 build asan fuzzers test_damagedsettings test_window_geometry test_worstmachine test_monkey
-build dev test_time test_forks
+build dev test_time test_forks test_deeptree test_randomforests
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 QTEST_FUNCTION_TIMEOUT=3600000
 export LSAN_OPTIONS="suppressions='$PWD/tests/support/leaks.supp':print_suppressions=0"
 
@@ -58,6 +58,8 @@ ZSM_SOAK_FILES=${ZSM_SOAK_FILES:-10000} run build/asan/tests/integration/test_wi
 ZSM_SOAK_PROCESSES=20000 run build/asan/tests/soak/test_worstmachine processesComeAndGoByTheThousand
 ZSM_SOAK_TICKS=${ZSM_SOAK_TICKS:-10000} run build/dev/tests/soak/test_time
 ZSM_SOAK_SECONDS=${ZSM_SOAK_SECONDS:-60} run build/dev/tests/soak/test_forks
+ZSM_SOAK_DEPTH=4000 run build/dev/tests/soak/test_deeptree
+ZSM_TEST_REFRESHES=2000 run build/dev/tests/process/test_randomforests
 for seed in ${ZSM_MONKEY_SEEDS:-11 12 13 14}; do
     ZSM_MONKEY_SEED=$seed ZSM_MONKEY_ACTIONS=5000 run build/asan/tests/desktop/test_monkey
 done
