@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/columns.h"
 
-#include "process/gtop_wrappers/oneline.h"
 #include "process/gtop_wrappers/textondemand.h"
+#include "text/oneline.h"
 
 #include <QtGlobal>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/record.h"
 
-#include "process/gtop_wrappers/oneline.h"
+#include "text/oneline.h"
 
 #include <glib.h>
 #include <glibtop.h>

@@ -2,7 +2,7 @@
 #include "process/gtop_wrappers/textondemand.h"
 
 #include "fs/sizetostr.h"
-#include "process/gtop_wrappers/oneline.h"
+#include "text/oneline.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

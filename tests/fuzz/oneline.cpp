@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "holds.h"
 
-#include "process/gtop_wrappers/oneline.h"
+#include "text/oneline.h"
 
 #include <QVector>
 
@@ -30,13 +30,13 @@ QString withoutBlanksAtTheEnd(QString text)
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes = bytesOf(data, size);
-    const QString line = gtop_wrappers::oneLine(bytes);
+    const QString line = oneLine(bytes);
 
-    HOLDS(line.size() <= gtop_wrappers::longestText);
+    HOLDS(line.size() <= longestText);
     const QVector<uint> characters = line.toUcs4();
     HOLDS(std::all_of(characters.begin(), characters.end(), isHarmless));
     HOLDS(QString::fromUtf8(line.toUtf8()) == line); // no character is split
-    HOLDS(gtop_wrappers::oneLine(line.toUtf8()) == withoutBlanksAtTheEnd(line));
-    HOLDS(gtop_wrappers::oneLine(bytes + QByteArray(3, '\0') + "  ") == line);
+    HOLDS(oneLine(line.toUtf8()) == withoutBlanksAtTheEnd(line));
+    HOLDS(oneLine(bytes + QByteArray(3, '\0') + "  ") == line);
     return 0;
 }

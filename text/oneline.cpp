@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/gtop_wrappers/oneline.h"
-
-namespace gtop_wrappers {
+#include "text/oneline.h"
 
 namespace {
 
@@ -64,5 +62,3 @@ QString oneLine(const QByteArray &bytes)
     replaceInvisiblePairs(text);
     return text;
 }
-
-} // namespace gtop_wrappers

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/gtop_wrappers/oneline.h"
+#include "text/oneline.h"
 
 #include <QtTest>
-
-using namespace gtop_wrappers;
 
 class TestOneLine : public QObject
 {
