@@ -7,7 +7,7 @@ cd "$(dirname "$0")"
 . scripts/setup.sh
 
 need_packages "${build_packages[@]}" "${window_packages[@]}" "${check_packages[@]}"
-want_packages "${style_packages[@]}" "${wayland_packages[@]}" "${assistive_packages[@]}"
+want_packages "${style_packages[@]}" "${wayland_packages[@]}" "${assistive_packages[@]}" "${fuse_packages[@]}"
 build asan
 # Two jobs per core, since desktop tests wait most of the time.
 ctest --test-dir build/asan --output-on-failure -j $((2 * $(nproc))) "$@"

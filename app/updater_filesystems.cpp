@@ -19,8 +19,9 @@ void Updater::refreshFileSystems()
 void Updater::slotSelectFs(QModelIndex index)
 {
     const QString mountDir = fsModel->data(index, Qt::UserRole).toString();
-    const FsDetails details = fsDetails(fsModel->itemByMountDir(mountDir));
-    chart->setValue(details.percentAvailable);
+    const FSInfo info = fsModel->itemByMountDir(mountDir);
+    const FsDetails details = fsDetails(info);
+    chart->setValue(details.percentAvailable, info.answers ? QString() : details.total);
     ui.lblTotal->setText(details.total);
     ui.lblUsed->setText(details.used);
     ui.lblAvail->setText(details.avail);

@@ -56,9 +56,10 @@ QColor Chart::availColor()
     return Qt::blue;
 }
 
-void Chart::setValue(double percentAvailable)
+void Chart::setValue(double percentAvailable, const QString &reasonForNone)
 {
     value = percentAvailable;
+    noValueReason = reasonForNone;
     describe();
     update();
 }
@@ -77,8 +78,8 @@ bool Chart::hasValue() const
 /// Sets the accessible description to the share that the pie shows.
 void Chart::describe()
 {
-    const QString text =
-        hasValue() ? tr("%1% available").arg(QString::number(value, 'f', 0)) : tr("No file system selected");
+    const QString reason = noValueReason.isEmpty() ? tr("No file system selected") : noValueReason;
+    const QString text = hasValue() ? tr("%1% available").arg(QString::number(value, 'f', 0)) : reason;
     if (text != accessibleDescription()) {
         setAccessibleDescription(text);
     }

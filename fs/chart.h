@@ -39,8 +39,8 @@ public:
     static QColor availColor();
 
     /// Sets the percentage that is available to ordinary users, without a range check. -1 and anything that
-    /// is not finite mean no value, which shows as an empty circle.
-    void setValue(double percentAvailable);
+    /// is not finite mean no value, which shows as an empty circle; assistive technology reads the reason.
+    void setValue(double percentAvailable, const QString &reasonForNone = {});
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -51,6 +51,7 @@ private:
     void draw(int x, int diameter);
 
     double value = -1.0;
+    QString noValueReason; ///< none is selected, if empty
 };
 
 #endif

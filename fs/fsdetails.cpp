@@ -2,6 +2,9 @@
 #include "fs/fsdetails.h"
 
 #include "fs/sizetostr.h"
+#include "text/oneline.h"
+
+#include <QCoreApplication>
 
 #include <limits>
 
@@ -26,13 +29,24 @@ QString sizeText(qint32 blocks, qint32 blockSize)
     return sizeToStr(static_cast<double>(blocks) * static_cast<double>(blockSize));
 }
 
+/// As short as a size, so that it moves nothing.
+QString noAnswer()
+{
+    return QCoreApplication::translate("FsDetails", "No answer");
+}
+
 } // namespace
 
 FsDetails fsDetails(const FSInfo &info)
 {
+    const QString device = oneLine(info.device.toUtf8());
+    const QString type = oneLine(info.type.toUtf8());
+    if (!info.answers) {
+        return {percentAvailable(info), device, type, noAnswer(), {}, {}};
+    }
     return {percentAvailable(info),
-            info.device,
-            info.type,
+            device,
+            type,
             sizeText(info.blocks, info.blockSize),
             sizeText(usedBlocks(info), info.blockSize),
             sizeText(info.availBlocks, info.blockSize)};

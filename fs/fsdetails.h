@@ -8,9 +8,9 @@
 struct FsDetails
 {
     double percentAvailable; ///< share available to ordinary users; NaN if there are no blocks
-    QString device;
+    QString device;          ///< as one harmless line, and so is the type
     QString type;
-    QString total; ///< size text
+    QString total; ///< size text; that there is no answer, and no other sizes, if there never was one
     QString used;  ///< size text of what ordinary users can't fill, including the superuser's reserve
     QString avail; ///< size text
 };

@@ -2,6 +2,7 @@
 #include "fs/fsitem.h"
 
 #include "fs/sizetostr.h"
+#include "text/oneline.h"
 
 FSItem::FSItem(const FSInfo &info)
 {
@@ -11,7 +12,7 @@ FSItem::FSItem(const FSInfo &info)
 void FSItem::setItem(const FSInfo &info)
 {
     cells.clear();
-    cells << info.mountDir << info.type << info.device
+    cells << oneLine(info.mountDir.toUtf8()) << oneLine(info.type.toUtf8()) << oneLine(info.device.toUtf8())
           << sizeToStr(blocksToBytes(info.blocks, info.blockSize))
           << sizeToStr(blocksToBytes(info.freeBlocks, info.blockSize))
           << sizeToStr(blocksToBytes(info.availBlocks, info.blockSize)) << info.files;

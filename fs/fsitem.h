@@ -16,8 +16,8 @@ public:
     /// Replaces the row's contents by those of `info`.
     void setItem(const FSInfo &info);
 
-    /// Values by column: mount point, type, device; size texts of total, free and available space; the number
-    /// of file nodes as an integer.
+    /// Values by column: mount point, type, device, each as one harmless line; size texts of total, free and
+    /// available space; the number of file nodes as an integer.
     QList<QVariant> cells;
     /// The record that the cells were made from.
     FSInfo item;

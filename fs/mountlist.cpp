@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fs/mountlist.h"
 
+#include "fs/mountkinds.h"
+#include "fs/usageasker.h"
+#include "fs/usagechild.h"
+
 #include <glib.h>
-#include <glibtop.h>
-#include <glibtop/fsusage.h>
 #include <glibtop/mountlist.h>
 
 #include <cstring>
@@ -19,34 +21,16 @@ std::string boundedName(const char (&bytes)[size])
     return std::string(bytes, strnlen(bytes, size));
 }
 
-/// glibtop_get_fsusage() rescans the whole mount table for I/O totals, which makes a refresh quadratic in the
-/// number of mounts; it skips that on old kernels, so pretend to run on one during the call.
-void readUsage(const std::string &mountDir, glibtop_fsusage &usage)
-{
-    auto *server = glibtop_init();
-    const unsigned long kernel = std::exchange(server->os_version_code, 0UL);
-    glibtop_get_fsusage(&usage, mountDir.c_str());
-    server->os_version_code = kernel;
-}
-
 MountEntry readEntry(const glibtop_mountentry &mount)
 {
     MountEntry entry;
     entry.devname = boundedName(mount.devname);
     entry.mountdir = boundedName(mount.mountdir);
     entry.type = boundedName(mount.type);
-
-    // A failed query goes unnoticed: it leaves 0 blocks, for which a vanished mount is dropped.
-    glibtop_fsusage usage{};
-    readUsage(entry.mountdir, usage);
-    entry.blocks = usage.blocks;
-    entry.bfree = usage.bfree;
-    entry.bavail = usage.bavail;
-    entry.files = usage.files;
-    entry.blockSize = usage.block_size;
     return entry;
 }
 
+/// The names alone; asks no file system.
 std::vector<MountEntry> readMounts()
 {
     // Unfiltered by libgtop: reduceMounts() decides which mounts to drop.
@@ -66,6 +50,28 @@ std::vector<MountEntry> readMounts()
     return entries;
 }
 
+/// Keeps what the file systems that can hang last reported; ends its child processes with the program.
+UsageAsker &asker()
+{
+    static UsageAsker instance({UsageChild::start, UsageAsker::Clock::now, waitForWorkers});
+    return instance;
+}
+
+/// A failed query goes unnoticed: it leaves 0 blocks, for which a vanished mount is dropped.
+void readUsages(std::vector<MountEntry> &mounts)
+{
+    const std::vector<Query> queries = queriesOf(mounts);
+    std::vector<MountEntry *> askedInChild;
+    for (std::size_t i = 0; i < mounts.size(); ++i) {
+        if (queries[i] == Query::Direct) {
+            setUsage(mounts[i], readUsage(mounts[i].mountdir.c_str()));
+        } else if (queries[i] == Query::InChild) {
+            askedInChild.push_back(&mounts[i]);
+        }
+    }
+    asker().ask(askedInChild);
+}
+
 /// The low 32 bits, read as signed.
 qint32 cutTo32Bits(quint64 count)
 {
@@ -73,6 +79,15 @@ qint32 cutTo32Bits(quint64 count)
 }
 
 } // namespace
+
+void setUsage(MountEntry &mount, const Usage &usage)
+{
+    mount.blocks = usage.blocks;
+    mount.bfree = usage.bfree;
+    mount.bavail = usage.bavail;
+    mount.files = usage.files;
+    mount.blockSize = usage.blockSize;
+}
 
 FSInfo toFSInfo(const MountEntry &entry)
 {
@@ -85,6 +100,7 @@ FSInfo toFSInfo(const MountEntry &entry)
     info.availBlocks = cutTo32Bits(entry.bavail);
     info.files = cutTo32Bits(entry.files);
     info.blockSize = cutTo32Bits(entry.blockSize);
+    info.answers = entry.answers;
     return info;
 }
 
@@ -94,7 +110,7 @@ std::list<FSInfo> reduceMounts(const std::vector<MountEntry> &entries)
     for (const MountEntry &entry : entries) {
         FSInfo info = toFSInfo(entry);
         // Intentional: the stored count decides, so a multiple of 2^32 blocks, stored as 0, is dropped.
-        if (info.blocks != 0 && info.type != QLatin1String("tmpfs")) {
+        if ((info.blocks != 0 || !info.answers) && info.type != QLatin1String("tmpfs")) {
             mounts.push_back(std::move(info));
         }
     }
@@ -103,5 +119,7 @@ std::list<FSInfo> reduceMounts(const std::vector<MountEntry> &entries)
 
 std::list<FSInfo> collectMountList()
 {
-    return reduceMounts(readMounts());
+    std::vector<MountEntry> mounts = readMounts();
+    readUsages(mounts);
+    return reduceMounts(mounts);
 }

@@ -22,6 +22,7 @@ struct FSInfo
     qint32 availBlocks = 0; ///< free blocks available to ordinary users
     qint32 files = 0;       ///< total file nodes
     qint32 blockSize = 0;   ///< bytes in one block
+    bool answers = true;    ///< false: has never reported its usage, and all counts are 0
 };
 
 /// Bytes in `count` blocks: the product modulo 2^64 of the sign-extended factors, so a wrapped (negative)
@@ -43,18 +44,24 @@ struct MountEntry
     quint64 bavail = 0;
     quint64 files = 0;
     quint32 blockSize = 0;
+    bool answers = true; ///< false: has never reported its usage
 };
 
+struct Usage;
+
 /// The mounted file systems that hold data, in the order of the system's mount list; empty if that is
-/// missing. Blocks for as long as the file systems take to report their usage.
+/// missing. Those that can hang are asked by a child process and, if they don't answer at once, keep the last
+/// figures that they reported: the only state kept between calls.
 std::list<FSInfo> collectMountList();
+
+void setUsage(MountEntry &mount, const Usage &usage);
 
 /// Converts one mount to a record: names are decoded as UTF-8 (invalid bytes become replacement characters),
 /// counts are truncated to 32 bits.
 FSInfo toFSInfo(const MountEntry &entry);
 
-/// Converts the mounts that hold data, in the same order; drops those of type "tmpfs" and those whose stored
-/// block count is 0.
+/// Converts the mounts that hold data, in the same order; drops those of type "tmpfs" and those that report a
+/// stored block count of 0. Keeps those that have never reported anything.
 std::list<FSInfo> reduceMounts(const std::vector<MountEntry> &entries);
 
 #endif

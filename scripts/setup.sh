@@ -12,6 +12,8 @@ style_packages=(clang-format-14 clang-tidy-14)
 # For tests under Wayland and of what assistive technology sees, which are skipped without them.
 wayland_packages=(weston qtwayland5)
 assistive_packages=(at-spi2-core dbus)
+# For the test of file systems that don't answer, which uses made-up ones alone without it.
+fuse_packages=(libfuse3-dev)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 
 # missing_packages <package>...: prints those that are not installed, one per line.

@@ -122,7 +122,8 @@ void TestMonkey::programSurvivesAUserWhoDoesEverything()
     reportFigures(monkey, seed, actions, descriptorsAtFirst);
     const int enoughForEveryKind = 5000;
     QVERIFY(actions < enoughForEveryKind || !monkey.counts().values().contains(0));
-    QVERIFY(descriptorsOf(session->pid()) <= descriptorsAtFirst);
+    // One more for the child process that asks network file systems, if any are mounted now.
+    QVERIFY(descriptorsOf(session->pid()) <= descriptorsAtFirst + 1);
 }
 
 /// Prints what was done before if it isn't.

@@ -168,6 +168,8 @@ private Q_SLOTS:
         chart.setValue(value);
         QCOMPARE(pictureOf(chart), image);
         QCOMPARE(accessibleTextOf(chart), QString("Disk usage: No file system selected"));
+        chart.setValue(std::numeric_limits<double>::quiet_NaN(), "No answer");
+        QCOMPARE(accessibleTextOf(chart), QString("Disk usage: No answer"));
     }
 
     void sharesAreDrawnFromThreeOClock_data()

@@ -5,6 +5,7 @@
 
 #include <QtTest>
 
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -59,6 +60,26 @@ private Q_SLOTS:
         const QString sizes = QStringList{details.total, details.used, details.avail}.join(", ");
         QTEST(details.percentAvailable, "percentAvailable");
         QTEST(names + "; " + sizes, "texts");
+    }
+
+    void whatNeverAnsweredHasNoFigures()
+    {
+        FSInfo info = mount("files:/home", "/home", "nfs4");
+        info.blocks = 0;
+        info.answers = false;
+        const FsDetails details = fsDetails(info);
+        QVERIFY(std::isnan(details.percentAvailable));
+        QCOMPARE(details.device, QString("files:/home"));
+        QCOMPARE(details.type, QString("nfs4"));
+        QCOMPARE(details.total, QString("No answer"));
+        QCOMPARE(details.used + details.avail, QString());
+    }
+
+    void namesAreHarmlessLines()
+    {
+        const FsDetails details = fsDetails(mount("a\nb\u202ec", "/", "fuse.\x1b[1m"));
+        QCOMPARE(details.device, QString("a b\ufffdc"));
+        QCOMPARE(details.type, QString("fuse.\ufffd[1m"));
     }
 };
 

@@ -40,6 +40,17 @@ private Q_SLOTS:
         QCOMPARE(item.item.mountDir, QString("/srv"));
     }
 
+    void namesAreShownAsHarmlessLinesButRemainKeys()
+    {
+        const QString dir = QStringLiteral("/a\nb\u202e");
+        const FSItem item(mount(QStringLiteral("/dev/\u200bx"), dir, QStringLiteral("fuse.\ty")));
+        QCOMPARE(item.cells.mid(0, 3), (QVariantList{"/a b\ufffd", "fuse. y", "/dev/\ufffdx"}));
+        FSModel model;
+        model.update({item.item});
+        QCOMPARE(model.index(0, 0).data(Qt::UserRole).toString(), dir);
+        QCOMPARE(model.itemByMountDir(dir).device, item.item.device);
+    }
+
     void wrappedCountsMakeHugeSizeTexts_data()
     {
         QTest::addColumn<int>("count");

@@ -95,6 +95,18 @@ private Q_SLOTS:
         QCOMPARE(reduceMounts({entry(type.toStdString(), blocks)}).size(), std::size_t{kept ? 1U : 0U});
     }
 
+    void whatNeverAnsweredIsKeptUnlessItIsATmpfs()
+    {
+        MountEntry silent = entry("nfs4", 0);
+        silent.answers = false;
+        MountEntry memory = entry("tmpfs", 0);
+        memory.answers = false;
+        const std::list<FSInfo> mounts = reduceMounts({silent, memory, entry("nfs4", 0)});
+        QCOMPARE(mounts.size(), std::size_t{1});
+        QVERIFY(!mounts.front().answers);
+        QVERIFY(toFSInfo(entry("nfs4", 1)).answers);
+    }
+
     void nothingIsLeftOfPseudoAndMemoryFileSystemsAlone()
     {
         QVERIFY(reduceMounts({entry("tmpfs", 500), entry("proc", 0), entry("sysfs", 0)}).empty());

@@ -9,6 +9,7 @@
 #include <glibtop/fsusage.h>
 #include <glibtop/mountlist.h>
 
+#include <algorithm>
 #include <cstring>
 
 // The two functions below replace libgtop's: a program's own definition takes precedence over a library's.
@@ -79,6 +80,12 @@ private Q_SLOTS:
         machine.usage.block_size = 512;
     }
 
+    void cleanup()
+    {
+        machine = Machine();
+        collectMountList(); // without mounts, the process that asks them ends
+    }
+
     void allFileSystemsAreQueried()
     {
         QVERIFY(collectMountList().empty());
@@ -108,6 +115,40 @@ private Q_SLOTS:
                           mountEntry("c", "/c\xc3\xa9", "xfs")};
         QCOMPARE(collectMountList().size(), std::size_t{2});
         QCOMPARE(machine.askedForUsage, (std::vector<std::string>{"/b\xff", "/a", "/c\xc3\xa9"}));
+    }
+
+    void anAutomountPointIsNeverAsked()
+    {
+        machine.mounts = {mountEntry("/etc/auto.misc", "/misc", "autofs"), mountEntry("a", "/a", "ext4")};
+        QCOMPARE(collectMountList().size(), std::size_t{1});
+        QCOMPARE(machine.askedForUsage, std::vector<std::string>{"/a"});
+    }
+
+    void whatCanHangIsAskedByAnotherProcess()
+    {
+        machine.mounts = {mountEntry("files:/", "/home", "nfs4"),
+                          mountEntry("/dev/loop0", "/home/disc", "udf"), mountEntry("a", "/a", "ext4")};
+        std::list<FSInfo> mounts;
+        const auto allAnswered = [&] {
+            machine.askedForUsage.clear();
+            mounts = collectMountList();
+            return std::all_of(mounts.begin(), mounts.end(), [](const FSInfo &info) { return info.answers; });
+        };
+        QTRY_VERIFY(allAnswered());
+        QCOMPARE(machine.askedForUsage, std::vector<std::string>{"/a"});
+        QStringList names;
+        for (const FSInfo &info : mounts) {
+            names << info.mountDir;
+            QCOMPARE(countsOf(info), (QVector<qint32>{10, 9, 8, 7, 512}));
+        }
+        QCOMPARE(names, QStringList({"/home", "/home/disc", "/a"}));
+    }
+
+    void theAnswerOfAnotherProcessIsJudgedLikeAnyOther()
+    {
+        machine.usage.blocks = Q_UINT64_C(1) << 32;
+        machine.mounts = {mountEntry("files:/big", "/big", "nfs4")};
+        QTRY_VERIFY(collectMountList().empty());
     }
 
     void aVanishedMountIsDropped()

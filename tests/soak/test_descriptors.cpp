@@ -75,6 +75,24 @@ private Q_SLOTS:
         QVERIFY(Fixture::find<QComboBox>("comboNet")->count() > 0);
     }
 
+    void withNoneLeftNoneIsTakenToAskAMountThatCanHang()
+    {
+        standin::machine().mounts = {{"files:/", "/mnt", "nfs4", 1000, 500, 250}};
+        const auto firstRowTotal = [this] {
+            QMetaObject::invokeMethod(
+                &fixture->updater(), "slotSelectFs",
+                Q_ARG(QModelIndex, Fixture::find<QTreeView>("tableFS")->model()->index(0, 0)));
+            return Fixture::text("lblTotal");
+        };
+        withNoneLeft(256, [this] {
+            refresh(*fixture);
+            makeFiguresStale();
+            refresh(*fixture);
+        });
+        QVERIFY(Fixture::text("lblMemTotal") != QStringLiteral("stale")); // the reserve is still enough
+        QTRY_COMPARE((refresh(*fixture), refresh(*fixture), firstRowTotal()), QString("3.91 MB"));
+    }
+
     void belowTheReserveTheLastFiguresStay()
     {
         const QString memory = Fixture::text("lblMemTotal");

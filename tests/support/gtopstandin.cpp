@@ -10,6 +10,7 @@
 #include <glibtop/netlist.h>
 #include <glibtop/netload.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <fstream>
@@ -69,6 +70,33 @@ void fillCpu(glibtop_cpu *buf, const std::vector<Cpu> &cpus)
         buf->idle += buf->xcpu_idle[i];
         buf->total += buf->xcpu_total[i];
         buf->user += buf->xcpu_user[i];
+    }
+}
+
+const pid_t program = getpid();
+
+/// The mount there, once the time is over for which it blocks; null if there is none.
+const Mount *blockedMount(const char *directory)
+{
+    using Clock = std::chrono::steady_clock;
+    for (const auto begin = Clock::now();; std::this_thread::sleep_for(std::chrono::milliseconds(10))) {
+        // A child process that asks file systems begins no list, and may be asked while the machine changes.
+        if (getpid() != program) {
+            readFileIfChanged();
+        }
+        if (!machine().mounts) {
+            return nullptr;
+        }
+        const std::vector<Mount> &mounts = *machine().mounts;
+        const auto mount = std::find_if(mounts.begin(), mounts.end(), [=](const Mount &each) {
+            return each.directory.compare(0, GLIBTOP_MOUNTENTRY_LEN, directory) == 0;
+        });
+        if (mount == mounts.end()) {
+            return nullptr;
+        }
+        if (Clock::now() - begin >= std::chrono::milliseconds(mount->blocksForMs)) {
+            return &*mount;
+        }
     }
 }
 
@@ -187,19 +215,12 @@ STANDIN_CALL glibtop_mountentry *glibtop_get_mountlist(glibtop_mountlist *buf, i
 STANDIN_CALL void glibtop_get_fsusage(glibtop_fsusage *buf, const char *mount_dir)
 {
     static const auto real = nextCall<decltype(glibtop_get_fsusage)>("glibtop_get_fsusage");
+    const Mount *mount = blockedMount(mount_dir);
     if (!machine().mounts) {
         return real(buf, mount_dir);
     }
     *buf = glibtop_fsusage{};
-    const std::vector<Mount> &mounts = *machine().mounts;
-    const auto mount = std::find_if(mounts.begin(), mounts.end(), [=](const Mount &each) {
-        return each.directory.compare(0, GLIBTOP_MOUNTENTRY_LEN, mount_dir) == 0;
-    });
-    if (mount == mounts.end()) {
-        return;
-    }
-    std::this_thread::sleep_for(std::chrono::milliseconds(mount->blocksForMs));
-    if (mount->fails) {
+    if (!mount || mount->fails) {
         return;
     }
     buf->flags = allFlags;
