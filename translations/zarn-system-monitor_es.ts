@@ -79,6 +79,13 @@
     </message>
 </context>
 <context>
+    <name>FsDetails</name>
+    <message>
+        <source>No answer</source>
+        <translation>Sin respuesta</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>System monitor</source>
