@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/quitsignals.h"
+#include "app/savedends.h"
 #include "app/startpage.h"
+#include "app/systemfiles.h"
 #include "app/translations.h"
 #include "app/updater.h"
 #include "integration/zarninit.h"
@@ -8,8 +11,12 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <fcntl.h>
 #include <malloc.h>
+#include <unistd.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <iostream>
 
 namespace {
@@ -17,6 +24,23 @@ namespace {
 constexpr char description[] = QT_TRANSLATE_NOOP(
     "ZarnHelpMenu",
     "System monitor allows you to watch general system info, processes info, mount points and network stat.");
+
+/// Opens those of the descriptors 0 to 2 that are closed, on /dev/null. Otherwise the connection to the
+/// display would get one of them, and each message of a library would be written into it.
+void openStandardDescriptors()
+{
+    int descriptor = open("/dev/null", O_RDWR);
+    while (descriptor >= 0 && descriptor <= STDERR_FILENO) {
+        descriptor = open("/dev/null", O_RDWR);
+    }
+    close(descriptor);
+}
+
+/// A message must not end the program because nobody reads its output any more.
+void ignoreBrokenPipes()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+}
 
 /// The program paints with the raster engine; loading OpenGL would only cost memory and time.
 void disableOpenGl()
@@ -41,6 +65,8 @@ void returnLargeBlocksToSystem()
 
 int main(int argc, char **argv)
 {
+    openStandardDescriptors();
+    ignoreBrokenPipes();
     returnLargeBlocksToSystem();
     disableOpenGl();
     QApplication application(argc, argv);
@@ -53,7 +79,13 @@ int main(int argc, char **argv)
     installTranslations(&application);
     zarnInit(ZSM_VERSION, description);
     const int startPage = startPageFromArguments(argc, argv, std::cout);
+    if (const char *missing = fileMissingForStart()) {
+        reportMissingFile(missing);
+        return EXIT_FAILURE;
+    }
     gtop_wrappers::ProcessFiller::instance();
     Updater updater(startPage);
+    const SavedEnds savedEnds(&updater);
+    quitOnSignals(&application);
     return QApplication::exec();
 }

@@ -1,13 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/storedsettings.h"
 
+#include <QCoreApplication>
 #include <QFile>
-#include <QSettings>
+#include <QStandardPaths>
 #include <QtEndian>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
 
 namespace {
 
 constexpr qint64 largestFile = 64LL * 1024; ///< bytes; ours has less than 4 KiB
+constexpr char noFile[] = "/dev/null/none"; ///< can't exist, since it would be in a device
 
 /// Value of a hexadecimal (base 16) or octal (base 8) digit; -1 for any other character.
 int digitValue(char character, int base)
@@ -57,14 +66,47 @@ QByteArray unescaped(const QByteArray &content)
     return plain;
 }
 
-/// Whether the settings file can be read without risk.
-bool isSafe(const QString &path)
+enum class Finding { Usable, Damaged, Unusable };
+
+/// What can be said of an open file of a size; its content is read without waiting.
+Finding inspectContent(int descriptor, qint64 size)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return true; // nothing will be read
+    if (size > largestFile) {
+        return Finding::Damaged;
     }
-    return file.size() <= largestFile && !holdsSerializedObject(file.readAll());
+    QFile file;
+    const bool opened = file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered);
+    const QByteArray content = opened ? file.read(largestFile + 1) : QByteArray();
+    if (!opened || content.size() != size) {
+        return Finding::Unusable; // such as a file of the kernel, which may have no end
+    }
+    return holdsSerializedObject(content) ? Finding::Damaged : Finding::Usable;
+}
+
+Finding inspect(const QByteArray &path)
+{
+    struct stat status = {};
+    if (stat(path.constData(), &status) != 0) {
+        return errno == ENOENT ? Finding::Usable : Finding::Unusable;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return Finding::Unusable; // not opened, since that has effects on a device
+    }
+    const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    const bool isFile =
+        descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode); // still
+    const Finding finding = isFile ? inspectContent(descriptor, status.st_size) : Finding::Unusable;
+    if (descriptor >= 0) {
+        close(descriptor);
+    }
+    return finding;
+}
+
+/// Whether QSettings could wait for its lock file without end when it saves.
+bool isLockUnusable(const QByteArray &path)
+{
+    struct stat status = {};
+    return lstat((path + ".lock").constData(), &status) == 0 && !S_ISREG(status.st_mode);
 }
 
 } // namespace
@@ -92,12 +134,22 @@ bool isSplitterState(const QByteArray &state)
            qFromBigEndian<qint32>(end - 5) == Qt::Horizontal;
 }
 
-void setAsideUnsafeSettings()
+QString settingsFile()
 {
-    const QString path = QSettings().fileName();
-    if (!isSafe(path)) {
-        const QString aside = path + QStringLiteral(".damaged");
-        QFile::remove(aside);
-        QFile::rename(path, aside);
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1Char('/') +
+           QCoreApplication::organizationName() + QLatin1Char('/') + QCoreApplication::applicationName() +
+           QLatin1String(".conf");
+}
+
+QString usableSettingsFile()
+{
+    const QString file = settingsFile();
+    const QByteArray path = QFile::encodeName(file);
+    if (isLockUnusable(path)) {
+        return QLatin1String(noFile);
     }
+    const Finding finding = inspect(path);
+    const bool isSetAside =
+        finding == Finding::Damaged && std::rename(path.constData(), (path + ".damaged").constData()) == 0;
+    return finding == Finding::Usable || isSetAside ? file : QLatin1String(noFile);
 }

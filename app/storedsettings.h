@@ -3,6 +3,7 @@
 #define APP_STOREDSETTINGS_H
 
 #include <QByteArray>
+#include <QString>
 
 /// Whether the content of a settings file holds a serialized object, in any escaping. This program writes
 /// none, and reading a damaged one makes the toolkit throw std::bad_alloc or crash.
@@ -13,9 +14,16 @@ bool holdsSerializedObject(const QByteArray &content);
 /// ones; another width or orientation would spoil the page and be saved again.
 bool isSplitterState(const QByteArray &state);
 
-/// Appends ".damaged" to the name of the user's settings file if it is unsafe to read, that is, if it holds a
-/// serialized object or is far too large to be ours. The program then starts with its defaults and can save
-/// again. Must be called before the file is first read.
-void setAsideUnsafeSettings();
+/// Path of the user's settings file: that of a default-constructed QSettings. One of those would parse the
+/// files of the organization and of the system as well, before it can be told not to.
+QString settingsFile();
+
+/// The path for the QSettings (in the native format) that is used next: settingsFile() if it is a regular
+/// file, or a link to one, that is safe to read, or if there is none.
+///
+/// A file that holds a serialized object or is far too large to be ours is renamed to end in ".damaged", so
+/// that the program starts with its defaults and can save again. What can be neither read nor renamed is left
+/// alone: the path is then one that holds nothing and that nothing can be written to.
+QString usableSettingsFile();
 
 #endif

@@ -4,6 +4,7 @@
 #include "app/followup.h"
 #include "app/pageintervals.h"
 #include "app/settingskeys.h"
+#include "app/systemfiles.h"
 #include "fs/proxyfsmodel.h"
 #include "process/processmenu.h"
 #include "process/proxyprocmodel.h"
@@ -53,8 +54,6 @@ Updater::Updater(int startPage)
 
 Updater::~Updater()
 {
-    // Writing the settings file needs descriptors, so even an incomplete reserve helps.
-    const ReleasedDescriptors released(descriptors);
     saveSettings();
     glibtop_close();
 }
@@ -100,7 +99,7 @@ Pages Updater::duePages(bool _updateAll) const
 void Updater::refresh(const Pages &pages)
 {
     const ReleasedDescriptors released(descriptors);
-    if (!released.enough()) {
+    if (!released.enough() || fileMissingForRefresh()) {
         return;
     }
     if (pages[GeneralPage]) {

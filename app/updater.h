@@ -42,10 +42,14 @@ public:
     /// Saves the settings, then closes libgtop.
     ~Updater() override;
 
+    /// Can be called at any time after the construction, even without a connection to the display.
+    void saveSettings();
+
 public Q_SLOTS:
     // The order of the slots is fixed: callers may address them by their meta-object index.
     /// One tick: refreshes the page that is shown and due, and the network if due; with _updateAll General,
-    /// Processes and File systems in any case. Short of file descriptors, a tick refreshes nothing.
+    /// Processes and File systems in any case. Short of file descriptors and without /proc, a tick refreshes
+    /// nothing.
     void update(bool _updateAll);
     void update();
     /// Makes the interface at this position of the chooser the current one and samples it; no-op for a
@@ -114,7 +118,6 @@ private:
     bool isShown(Page page) const;
     void showWindow();
     void loadSettings();
-    void saveSettings() const;
 
     // The models and the process menu are QObject children, so they outlive the members: the window and its
     // views are destroyed first, and no view is left with a deleted model.

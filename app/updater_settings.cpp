@@ -34,8 +34,7 @@ int storedInterval(const QVariant &value)
 void Updater::loadSettings()
 {
     static const auto *filler = gtop_wrappers::ProcessFiller::instance();
-    setAsideUnsafeSettings();
-    QSettings stored;
+    QSettings stored(usableSettingsFile(), QSettings::NativeFormat);
     const int neededHeight = heightForWholePage(&mainWindow, ui.generalScroll);
     zarnRestoreGeometry(&mainWindow, &stored, defaultGeometry(availableGeometry(), neededHeight), false);
     for (int page = 0; page < settings::pageCount; ++page) {
@@ -59,10 +58,13 @@ void Updater::loadSettings()
     }
 }
 
-void Updater::saveSettings() const
+void Updater::saveSettings()
 {
     static const auto *filler = gtop_wrappers::ProcessFiller::instance();
-    QSettings stored;
+    // Writing the file needs descriptors, so even an incomplete reserve helps.
+    const ReleasedDescriptors released(descriptors);
+    // Inspected once more: the file may have been replaced since the start.
+    QSettings stored(usableSettingsFile(), QSettings::NativeFormat);
     zarnSaveGeometry(&mainWindow, &stored, false);
     for (int page = 0; page < settings::pageCount; ++page) {
         stored.setValue(QLatin1String(settings::intervalKeys[page].writtenTo), intervals->interval(page));

@@ -5,7 +5,7 @@
 build_packages=(
     g++ cmake ninja-build pkg-config qtbase5-dev qttools5-dev qttools5-dev-tools libgtop2-dev libglib2.0-dev
 )
-window_packages=(xvfb xauth openbox xdotool imagemagick x11-utils fonts-dejavu-core libxtst-dev)
+window_packages=(xvfb xauth openbox xdotool imagemagick x11-utils fonts-dejavu-core libxtst-dev libsm-dev)
 check_packages=(appstream desktop-file-utils file man-db valgrind iproute2 e2fsprogs)
 # Pinned to the versions of Debian 12: other versions format and warn differently.
 style_packages=(clang-format-14 clang-tidy-14)

@@ -15,6 +15,8 @@ Fixture::Fixture()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Telmorra"));
     QCoreApplication::setApplicationName(QStringLiteral("zarn-system-monitor"));
+    // The program's file and that of the tests' QSettings.
+    qputenv("XDG_CONFIG_HOME", folder.path().toLocal8Bit());
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
     standin::machine() = smallMachine();
     standin::resetCalls();

@@ -7,6 +7,7 @@
 
 #include <QLibraryInfo>
 #include <QMainWindow>
+#include <QProcess>
 #include <QWindow>
 
 #include <sys/prctl.h>
@@ -17,7 +18,6 @@
 
 namespace {
 
-constexpr char socketName[] = "zsm-test";
 constexpr int screenWidth = 1280;
 constexpr int screenHeight = 1024;
 
@@ -25,13 +25,13 @@ constexpr int screenHeight = 1024;
 class Compositor
 {
 public:
-    Compositor()
+    explicit Compositor(const char *name) : socketName(name)
     {
         qputenv("XDG_RUNTIME_DIR", directory.path().toLocal8Bit());
-        qputenv("WAYLAND_DISPLAY", socketName);
+        qputenv("WAYLAND_DISPLAY", name);
         const QByteArray width = "--width=" + QByteArray::number(screenWidth);
         const QByteArray height = "--height=" + QByteArray::number(screenHeight);
-        const QByteArray socket = QByteArray("--socket=") + socketName;
+        const QByteArray socket = QByteArray("--socket=") + name;
         pid = fork();
         if (pid == 0) {
             prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -45,12 +45,15 @@ public:
     }
     Compositor(const Compositor &) = delete;
     Compositor &operator=(const Compositor &) = delete;
-    ~Compositor()
+    ~Compositor() { end(SIGTERM); }
+
+    void end(int signal)
     {
         if (pid > 0) {
-            kill(pid, SIGTERM);
+            kill(pid, signal);
             waitpid(pid, nullptr, 0);
         }
+        pid = -1;
     }
 
     /// False if it did not start.
@@ -70,9 +73,20 @@ public:
     }
 
 private:
+    const char *socketName;
     QTemporaryDir directory;
     pid_t pid = -1;
 };
+
+/// Whether the program runs its event loop: just before, it begins to handle signals.
+bool handlesSignals(qint64 pid)
+{
+    QFile file(QStringLiteral("/proc/%1/status").arg(pid));
+    const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QByteArray key = "\nSigCgt:";
+    const QByteArray caught = status.mid(status.indexOf(key) + key.size()).split('\n').value(0).trimmed();
+    return (caught.toULongLong(nullptr, 16) & (1U << (SIGTERM - 1U))) != 0;
+}
 
 bool hasWaylandPlugin()
 {
@@ -165,11 +179,28 @@ private Q_SLOTS:
                                 QMessageBox::Cancel),
                  QMessageBox::Ok);
     }
+
+    void theLossOfTheCompositorSavesTheSettings()
+    {
+        Compositor another("zsm-test-2");
+        QVERIFY(another.waitUntilReady());
+        QProcess program;
+        program.start(QStringLiteral(ZSM_PROGRAM), {QStringLiteral("processes")});
+        QVERIFY(program.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(handlesSignals(program.processId()), 30000);
+        QVERIFY(!QFile::exists(Fixture::settingsFile()));
+        another.end(SIGKILL);
+        QVERIFY(program.waitForFinished(30000));
+        QVERIFY2(program.exitStatus() == QProcess::NormalExit, program.readAllStandardError());
+        QCOMPARE(program.exitCode(), 1);
+        QVERIFY(QSettings().contains(QStringLiteral("geometry")));
+        QCOMPARE(QSettings().value(QStringLiteral("interval/nwt")).toInt(), 3);
+    }
 };
 
 int main(int argc, char **argv)
 {
-    Compositor compositor;
+    Compositor compositor("zsm-test");
     const bool available = hasWaylandPlugin() && compositor.waitUntilReady();
     qputenv("QT_QPA_PLATFORM", available ? "wayland" : "offscreen");
     QApplication application(argc, argv);

@@ -71,6 +71,19 @@ protected:
     /// Waits until the process list has been refreshed.
     bool waitForRefresh() { return isListed(sample("ltr")); }
 
+    /// Counts wake-ups of the program: unless probed, it wakes up only for its tick.
+    bool waitForTicks()
+    {
+        const auto wakeUps = [&] {
+            QFile file(QString("/proc/%1/status").arg(session->pid()));
+            const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+            const QByteArray key = "\nvoluntary_ctxt_switches:";
+            return status.mid(status.indexOf(key) + key.size()).split('\n').value(0).trimmed().toLong();
+        };
+        const long before = wakeUps();
+        return session->waitFor([&] { return wakeUps() >= before + 3; });
+    }
+
     bool clickOk() { return session->clickButton("OK") && page->waitForNoDialog(); }
 
     /// Of the active dialog.

@@ -177,6 +177,11 @@ QProcessEnvironment DesktopSession::programEnvironment() const
 
 bool DesktopSession::start(const QStringList &arguments)
 {
+    return launch(arguments) && waitForWindow();
+}
+
+bool DesktopSession::launch(const QStringList &arguments)
+{
     if (!startDesktop()) {
         return false;
     }
@@ -190,7 +195,7 @@ bool DesktopSession::start(const QStringList &arguments)
     program = std::make_unique<BoundProcess>();
     program->setProcessEnvironment(programEnvironment());
     program->start(setup.program, arguments);
-    return program->waitForStarted() ? waitForWindow() : fail("can't start " + setup.program);
+    return program->waitForStarted() || fail("can't start " + setup.program);
 }
 
 bool DesktopSession::waitForWindow()
@@ -239,6 +244,25 @@ int DesktopSession::exitCode() const
 {
     const bool exited = program && !isRunning() && program->exitStatus() == QProcess::NormalExit;
     return exited ? program->exitCode() : -1;
+}
+
+int DesktopSession::endingSignal() const
+{
+    const bool crashed = program && !isRunning() && program->exitStatus() == QProcess::CrashExit;
+    return crashed ? program->exitCode() : 0;
+}
+
+void DesktopSession::killServer()
+{
+    client.close();
+    server->kill();
+    server->waitForFinished();
+}
+
+QByteArray DesktopSession::settings() const
+{
+    QFile file(settingsFile());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void DesktopSession::collectOutput()

@@ -46,7 +46,13 @@ public:
     /// Starts the program, and the desktop before the first time; returns once its window is drawn and has
     /// the focus. After the program has exited it can be started again in the same home.
     bool start(const QStringList &arguments = {});
+    /// The same, but does not wait for a window.
+    bool launch(const QStringList &arguments = {});
+    bool waitForWindow(); ///< after launch()
     QString error() const { return lastError; }
+
+    /// Kills the X server; nothing that concerns windows may be called afterwards.
+    void killServer();
 
     /// Waits for the program to exit on its own.
     bool waitForExit();
@@ -55,7 +61,8 @@ public:
     /// Closes the window, then exitsCleanly(). For cleanup(): if the current test has failed, it warns of
     /// error() and closes a menu or list that is still open.
     bool endsCleanly();
-    int exitCode() const; ///< -1 while it runs, and if a signal ended it
+    int exitCode() const;     ///< -1 while it runs, and if a signal ended it
+    int endingSignal() const; ///< 0 while it runs, and if no signal ended it
     bool isRunning() const { return program && program->state() != QProcess::NotRunning; }
     qint64 pid() const { return program ? program->processId() : 0; } ///< 0 if it doesn't run
     QByteArray standardOutput();
@@ -63,6 +70,8 @@ public:
 
     QString home() const { return directory.filePath("home"); }
     QString settingsFile() const { return home() + "/.config/Telmorra/zarn-system-monitor.conf"; }
+
+    QByteArray settings() const; ///< content of the settings file; empty if there is none
 
     /// Changes what libgtop reports from the program's next refresh on; only with a machine in the options.
     void setMachine(const standin::Machine &machine);
@@ -120,7 +129,6 @@ private:
     bool startServer();
     bool startWindowManager();
     QProcessEnvironment programEnvironment() const;
-    bool waitForWindow();
     QString probePath() const { return directory.filePath(QString("probe%1").arg(runs)); }
     bool scrollToRow(const QString &table, const QString &header, const QString &text);
     bool fail(const QString &error);

@@ -35,7 +35,8 @@ private Q_SLOTS:
     void withTooFewItKeepsItsListUntilThereAreMore()
     {
         const rlim_t enough = lowestUsefulLimit();
-        QVERIFY(limitDescriptors(3));
+        // All below are open, but poll(2) refuses to wait for more of them than the limit allows.
+        QVERIFY(limitDescriptors(8));
         const QStringList before = page->list().column("PID");
         QVERIFY(!before.isEmpty());
         const SampleProcess process("desc");
@@ -68,19 +69,6 @@ private:
             highest = std::max(highest, descriptor.toInt());
         }
         return static_cast<rlim_t>(highest) + 1;
-    }
-
-    /// Counts wake-ups of the program: unless probed, it wakes up only for its tick.
-    bool waitForTicks()
-    {
-        const auto wakeUps = [&] {
-            QFile file(QString("/proc/%1/status").arg(session->pid()));
-            const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-            const QByteArray key = "\nvoluntary_ctxt_switches:";
-            return status.mid(status.indexOf(key) + key.size()).split('\n').value(0).trimmed().toLong();
-        };
-        const long before = wakeUps();
-        return session->waitFor([&] { return wakeUps() >= before + 3; });
     }
 
     void verifyQuitsAndSaves()

@@ -126,6 +126,20 @@ private Q_SLOTS:
         }
     }
 
+    /// Otherwise a message of a library would go to the display.
+    void closedStandardStreamsAreOpened()
+    {
+        SessionOptions options;
+        options.program = "/bin/sh";
+        session = std::make_unique<DesktopSession>(options);
+        const QString command = QString("exec '%1' filesystems <&- >&- 2>&-").arg(ZSM_PROGRAM);
+        QVERIFY2(session->start({"-c", command}), qPrintable(session->error()));
+        for (int stream = 0; stream <= 2; ++stream) {
+            const QString link = QString("/proc/%1/fd/%2").arg(session->pid()).arg(stream);
+            QCOMPARE(QFile::symLinkTarget(link), QString("/dev/null"));
+        }
+    }
+
 private:
     int currentTab() { return session->widget("tabWidget").value("currentIndex").toInt(-1); }
     std::unique_ptr<DesktopSession> session;

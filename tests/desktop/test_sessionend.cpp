@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/desktop/programtest.h"
+#include "tests/desktop/sessionmanager.h"
+
+#include <csignal>
+
+/// The end of the desktop's session, as an X session manager announces it.
+class TestSessionEnd : public ProgramTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        manager = std::make_unique<SessionManager>();
+        QVERIFY(manager->listen());
+        SessionOptions options;
+        options.environment["SESSION_MANAGER"] = manager->address();
+        session = std::make_unique<DesktopSession>(asTestUser(options));
+        page = std::make_unique<ProcessesPage>(*session);
+        QVERIFY2(session->launch({"processes"}), qPrintable(session->error()));
+        QVERIFY2(session->waitFor([&] { return manager->hasClient(); }), qPrintable(session->error()));
+        QVERIFY2(session->waitForWindow(), qPrintable(session->error()));
+        QVERIFY(session->clickHeader("treeView", "User"));
+        QVERIFY(session->waitFor([&] { return page->list().sortSection > 0; }));
+        QCOMPARE(session->settings(), QByteArray());
+    }
+
+    void cleanup()
+    {
+        reportFailure();
+        session.reset();
+        manager.reset();
+    }
+
+    void theSettingsAreSavedEvenIfTheProgramIsKilledThen()
+    {
+        manager->askToSave();
+        QVERIFY(session->waitFor([&] { return manager->hasSaved(); }));
+        verifySaved();
+        kill(static_cast<pid_t>(session->pid()), SIGKILL);
+        QVERIFY(session->waitForExit());
+        verifySaved();
+    }
+
+    void theProgramEndsWithTheSession()
+    {
+        manager->askToSave();
+        QVERIFY(session->waitFor([&] { return manager->hasSaved(); }));
+        manager->end();
+        QVERIFY(session->waitFor([&] { return manager->hasSaved() && !session->isRunning(); }));
+        QVERIFY(session->exitsCleanly());
+        verifySaved();
+    }
+
+    void anEndThatIsCancelledLeavesTheWindow()
+    {
+        manager->askToSave();
+        QVERIFY(session->waitFor([&] { return manager->hasSaved(); }));
+        manager->cancel();
+        QVERIFY2(waitForRefresh(), qPrintable(session->error()));
+        QVERIFY(page->showPage("System"));
+        verifyQuitsCleanly();
+        verifySaved();
+    }
+
+private:
+    void verifySaved()
+    {
+        const QByteArray settings = session->settings();
+        QVERIFY2(settings.contains("proc_sort_column=") && !settings.contains("proc_sort_column=0"),
+                 settings.constData());
+    }
+
+    std::unique_ptr<SessionManager> manager;
+};
+
+QTEST_GUILESS_MAIN(TestSessionEnd)
+#include "test_sessionend.moc"
