@@ -468,6 +468,13 @@ Všechna data procesu mohou být ztracena.</translation>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>Monitor systému nelze spustit: %1 nelze přečíst. Potřebuje úplný souborový systém proc připojený na /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

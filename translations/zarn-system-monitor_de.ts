@@ -468,6 +468,13 @@ Alle Daten des Prozesses können verloren gehen.</translation>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>Der Systemmonitor kann nicht starten: %1 ist nicht lesbar. Er braucht das vollständige Dateisystem proc, eingehängt unter /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

@@ -468,6 +468,13 @@ Se pueden perder todos los datos del proceso.</translation>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>El monitor del sistema no se puede iniciar: no se puede leer %1. Necesita el sistema de archivos proc completo, montado en /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

@@ -468,6 +468,13 @@ Toutes les données du processus peuvent être perdues.</translation>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>Le moniteur système ne peut pas démarrer : impossible de lire %1. Il a besoin du système de fichiers proc complet, monté sur /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

@@ -468,6 +468,13 @@ Tutti i dati del processo potrebbero andare persi.</translation>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>Il monitor di sistema non può essere avviato: impossibile leggere %1. Richiede il file system proc completo, montato su /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

@@ -468,6 +468,13 @@ All process data can be lost.</source>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>システムモニターを起動できません: %1 を読み取れません。完全な proc ファイルシステムが /proc にマウントされている必要があります。</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

@@ -468,6 +468,13 @@ All process data can be lost.</source>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>시스템 모니터를 시작할 수 없습니다: %1을(를) 읽을 수 없습니다. 전체 proc 파일 시스템이 /proc에 마운트되어 있어야 합니다.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

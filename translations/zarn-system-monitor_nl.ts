@@ -468,6 +468,13 @@ Alle gegevens van het proces kunnen verloren gaan.</translation>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>De systeemmonitor kan niet starten: %1 kan niet worden gelezen. Hij heeft het volledige bestandssysteem proc nodig, aangekoppeld op /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

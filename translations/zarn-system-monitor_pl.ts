@@ -468,6 +468,13 @@ Wszystkie dane procesu mogą zostać utracone.</translation>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>Nie można uruchomić monitora systemu: nie można odczytać %1. Wymaga on pełnego systemu plików proc zamontowanego w /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

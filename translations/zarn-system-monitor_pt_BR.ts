@@ -468,6 +468,13 @@ Todos os dados do processo podem ser perdidos.</translation>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>O monitor do sistema não pode iniciar: não é possível ler %1. Ele precisa do sistema de arquivos proc completo, montado em /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

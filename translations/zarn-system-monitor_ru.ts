@@ -468,6 +468,13 @@ All process data can be lost.</source>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>Не удаётся запустить системный монитор: невозможно прочитать %1. Нужна полная файловая система proc, смонтированная в /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

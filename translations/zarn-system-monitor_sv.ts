@@ -468,6 +468,13 @@ Alla processens data kan gå förlorade.</translation>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>Systemövervakaren kan inte starta: %1 kan inte läsas. Den behöver hela filsystemet proc, monterat på /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

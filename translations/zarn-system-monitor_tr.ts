@@ -468,6 +468,13 @@ Sürecin tüm verileri kaybolabilir.</translation>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>Sistem izleyici başlatılamıyor: %1 okunamıyor. /proc konumuna bağlanmış eksiksiz bir proc dosya sistemi gereklidir.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

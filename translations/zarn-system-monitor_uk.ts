@@ -468,6 +468,13 @@ All process data can be lost.</source>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>Не вдається запустити системний монітор: неможливо прочитати %1. Потрібна повна файлова система proc, змонтована в /proc.</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>

@@ -468,6 +468,13 @@ All process data can be lost.</source>
     </message>
 </context>
 <context>
+    <name>SystemFiles</name>
+    <message>
+        <source>The system monitor can&apos;t start: %1 can&apos;t be read. It needs the whole proc file system, mounted at /proc.</source>
+        <translation>系统监视器无法启动：无法读取 %1。它需要挂载在 /proc 的完整 proc 文件系统。</translation>
+    </message>
+</context>
+<context>
     <name>TimeHisto</name>
     <message>
         <source>In</source>
