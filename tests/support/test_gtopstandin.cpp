@@ -6,18 +6,7 @@
 
 #include <glib.h>
 #include <glibtop.h>
-#include <glibtop/cpu.h>
-#include <glibtop/fsusage.h>
-#include <glibtop/mem.h>
-#include <glibtop/mountlist.h>
-#include <glibtop/netlist.h>
-#include <glibtop/netload.h>
-#include <glibtop/procargs.h>
-#include <glibtop/proclist.h>
-#include <glibtop/procmem.h>
-#include <glibtop/procstate.h>
-#include <glibtop/proctime.h>
-#include <glibtop/procuid.h>
+#include <glibtop/union.h>
 #include <unistd.h>
 
 #include <algorithm>

@@ -4,14 +4,7 @@
 #include "tests/support/probe/describe.h"
 #include "tests/support/probe/inputmarks.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTabWidget>
+#include <QtWidgets>
 
 #include <fcntl.h>
 

@@ -1,19 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/probe/describe.h"
 
-#include <QAbstractItemView>
-#include <QAccessible>
-#include <QAction>
-#include <QComboBox>
-#include <QHeaderView>
-#include <QMainWindow>
-#include <QMenu>
-#include <QMenuBar>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTableView>
-#include <QTreeView>
-#include <QWindow>
+#include <QtWidgets>
 
 namespace probe {
 namespace {

@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/probe/describe.h"
 
-#include <QAbstractItemView>
-#include <QAbstractProxyModel>
-#include <QHeaderView>
-#include <QItemSelectionModel>
-#include <QTableView>
-#include <QTreeView>
+#include <QtWidgets>
 
 #include <vector>
 
