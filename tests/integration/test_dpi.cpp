@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "integration/dpi.h"
 
 #include <QGuiApplication>
@@ -13,16 +14,15 @@ class TestDpi : public QObject
 private Q_SLOTS:
     void theFactorIsRelativeTo96Dpi_data()
     {
-        QTest::addColumn<double>("dpi");
-        QTest::addColumn<double>("factor");
-        QTest::newRow("96") << 96.0 << 1.0;
-        QTest::newRow("144") << 144.0 << 1.5;
-        QTest::newRow("192") << 192.0 << 2.0;
-        QTest::newRow("72") << 72.0 << 0.75;
-        QTest::newRow("zero") << 0.0 << 1.0;
-        QTest::newRow("negative") << -96.0 << 1.0;
-        QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 1.0;
-        QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << 1.0;
+        const Rows<double, double> row("dpi", "factor");
+        row("96", 96.0, 1.0);
+        row("144", 144.0, 1.5);
+        row("192", 192.0, 2.0);
+        row("72", 72.0, 0.75);
+        row("zero", 0.0, 1.0);
+        row("negative", -96.0, 1.0);
+        row("not a number", std::numeric_limits<double>::quiet_NaN(), 1.0);
+        row("infinite", std::numeric_limits<double>::infinity(), 1.0);
     }
 
     void theFactorIsRelativeTo96Dpi()

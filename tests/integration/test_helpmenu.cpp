@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "integration/helpmenu.h"
 
+#include "../support/rows.h"
 #include "integration/dpi.h"
 #include "integration/zarninit.h"
 #include "tests/support/modal.h"
@@ -46,20 +47,17 @@ private Q_SLOTS:
         }
     }
 
-    void aboutShowsWhatZarnInitWasGiven_data()
+    void aboutIsModalAndShowsWhatZarnInitWasGiven_data()
     {
-        QTest::addColumn<QByteArray>("version");
-        QTest::addColumn<QByteArray>("description");
-        QTest::addColumn<QString>("shown"); // separated by "|"
-        QTest::newRow("plain texts") << QByteArray("1.2.2") << QByteArray("Watches the system.")
-                                     << QString("Version 1.2.2|Watches the system.");
-        QTest::newRow("markup and place holders are escaped")
-            << QByteArray("1 %2") << QByteArray("<b>a & b</b> %1")
-            << QString("Version 1 %2|&lt;b&gt;a &amp; b&lt;/b&gt; %1");
-        QTest::newRow("no version line without a version") << QByteArray() << QByteArray() << QString();
+        // What is shown is separated by "|".
+        const Rows<QByteArray, QByteArray, QString> row("version", "description", "shown");
+        row("plain texts", "1.2.2", "Watches the system.", "Version 1.2.2|Watches the system.");
+        row("markup and place holders are escaped", "1 %2", "<b>a & b</b> %1",
+            "Version 1 %2|&lt;b&gt;a &amp; b&lt;/b&gt; %1");
+        row("no version line without a version", {}, {}, {});
     }
 
-    void aboutShowsWhatZarnInitWasGiven()
+    void aboutIsModalAndShowsWhatZarnInitWasGiven()
     {
         QFETCH(QByteArray, version);
         QFETCH(QByteArray, description);
@@ -67,19 +65,13 @@ private Q_SLOTS:
         zarnInit(version.isNull() ? nullptr : version.constData(),
                  description.isNull() ? nullptr : description.constData());
         openBox(entry(0), [&](QMessageBox *box) {
+            QVERIFY(box->isModal());
+            QCOMPARE(box->parentWidget(), window.get());
             QCOMPARE(box->windowTitle(), QStringLiteral("About watcher"));
             for (const QString &text : (shown + "|watcher|GPL-3.0-or-later").split(QLatin1Char('|'))) {
                 QVERIFY2(box->text().contains(text), qPrintable(text));
             }
             QCOMPARE(box->text().contains(QStringLiteral("Version")), !version.isNull());
-        });
-    }
-
-    void aboutIsModalAndBelongsToTheWindow()
-    {
-        openBox(entry(0), [this](QMessageBox *box) {
-            QVERIFY(box->isModal());
-            QCOMPARE(box->parentWidget(), window.get());
         });
     }
 
@@ -106,10 +98,10 @@ private Q_SLOTS:
 
     void aboutClosesOnKey_data()
     {
-        QTest::addColumn<int>("key");
-        QTest::newRow("Escape") << int(Qt::Key_Escape);
-        QTest::newRow("Return") << int(Qt::Key_Return);
-        QTest::newRow("Enter") << int(Qt::Key_Enter);
+        const Rows<int> row("key");
+        row("Escape", Qt::Key_Escape);
+        row("Return", Qt::Key_Return);
+        row("Enter", Qt::Key_Enter);
     }
 
     void aboutClosesOnKey()

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QDir>
-#include <QFileInfo>
-#include <QIcon>
-#include <QImage>
-#include <QTest>
+#include "../support/rows.h"
+
+#include <QtGui>
+#include <QtTest>
 
 namespace {
 
@@ -30,14 +29,13 @@ private Q_SLOTS:
     void initTestCase() { Q_INIT_RESOURCE(images); }
     void picturesAreTransparentAndShowOnLightAndDark_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("side");
-        QTest::newRow("logo") << QStringLiteral(":/images/diobin_logo.png") << 168;
-        QTest::newRow("exit") << QStringLiteral(":/images/exit") << 64;
-        QTest::newRow("pause") << QStringLiteral(":/images/pause") << 64;
-        QTest::newRow("continue") << QStringLiteral(":/images/continue") << 64;
-        QTest::newRow("hard disk") << QStringLiteral(":/images/hard") << 64;
-        QTest::newRow("optical disc") << QStringLiteral(":/images/cd") << 64;
+        const Rows<QString, int> row("name", "side");
+        row("logo", ":/images/diobin_logo.png", 168);
+        row("exit", ":/images/exit", 64);
+        row("pause", ":/images/pause", 64);
+        row("continue", ":/images/continue", 64);
+        row("hard disk", ":/images/hard", 64);
+        row("optical disc", ":/images/cd", 64);
     }
 
     void picturesAreTransparentAndShowOnLightAndDark()

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "integration/geometry.h"
 
-#include <QFile>
-#include <QMainWindow>
-#include <QScreen>
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QToolBar>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <climits>
 #include <memory>
@@ -24,11 +20,6 @@ class Window : public QMainWindow
 public:
     Window() { setMinimumSize(100, 80); }
 };
-
-QRect screenArea()
-{
-    return QGuiApplication::primaryScreen()->availableGeometry();
-}
 
 QVariantList fields(int x, int y, int width, int height, int titleBar = 0, int maximized = 0)
 {
@@ -70,27 +61,15 @@ private Q_SLOTS:
 
     void titleBarDecidesWhetherARectangleLiesOnAScreen_data()
     {
-        QTest::addColumn<QRect>("client");
-        QTest::addColumn<int>("titleBar");
-        QTest::addColumn<QVector<QRect>>("screens");
-        QTest::addColumn<QRect>("fitted");
-
+        const Rows<QRect, int, QVector<QRect>, QRect> row("client", "titleBar", "screens", "fitted");
         // A panel of 30 pixels along the top of the left screen, and a lower screen to the right of it.
         const QVector<QRect> one{QRect(0, 30, 1920, 1050)};
         const QVector<QRect> two{QRect(0, 30, 1920, 1050), QRect(1920, 200, 1280, 720)};
         const QVector<QRect> negative{QRect(-1280, 0, 1280, 720)};
         const auto fits = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
-                              int titleBar = 25) {
-            QTest::newRow(name) << client << titleBar << screens << client;
-        };
+                              int titleBar = 25) { row(name, client, titleBar, screens, client); };
         const auto isLost = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
-                                int titleBar = 25) {
-            QTest::newRow(name) << client << titleBar << screens << QRect();
-        };
-        const auto isCut = [&](const char *name, const QRect &client, const QVector<QRect> &screens,
-                               const QRect &fitted) {
-            QTest::newRow(name) << client << 25 << screens << fitted;
-        };
+                                int titleBar = 25) { row(name, client, titleBar, screens, QRect()); };
 
         fits("inside", QRect(100, 100, 640, 480), one);
         fits("on the second screen", QRect(2000, 300, 640, 480), two);
@@ -112,12 +91,11 @@ private Q_SLOTS:
         fits("title bar at the bottom edge", QRect(100, 1097, 640, 480), one);
         isLost("title bar below the bottom edge", QRect(100, 1098, 640, 480), one);
 
-        isCut("wider than the screen", QRect(-50, 100, 4000, 480), one, QRect(0, 100, 1920, 480));
-        isCut("higher than the screen", QRect(100, 100, 640, 4000), one, QRect(100, 55, 640, 1025));
+        row("wider than the screen", QRect(-50, 100, 4000, 480), 25, one, QRect(0, 100, 1920, 480));
+        row("higher than the screen", QRect(100, 100, 640, 4000), 25, one, QRect(100, 55, 640, 1025));
         fits("as large as the screen", QRect(0, 55, 1920, 1025), one);
-        isCut("cut to the screen that shows most of it", QRect(1800, 300, 1300, 480), two,
-              QRect(1920, 300, 1280, 480));
-
+        row("cut to the screen that shows most of it", QRect(1800, 300, 1300, 480), 25, two,
+            QRect(1920, 300, 1280, 480));
         fits("smallest", QRect(100, 100, 64, 32), one);
         isLost("too narrow", QRect(100, 100, 63, 480), one);
         isLost("too low", QRect(100, 100, 640, 31), one);
@@ -151,17 +129,10 @@ private Q_SLOTS:
 
     void onlyTheSizeIsBoundWhereWindowsAreNotPlaced_data()
     {
-        QTest::addColumn<QSize>("client");
-        QTest::addColumn<int>("titleBar");
-        QTest::addColumn<QVector<QRect>>("screens");
-        QTest::addColumn<QSize>("fitted");
+        const Rows<QSize, int, QVector<QRect>, QSize> row("client", "titleBar", "screens", "fitted");
 
         const QVector<QRect> one{QRect(0, 0, 1280, 1024)};
         const QVector<QRect> upright{QRect(0, 0, 1280, 720), QRect(1280, 0, 1080, 1920)};
-        const auto row = [](const char *name, const QSize &client, int titleBar,
-                            const QVector<QRect> &screens, const QSize &fitted) {
-            QTest::newRow(name) << client << titleBar << screens << fitted;
-        };
         row("smaller than the screen", QSize(900, 700), 30, one, QSize(900, 700));
         row("as large as the screen", QSize(1280, 994), 30, one, QSize(1280, 994));
         row("one pixel too large each way", QSize(1281, 995), 30, one, QSize(1280, 994));
@@ -188,7 +159,7 @@ private Q_SLOTS:
         QTEST(zarnFitSizeToScreens(client, titleBar, screens), "fitted");
     }
 
-    void firstStartGivesTheDefault()
+    void firstStartGivesTheDefaultEvenToAMaximizedWindow()
     {
         Window window;
         restore(window);
@@ -197,6 +168,10 @@ private Q_SLOTS:
         window.show();
         QCOMPARE(window.frameGeometry().topLeft(), QPoint(0, 0));
         QCOMPARE(window.size(), QSize(640, 480));
+        window.showMaximized();
+        restore(window);
+        QVERIFY(!window.isMaximized());
+        QCOMPARE(window.size(), defaultRect.size());
     }
 
     void geometryIsKeptUnderOneKey()
@@ -270,15 +245,6 @@ private Q_SLOTS:
         QCOMPARE(after.geometry(), savedRect);
     }
 
-    void visibleMaximizedWindowCanBeGivenTheDefault()
-    {
-        Window window;
-        window.showMaximized();
-        restore(window);
-        QVERIFY(!window.isMaximized());
-        QCOMPARE(window.size(), defaultRect.size());
-    }
-
     void oversizedGeometryIsCutToTheScreen()
     {
         store(QVariant(fields(0, 20, 100000, 100000, 20)));
@@ -289,37 +255,33 @@ private Q_SLOTS:
 
     void unusableValuesGiveTheDefault_data()
     {
-        QTest::addColumn<QVariant>("value");
+        const Rows<QVariant> row("value");
         QWidget other;
         const QByteArray bytes = other.saveGeometry();
-        QTest::newRow("invalid") << QVariant();
-        QTest::newRow("empty text") << QVariant(QString());
-        QTest::newRow("text") << QVariant(QStringLiteral("nonsense"));
-        QTest::newRow("number") << QVariant(7);
-        QTest::newRow("true") << QVariant(true);
-        QTest::newRow("rectangle") << QVariant(savedRect);
-        QTest::newRow("foreign bytes") << QVariant(bytes);
-        QTest::newRow("truncated bytes") << QVariant(bytes.left(7));
-        QTest::newRow("random bytes") << QVariant(QByteArray("\xff\x00\x80,1,2\n@", 9));
-        QTest::newRow("a megabyte") << QVariant(QByteArray(1 << 20, ','));
-        QTest::newRow("empty list") << QVariant(QVariantList());
-        QTest::newRow("five fields") << QVariant(fields(40, 60, 500, 300).mid(0, 5));
-        QTest::newRow("seven fields") << QVariant(fields(40, 60, 500, 300) << 1);
-        QTest::newRow("words for numbers")
-            << QVariant(QStringLiteral("x,,500,300,0,0").split(QLatin1Char(',')));
-        QTest::newRow("beyond int") << QVariant(
-            QStringLiteral("99999999999,60,500,300,0,0").split(QLatin1Char(',')));
-        QTest::newRow("lowest ints") << QVariant(
-            fields(INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MIN));
-        QTest::newRow("highest ints")
-            << QVariant(fields(INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX));
-        QTest::newRow("highest size") << QVariant(fields(0, 0, INT_MAX, INT_MAX));
-        QTest::newRow("off the screen") << QVariant(fields(5000, 5000, 500, 300, 25, 1));
-        QTest::newRow("1 x 1") << QVariant(fields(40, 60, 1, 1));
-        QTest::newRow("0 x 0") << QVariant(fields(40, 60, 0, 0));
-        QTest::newRow("negative size") << QVariant(fields(40, 60, -500, -300));
-        QTest::newRow("negative title bar") << QVariant(fields(40, 60, 500, 300, -1));
-        QTest::newRow("title bar of 501") << QVariant(fields(40, 560, 500, 300, 501));
+        row("invalid", {});
+        row("empty text", QString());
+        row("text", QStringLiteral("nonsense"));
+        row("number", 7);
+        row("true", true);
+        row("rectangle", savedRect);
+        row("foreign bytes", bytes);
+        row("truncated bytes", bytes.left(7));
+        row("random bytes", QByteArray("\xff\x00\x80,1,2\n@", 9));
+        row("a megabyte", QByteArray(1 << 20, ','));
+        row("empty list", QVariantList());
+        row("five fields", fields(40, 60, 500, 300).mid(0, 5));
+        row("seven fields", fields(40, 60, 500, 300) << 1);
+        row("words for numbers", QStringList({"x", "", "500", "300", "0", "0"}));
+        row("beyond int", QStringList({"99999999999", "60", "500", "300", "0", "0"}));
+        row("lowest ints", fields(INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MIN, INT_MIN));
+        row("highest ints", fields(INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX, INT_MAX));
+        row("highest size", fields(0, 0, INT_MAX, INT_MAX));
+        row("off the screen", fields(5000, 5000, 500, 300, 25, 1));
+        row("1 x 1", fields(40, 60, 1, 1));
+        row("0 x 0", fields(40, 60, 0, 0));
+        row("negative size", fields(40, 60, -500, -300));
+        row("negative title bar", fields(40, 60, 500, 300, -1));
+        row("title bar of 501", fields(40, 560, 500, 300, 501));
     }
 
     void unusableValuesGiveTheDefault()
@@ -336,16 +298,13 @@ private Q_SLOTS:
 
     void damagedFileGivesTheDefault_data()
     {
-        QTest::addColumn<QByteArray>("contents");
-        QTest::newRow("binary") << QByteArray("\x00\x01\xfe\xff[[[=\n\r\x80", 12);
-        const std::pair<const char *, const char *> values[] = {
-            {"unfinished value", "\"40, 60"},
-            {"unfinished variant", "@Variant(\\0\\0\\0\n"},
-            {"variant of an unknown type", "@Variant(\\0\\0\\xff\\xff\\xff\\xff)\n"},
-            {"unfinished rectangle", "@Rect(40 60\n"}};
-        for (const auto &value : values) {
-            QTest::newRow(value.first) << QByteArray("[General]\ngeometry=") + value.second;
-        }
+        const Rows<QByteArray> row("contents");
+        const QByteArray key = "[General]\ngeometry=";
+        row("binary", QByteArray("\x00\x01\xfe\xff[[[=\n\r\x80", 12));
+        row("unfinished value", key + "\"40, 60");
+        row("unfinished variant", key + "@Variant(\\0\\0\\0\n");
+        row("variant of an unknown type", key + "@Variant(\\0\\0\\xff\\xff\\xff\\xff)\n");
+        row("unfinished rectangle", key + "@Rect(40 60\n");
     }
 
     void damagedFileGivesTheDefault()
@@ -399,6 +358,7 @@ private Q_SLOTS:
     }
 
 private:
+    static QRect screenArea() { return QGuiApplication::primaryScreen()->availableGeometry(); }
     QString path() const { return directory->filePath(QStringLiteral("settings.ini")); }
     void store(const QVariant &value)
     {
