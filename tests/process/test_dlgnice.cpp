@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "process/dlgnice.h"
 #include "tests/support/modal.h"
 
 #include <QAccessible>
-#include <QDialog>
-#include <QDialogButtonBox>
-#include <QGridLayout>
-#include <QLabel>
-#include <QSlider>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 namespace {
 
@@ -53,14 +49,13 @@ class TestDlgNice : public QObject
 private Q_SLOTS:
     void levelsHaveTheirNames_data()
     {
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QString>("name");
-        const std::pair<int, const char *> rows[] = {
+        const Rows<int, QString> row("value", "name");
+        const QPair<int, const char *> levels[] = {
             {-20, "Very high priority"}, {-11, "Very high priority"}, {-10, "High priority"},
             {-1, "High priority"},       {0, "Normal priority"},      {1, "Low priority"},
             {10, "Low priority"},        {11, "Very low priority"},   {20, "Very low priority"}};
-        for (const auto &row : rows) {
-            QTest::addRow("%d", row.first) << row.first << row.second;
+        for (const auto &level : levels) {
+            row(QByteArray::number(level.first), level.first, level.second);
         }
     }
 
@@ -107,57 +102,41 @@ private Q_SLOTS:
         });
     }
 
-    void theDialogHasTheGivenParent()
+    void theTitleNamesTheProcessAndTheParentIsTheGivenOne_data()
     {
+        const Rows<QString, QString> row("label", "title");
+        row("none", "", "Change priority");
+        row("name and pid", "sleep (412)", "Change priority - sleep (412)");
+        row("pid alone", "412", "Change priority - 412");
+        row("HTML and place markers", "<b>%1</b> (412)", "Change priority - <b>%1</b> (412)");
+    }
+
+    void theTitleNamesTheProcessAndTheParentIsTheGivenOne()
+    {
+        QFETCH(QString, label);
         QWidget window;
         const ModalDriver driver([&](QWidget *dialog) {
+            QTEST(dialog->windowTitle(), "title");
             QCOMPARE(dialog->parentWidget(), &window);
             dialog->close();
         });
-        DlgNice(&window).askPriority(0);
-    }
-
-    void theTitleNamesTheProcess_data()
-    {
-        QTest::addColumn<QString>("label");
-        QTest::addColumn<QString>("title");
-        QTest::newRow("none") << ""
-                              << "Change priority";
-        QTest::newRow("name and pid") << "sleep (412)"
-                                      << "Change priority - sleep (412)";
-        QTest::newRow("pid alone") << "412"
-                                   << "Change priority - 412";
-        QTest::newRow("HTML and place markers") << "<b>%1</b> (412)"
-                                                << "Change priority - <b>%1</b> (412)";
-    }
-
-    void theTitleNamesTheProcess()
-    {
-        QFETCH(QString, label);
-        const ModalDriver driver([](QWidget *dialog) {
-            QTEST(dialog->windowTitle(), "title");
-            dialog->close();
-        });
-        DlgNice(nullptr, label).askPriority(0);
+        DlgNice(&window, label).askPriority(0);
     }
 
     void onlyOkAfterAMoveReturnsTheSlidersValue_data()
     {
-        QTest::addColumn<int>("current");
-        QTest::addColumn<QList<int>>("moves");
-        QTest::addColumn<Act>("leave");
-        QTest::addColumn<int>("answer");
+        const Rows<int, QList<int>, Act, int> row("current", "moves", "leave", "answer");
         const Act ok = [](const Parts &parts) { parts.ok->click(); };
         const Act cancel = [](const Parts &parts) { parts.cancel->click(); };
         const Act close = [](const Parts &parts) { parts.dialog->close(); };
         const Act escape = [](const Parts &parts) { QTest::keyClick(parts.slider, Qt::Key_Escape); };
-        QTest::newRow("closed without a move") << 3 << QList<int>() << close << 3;
-        QTest::newRow("OK") << 0 << QList<int>{-12, 20} << ok << 20;
-        QTest::newRow("OK after moving away and back") << 4 << QList<int>{9, 4} << ok << 4;
-        QTest::newRow("OK below the range") << -99 << QList<int>{-19, -20} << ok << -20;
-        QTest::newRow("Cancel") << -3 << QList<int>{7} << cancel << -3;
-        QTest::newRow("closed") << -3 << QList<int>{7} << close << -3;
-        QTest::newRow("Escape") << -3 << QList<int>{7} << escape << -3;
+        row("closed without a move", 3, QList<int>(), close, 3);
+        row("OK", 0, QList<int>{-12, 20}, ok, 20);
+        row("OK after moving away and back", 4, QList<int>{9, 4}, ok, 4);
+        row("OK below the range", -99, QList<int>{-19, -20}, ok, -20);
+        row("Cancel", -3, QList<int>{7}, cancel, -3);
+        row("closed", -3, QList<int>{7}, close, -3);
+        row("Escape", -3, QList<int>{7}, escape, -3);
     }
 
     void onlyOkAfterAMoveReturnsTheSlidersValue()

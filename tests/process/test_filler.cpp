@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The columns, and real processes as one snapshot shows them.
+#include "../support/brackettranslator.h"
+#include "../support/rows.h"
 #include "cells.h"
 #include "scriptedchild.h"
 
-#include <QCoreApplication>
-#include <QTranslator>
 #include <QtTest>
 
 #include <glibtop.h>
@@ -28,23 +27,6 @@ namespace {
 
 constexpr int deadline = 20000; // milliseconds; only a failure takes that long
 
-/// Translates everything into "<" and the source text.
-class Translator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return qstrcmp(context, "ProcessFiller") == 0 ? QLatin1Char('<') + QString::fromLatin1(text)
-                                                      : QString();
-    }
-};
-
-ProcessFiller *filler()
-{
-    return ProcessFiller::instance();
-}
-
 /// CPU time of a process by another interface of the system, in seconds.
 double cpuSeconds(int pid)
 {
@@ -63,21 +45,11 @@ uid_t realUserOf(int pid)
     return static_cast<uid_t>(ids.uid);
 }
 
-int counterOf(int pid)
-{
-    return filler()->getProcesses(AllProcesses).at(pid).getCpuLoad();
-}
-
 /// Replaces a child by a program that sleeps, under this name in its command line.
 void execSleep(const char *title)
 {
     execlp("sleep", title, "1000", nullptr);
     _exit(1);
-}
-
-void stopItself(const Gate &)
-{
-    raise(SIGSTOP);
 }
 
 void becomeZombie(const Gate &)
@@ -123,19 +95,17 @@ private Q_SLOTS:
 
     void column_data()
     {
-        QTest::addColumn<qulonglong>("number");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("isShown");
+        const Rows<qulonglong, QString, bool> row("number", "name", "isShown");
         const char *const names[] = {
             "Name",          "CPU",  "PID",        "User",     "Memory",  "State",        "Virtual memory",
             "Shared memory", "Nice", "Parent PID", "CPU time", "Started", "Command line", "Processor"};
         qulonglong number = 0;
         for (const char *name : names) {
             const bool isHidden = number >= VirtualMemoryColumn && number <= ParentPidColumn;
-            QTest::newRow(name) << number++ << QString::fromLatin1(name) << !isHidden;
+            row(name, number++, name, !isHidden);
         }
-        QTest::newRow("past the end") << 14ULL << QString() << false;
-        QTest::newRow("far past the end") << std::numeric_limits<qulonglong>::max() << QString() << false;
+        row("past the end", 14ULL, QString(), false);
+        row("far past the end", std::numeric_limits<qulonglong>::max(), QString(), false);
     }
 
     void column()
@@ -145,13 +115,9 @@ private Q_SLOTS:
         QTEST(filler()->isShownByDefault(number), "isShown");
         QCOMPARE(filler()->name(number), name);
         QCOMPARE(filler()->title(number), name);
-        Translator translator;
-        QCoreApplication::installTranslator(&translator);
-        const QString translatedName = filler()->name(number);
-        const QString translatedTitle = filler()->title(number);
-        QCoreApplication::removeTranslator(&translator);
-        QCOMPARE(translatedName, name); // settings keys are made from it
-        QCOMPARE(translatedTitle, name.isEmpty() ? QString() : QLatin1Char('<') + name);
+        const BracketTranslator translator("ProcessFiller");
+        QCOMPARE(filler()->name(number), name); // settings keys are made from it
+        QCOMPARE(filler()->title(number), name.isEmpty() ? name : '<' + name + '>');
     }
 
     void snapshotIsAscendingWithEveryColumnFilled()
@@ -206,11 +172,10 @@ private Q_SLOTS:
 
     void theEffectiveUserDecidesWhatIsMine_data()
     {
-        QTest::addColumn<uid_t>("real");
-        QTest::addColumn<uid_t>("effective");
-        QTest::newRow("other user") << uid_t(65534) << uid_t(65534);
-        QTest::newRow("other effective user") << uid_t(0) << uid_t(65534);
-        QTest::newRow("other real user") << uid_t(65534) << uid_t(0);
+        const Rows<uid_t, uid_t> row("real", "effective");
+        row("other user", uid_t(65534), uid_t(65534));
+        row("other effective user", uid_t(0), uid_t(65534));
+        row("other real user", uid_t(65534), uid_t(0));
     }
 
     void theEffectiveUserDecidesWhatIsMine()
@@ -274,20 +239,13 @@ private Q_SLOTS:
 
     void cellOfAChild_data()
     {
-        QTest::addColumn<Body>("body");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QVariant>("sortValue");
-        const auto state = [](const char *name, const Body &body, const char *text, unsigned code) {
-            QTest::newRow(name) << body << int(StateColumn) << text << QVariant(int(code));
-        };
-        state("stopped", &stopItself, "Stopped", 16);
-        state("zombie", &becomeZombie, "Zombie", GLIBTOP_PROCESS_ZOMBIE);
-        state("uninterruptible", &waitUninterruptibly, "Uninterruptible", GLIBTOP_PROCESS_UNINTERRUPTIBLE);
-        state("traced", &beTraced, "Other", 0);
-        const auto text = [](const char *name, const Body &body, ProcessColumn column, const QString &shown) {
-            QTest::newRow(name) << body << int(column) << shown << QVariant(shown);
-        };
+        const Rows<Body, int, QString, QVariant> row("body", "column", "text", "sortValue");
+        row("zombie", &becomeZombie, StateColumn, "Zombie", GLIBTOP_PROCESS_ZOMBIE);
+        row("uninterruptible", &waitUninterruptibly, StateColumn, "Uninterruptible",
+            GLIBTOP_PROCESS_UNINTERRUPTIBLE);
+        row("traced", &beTraced, StateColumn, "Other", 0);
+        const auto text = [&](const char *name, const Body &body, ProcessColumn column,
+                              const QString &shown) { row(name, body, column, shown, shown); };
         const QString broken(QChar::ReplacementCharacter);
         const QByteArray huge(100 * 1024, 'x');
         const Body rename = [](const Gate &) { prctl(PR_SET_NAME, "\xff) S 1\n("); };
@@ -356,6 +314,10 @@ private Q_SLOTS:
         }
         QTRY_VERIFY_WITH_TIMEOUT(look() && seen > 0, deadline);
     }
+
+private:
+    static ProcessFiller *filler() { return ProcessFiller::instance(); }
+    static int counterOf(int pid) { return filler()->getProcesses(AllProcesses).at(pid).getCpuLoad(); }
 };
 
 QTEST_GUILESS_MAIN(TestFiller)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "process/gtop_wrappers/filler.h"
 #include "process/listplace.h"
 #include "tests/process/support/listview.h"
 
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QtTest>
 
 using namespace gtop_wrappers;
@@ -56,16 +56,12 @@ class TestListPlace : public QObject
 private Q_SLOTS:
     void theSelectionFollowsTheProcess_data()
     {
-        QTest::addColumn<int>("mode"); // 0 leaves the list as it is, 1 resets it, 2 makes a tree of it
-        QTest::addColumn<bool>("remains");
-        QTest::addColumn<int>("started");
-        QTest::addColumn<int>("selected");
-        int mode = 0;
-        for (const char *name : {"refreshed", "reset", "tree"}) {
-            QTest::addRow("%s: same process", name) << mode << true << 2 << 2;
-            QTest::addRow("%s: another one with the pid", name) << mode << true << 99 << -1;
-            QTest::addRow("%s: exited", name) << mode << false << 2 << -1;
-            ++mode;
+        const Rows<int, bool, int, int> row("mode", "remains", "started", "selected");
+        int mode = 0; // 0 leaves the list as it is, 1 resets it, 2 makes a tree of it
+        for (const QByteArray name : {"refreshed", "reset", "tree"}) {
+            row(name + ": same process", mode, true, 2, 2);
+            row(name + ": another one with the pid", mode, true, 99, -1);
+            row(name + ": exited", mode++, false, 2, -1);
         }
     }
 
@@ -95,23 +91,17 @@ private Q_SLOTS:
         QCOMPARE(selectedRow(list.view).isValid(), list.selected() != -1);
     }
 
-    void withoutASelectionNothingIsSelected()
+    void restoringLeavesNoSelectionAndTheRightOneAlone()
     {
         Processes list;
         list.refresh({{1, 0}, {2, 0}});
-        const ListPlace place = list.place();
+        const ListPlace none = list.place();
         list.proxy->setProcessTypes(MyProcesses);
         list.refresh({{1, 0}, {2, 0}});
-        place.restoreSelection(*list.proxy, list.view);
-        place.restoreView(*list.proxy, list.view);
+        none.restoreSelection(*list.proxy, list.view);
+        none.restoreView(*list.proxy, list.view);
         QVERIFY(!list.view.selectionModel()->hasSelection());
         QVERIFY(!list.view.currentIndex().isValid());
-    }
-
-    void aSelectionThatIsRightIsLeftAlone()
-    {
-        Processes list;
-        list.refresh({{1, 0}, {2, 0}});
         list.select(2);
         const ListPlace place = list.place();
         const QSignalSpy changes(list.view.selectionModel(),
@@ -225,18 +215,17 @@ private Q_SLOTS:
 
     void theViewIsScrolledToWhatWasInIt_data()
     {
-        QTest::addColumn<int>("top");      // pid, before
-        QTest::addColumn<int>("selected"); // pid; 0 for none
-        QTest::addColumn<int>("first");    // pid of the first process afterwards
-        QTest::addColumn<int>("expected"); // pid of the top row
-        QTest::newRow("at the top") << 100 << 0 << 100 << 100;
-        QTest::newRow("at the top, others come before") << 100 << 0 << 1 << 1;
-        QTest::newRow("in the middle") << 200 << 0 << 100 << 200;
-        QTest::newRow("in the middle, others come before") << 200 << 0 << 1 << 200;
-        QTest::newRow("in the middle, others go before") << 200 << 0 << 150 << 200;
-        QTest::newRow("the top row goes") << 200 << 0 << 220 << 320; // as far down as before
-        QTest::newRow("selected in view") << 200 << 202 << 1 << 200;
-        QTest::newRow("selected out of view") << 200 << 390 << 1 << 200;
+        // Pids: of the top row and the selected one (0 for none) before, of the first process and the top row
+        // after.
+        const Rows<int, int, int, int> row("top", "selected", "first", "expected");
+        row("at the top", 100, 0, 100, 100);
+        row("at the top, others come before", 100, 0, 1, 1);
+        row("in the middle", 200, 0, 100, 200);
+        row("in the middle, others come before", 200, 0, 1, 200);
+        row("in the middle, others go before", 200, 0, 150, 200);
+        row("the top row goes", 200, 0, 220, 320); // as far down as before
+        row("selected in view", 200, 202, 1, 200);
+        row("selected out of view", 200, 390, 1, 200);
     }
 
     void theViewIsScrolledToWhatWasInIt()

@@ -10,15 +10,6 @@
 using namespace gtop_wrappers;
 using madeup::at;
 
-namespace {
-
-std::map<int, Process> snapshot()
-{
-    return ProcessFiller::instance()->getProcesses(AllProcesses);
-}
-
-} // namespace
-
 class TestOnDemand : public QObject
 {
     Q_OBJECT
@@ -108,6 +99,9 @@ private Q_SLOTS:
         at(11).resident = 2048;
         QCOMPARE(shown(process, MemoryColumn), QStringLiteral("1.00 KB"));
     }
+
+private:
+    static std::map<int, Process> snapshot() { return ProcessFiller::instance()->getProcesses(AllProcesses); }
 };
 
 QTEST_GUILESS_MAIN(TestOnDemand)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "process/gtop_wrappers/param.h"
 #include "process/gtop_wrappers/textondemand.h"
 
@@ -102,27 +103,22 @@ private Q_SLOTS:
 
     void showsAndSorts_data()
     {
-        QTest::addColumn<ParamPtr>("param");
-        QTest::addColumn<QVariant>("display");
-        QTest::addColumn<QVariant>("sortValue");
-        QTest::newRow("text") << ParamPtr(new SimpleProcessParam("init")) << QVariant("init")
-                              << QVariant("init");
-        QTest::newRow("integer with text")
-            << ParamPtr(new IntProcessParam(16, "Stopped")) << QVariant("Stopped") << QVariant(16);
+        const Rows<ParamPtr, QVariant, QVariant> row("param", "display", "sortValue");
+        row("text", ParamPtr(new SimpleProcessParam("init")), "init", "init");
+        row("integer with text", ParamPtr(new IntProcessParam(16, "Stopped")), "Stopped", 16);
         for (const int number : {std::numeric_limits<int>::min(), -20, 0, std::numeric_limits<int>::max()}) {
             QTest::addRow("integer %d", number)
                 << ParamPtr(new IntProcessParam(number)) << QVariant(number) << QVariant(number);
         }
-        const auto size = [](const char *name, quint64 bytes, const char *text) {
-            QTest::newRow(name) << ParamPtr(new SizeProcessParam(bytes)) << QVariant(text) << QVariant(bytes);
+        const auto size = [&](const char *name, quint64 bytes, const char *text) {
+            row(name, ParamPtr(new SizeProcessParam(bytes)), text, bytes);
         };
         size("size of a kernel thread", 0, "0.00 B");
         size("size of a page", 4096, "4.00 KB");
         size("size beyond 32 bits", 6442450944, "6.00 GB");
         size("highest size", highest, "17179869184.00 GB");
-        const auto cpuTime = [](const char *name, quint64 jiffies, quint64 frequency, const char *text) {
-            QTest::newRow(name) << ParamPtr(new CpuTimeProcessParam(jiffies, frequency)) << QVariant(text)
-                                << QVariant(jiffies);
+        const auto cpuTime = [&](const char *name, quint64 jiffies, quint64 frequency, const char *text) {
+            row(name, ParamPtr(new CpuTimeProcessParam(jiffies, frequency)), text, jiffies);
         };
         cpuTime("no CPU time", 0, 100, "0:00:00");
         cpuTime("CPU time under a second", 99, 100, "0:00:00");
@@ -132,9 +128,8 @@ private Q_SLOTS:
         cpuTime("CPU time at another frequency", 372500, 1000, "0:06:12");
         cpuTime("highest CPU time", highest, 100, "51240955760304:18:36");
         cpuTime("CPU time without a frequency", 500, 0, "");
-        const auto started = [](const char *name, quint64 seconds, const QString &text) {
-            QTest::newRow(name) << ParamPtr(new StartedProcessParam(seconds)) << QVariant(text)
-                                << QVariant(seconds);
+        const auto started = [&](const char *name, quint64 seconds, const QString &text) {
+            row(name, ParamPtr(new StartedProcessParam(seconds)), text, seconds);
         };
         const QDateTime now = QDateTime::currentDateTimeUtc();
         started("started long ago", 86461, "1970-01-02 00:01:01");
@@ -144,9 +139,8 @@ private Q_SLOTS:
         started("started past the calendar", 253402300800, "Unknown");
         started("highest start", highest, "Unknown");
         started("no start", 0, "Unknown");
-        const auto commandLine = [](const char *name, const QByteArray &arguments, const char *text) {
-            QTest::newRow(name) << ParamPtr(new CommandLineProcessParam(arguments, "kthreadd"))
-                                << QVariant(text) << QVariant(text);
+        const auto commandLine = [&](const char *name, const QByteArray &arguments, const char *text) {
+            row(name, ParamPtr(new CommandLineProcessParam(arguments, "kthreadd")), text, text);
         };
         commandLine("arguments", QByteArray("ls\0-l\0", 6), "ls -l");
         commandLine("empty argument in the middle", QByteArray("ls\0\0-l\0", 7), "ls  -l");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/parents.h"
 
+#include "../support/rows.h"
 #include "madeupprocesses.h"
 
 #include <QtTest>
@@ -44,11 +45,9 @@ private Q_SLOTS:
 
     void isReadAgain_data()
     {
-        QTest::addColumn<Change>("prepare");
-        QTest::addColumn<Change>("change");
-        QTest::addColumn<int>("parent");
-        const auto row = [](const char *name, const Change &prepare, const Change &change, int parent = 1) {
-            QTest::newRow(name) << prepare << change << parent;
+        const Rows<Change, Change, int> rows("prepare", "change", "parent");
+        const auto row = [&](const char *name, const Change &prepare, const Change &change, int parent = 1) {
+            rows(name, prepare, change, parent);
         };
         const Change nothing = [] {};
         const Change passASecond = [this] { time += std::chrono::seconds(1); };
@@ -101,17 +100,14 @@ private Q_SLOTS:
 
     void isLearntOfProcessesThatWereThereBefore_data()
     {
-        QTest::addColumn<Change>("prepare");
-        QTest::addColumn<quint64>("started");
-        QTest::addColumn<int>("parent");
-        const auto row = [](
-                             const char *name, quint64 started, int parent, const Change &prepare = [] {}) {
-            QTest::newRow(name) << prepare << started << parent;
-        };
-        row("both were", now - 39, 10);
-        row("process may not have been", now - 40, 1);
-        row("parent may not have been", now - 39, 1, [] { at(10).startTime = now - 39; });
-        row("parent is a zombie", now - 39, 1, [] { at(10).state = GLIBTOP_PROCESS_ZOMBIE; });
+        const Rows<Change, quint64, int> row("prepare", "started", "parent");
+        const Change nothing = [] {};
+        row("both were", nothing, now - 39, 10);
+        row("process may not have been", nothing, now - 40, 1);
+        const Change parentIsYounger = [] { at(10).startTime = now - 39; };
+        row("parent may not have been", parentIsYounger, now - 39, 1);
+        const Change parentIsZombie = [] { at(10).state = GLIBTOP_PROCESS_ZOMBIE; };
+        row("parent is a zombie", parentIsZombie, now - 39, 1);
     }
 
     void isLearntOfProcessesThatWereThereBefore()
@@ -119,11 +115,7 @@ private Q_SLOTS:
         QFETCH(Change, prepare);
         QFETCH(quint64, started);
         prepare();
-        std::vector<ProcessRecord> records = readProcesses(std::nullopt, ReadState | ReadTime | ReadUid);
-        parents.learn(records, started);
-        for (ProcessRecord &record : records) {
-            record.unread |= ReadUid;
-        }
+        std::vector<ProcessRecord> records = learnt(started);
         at(11).parent = 1;
         parents.resolve(records, clock, time);
         QTEST(records.at(2).parent, "parent");
@@ -135,11 +127,7 @@ private Q_SLOTS:
         for (int pid = 100; pid < 110; ++pid) {
             processes[pid] = madeup::process(1, now - 50);
         }
-        std::vector<ProcessRecord> records = readProcesses(std::nullopt, ReadEverything);
-        parents.learn(records, now + 1);
-        for (ProcessRecord &record : records) {
-            record.unread |= ReadUid;
-        }
+        std::vector<ProcessRecord> records = learnt(now + 1);
         standin::resetCalls();
         parents.resolve(records, clock, time);
         QCOMPARE(standin::calls().processData, 2U); // for 1, which has no parent
@@ -163,10 +151,7 @@ private Q_SLOTS:
 
     void isRightWithinTenSnapshotsOfAnUnseenChange_data()
     {
-        QTest::addColumn<int>("before");
-        for (int before = 1; before <= 10; ++before) {
-            QTest::addRow("after %d", before) << before;
-        }
+        addNumberRows("before", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, "after %1");
     }
 
     void isRightWithinTenSnapshotsOfAnUnseenChange()
@@ -185,6 +170,16 @@ private Q_SLOTS:
     }
 
 private:
+    /// Records of all processes whose parents have been learnt and are to be resolved.
+    std::vector<ProcessRecord> learnt(quint64 started)
+    {
+        std::vector<ProcessRecord> records = readProcesses(std::nullopt, ReadState | ReadTime | ReadUid);
+        parents.learn(records, started);
+        for (ProcessRecord &record : records) {
+            record.unread |= ReadUid;
+        }
+        return records;
+    }
     /// Reads and resolves all processes; the record of 11.
     ProcessRecord resolved()
     {

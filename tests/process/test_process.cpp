@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "process/gtop_wrappers/process.h"
 #include "process/gtop_wrappers/textondemand.h"
 
@@ -47,9 +48,9 @@ private Q_SLOTS:
 
     void withoutValuesEverythingIsEmpty_data()
     {
-        QTest::addColumn<unsigned long>("pointers");
-        QTest::newRow("no values") << 0UL;
-        QTest::newRow("null pointers") << (0UL + ColumnCount);
+        const Rows<unsigned long> row("pointers");
+        row("no values", 0);
+        row("null pointers", ColumnCount);
     }
 
     void withoutValuesEverythingIsEmpty()
@@ -82,15 +83,14 @@ private Q_SLOTS:
 
     void counterIsTheLow32BitsOfTheTimePlusOne_data()
     {
-        QTest::addColumn<quint64>("jiffies");
-        QTest::addColumn<int>("load");
-        QTest::newRow("no time") << quint64(0) << 1;
-        QTest::newRow("highest positive") << quint64(0x7ffffffe) << 0x7fffffff;
-        QTest::newRow("one more") << quint64(0x7fffffff) << std::numeric_limits<int>::min();
-        QTest::newRow("all bits") << quint64(0xfffffffe) << -1;
-        QTest::newRow("wraps to 0") << quint64(0xffffffff) << 0;
-        QTest::newRow("wrapped") << quint64(0x100000005) << 6;
-        QTest::newRow("highest") << std::numeric_limits<quint64>::max() << 0;
+        const Rows<quint64, int> row("jiffies", "load");
+        row("no time", 0, 1);
+        row("highest positive", 0x7ffffffe, 0x7fffffff);
+        row("one more", 0x7fffffff, std::numeric_limits<int>::min());
+        row("all bits", 0xfffffffe, -1);
+        row("wraps to 0", 0xffffffff, 0);
+        row("wrapped", 0x100000005, 6);
+        row("highest", std::numeric_limits<quint64>::max(), 0);
     }
 
     void counterIsTheLow32BitsOfTheTimePlusOne()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever a real process changes, the next snapshot shows it, with and without the shortcuts of reading.
+#include "../support/rows.h"
 #include "cells.h"
 #include "scriptedchild.h"
 
@@ -169,11 +170,10 @@ private Q_SLOTS:
 
     void reparented_data()
     {
-        QTest::addColumn<bool>("isZombie");
-        QTest::addColumn<bool>("toSubreaper");
-        QTest::newRow("parent exited") << false << false;
-        QTest::newRow("parent exited, the test is a subreaper") << false << true;
-        QTest::newRow("parent is a zombie") << true << false;
+        const Rows<bool, bool> row("isZombie", "toSubreaper");
+        row("parent exited", false, false);
+        row("parent exited, the test is a subreaper", false, true);
+        row("parent is a zombie", true, false);
     }
 
     void reparented()

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "process/gtop_wrappers/filler.h"
 #include "process/procmodel.h"
 #include "tests/process/support/synthetic.h"
 
-#include <QSignalSpy>
 #include <QtTest>
 
 #include <limits>
@@ -20,11 +20,6 @@ public:
     OneProcess() { update(makeCpuSnapshot({{7, 4711}}), 1); }
     using ProcModel::createIndex;
 };
-
-QString title(unsigned long column)
-{
-    return ProcessFiller::instance()->title(column);
-}
 
 } // namespace
 
@@ -47,9 +42,10 @@ private Q_SLOTS:
     void aHiddenColumnComesBackInItsPlace()
     {
         OneProcess model;
+        const int before = model.columnCount();
         model.setColumnVisible(0, false);
         QVERIFY(!model.isColumnVisible(0));
-        QCOMPARE(model.columnCount(), static_cast<int>(ProcessFiller::instance()->size()) - 5);
+        QCOMPARE(model.columnCount(), before - 1);
         QCOMPARE(model.index(0, 1).data().toInt(), 7); // the pid moved up
         model.setColumnVisible(0, true);
         QCOMPARE(model.index(0, 0).data().toString(), QStringLiteral("p7"));
@@ -60,11 +56,11 @@ private Q_SLOTS:
     void aColumnPastTheEndThrows()
     {
         ProcModel model;
-        const unsigned long size = ProcessFiller::instance()->size();
-        QVERIFY_EXCEPTION_THROWN(model.isColumnVisible(size), std::out_of_range);
-        QVERIFY_EXCEPTION_THROWN(model.isColumnVisible(std::numeric_limits<unsigned long>::max()),
-                                 std::out_of_range);
-        QVERIFY_EXCEPTION_THROWN(model.setColumnVisible(size, true), std::out_of_range);
+        for (const unsigned long past :
+             {ProcessFiller::instance()->size(), std::numeric_limits<unsigned long>::max()}) {
+            QVERIFY_EXCEPTION_THROWN(model.isColumnVisible(past), std::out_of_range);
+            QVERIFY_EXCEPTION_THROWN(model.setColumnVisible(past, true), std::out_of_range);
+        }
     }
 
     void headersAreTheTitlesOfTheVisibleColumns()
@@ -78,11 +74,7 @@ private Q_SLOTS:
         }
         QCOMPARE(section, model.columnCount());
         QCOMPARE(model.headerData(6, Qt::Horizontal).toString(), title(10));
-    }
-
-    void headersOutsideTheColumnsAreTheToolkitsOwn()
-    {
-        const ProcModel model;
+        // Elsewhere they are the toolkit's own.
         QCOMPARE(model.headerData(-1, Qt::Horizontal), QVariant(0));
         QCOMPARE(model.headerData(model.columnCount(), Qt::Horizontal), QVariant(model.columnCount() + 1));
         QCOMPARE(model.headerData(0, Qt::Vertical), QVariant(1));
@@ -92,18 +84,13 @@ private Q_SLOTS:
     void displayAndSortValuesAreTheParametersOwn()
     {
         ProcModel model;
-        Facts facts;
-        facts.pid = 12;
-        facts.name = QStringLiteral("twelve");
-        facts.state = 16;
-        facts.cpuCounter = 4711;
-        model.update(makeSnapshot({{12, facts}}), 1);
+        model.update(makeSnapshot({{12, {12, 0, QStringLiteral("twelve"), 4711, 16}}}), 1);
         QCOMPARE(model.index(0, 0).data(), QVariant(QStringLiteral("twelve")));
         QCOMPARE(model.index(0, 2).data(Qt::UserRole), QVariant(12));
         QCOMPARE(model.index(0, 5).data(), QVariant(QStringLiteral("state")));
         QCOMPARE(model.index(0, 5).data(Qt::UserRole), QVariant(16));
-        QCOMPARE(model.index(0, 6).data(Qt::UserRole),
-                 QVariant(4710)); // process column 10, one less than the counter
+        // Process column 10, one less than the counter.
+        QCOMPARE(model.index(0, 6).data(Qt::UserRole), QVariant(4710));
     }
 
     void otherRolesAndMissingParametersGiveNothing()
@@ -125,11 +112,11 @@ private Q_SLOTS:
         QVERIFY(model.index(0, model.columnCount() - 1).isValid());
         QCOMPARE(model.index(0, 3).internalId(), quintptr(7));
         QVERIFY(!model.index(0, 3).parent().isValid());
-        QVERIFY(!model.index(-1, 0).isValid());
-        QVERIFY(!model.index(1, 0).isValid());
-        QVERIFY(!model.index(0, -1).isValid());
-        QVERIFY(!model.index(0, model.columnCount()).isValid());
-        QVERIFY(!model.index(0, 0, model.index(0, 0)).isValid());
+        const int columns = model.columnCount();
+        for (const QModelIndex &index : {model.index(-1, 0), model.index(1, 0), model.index(0, -1),
+                                         model.index(0, columns), model.index(0, 0, model.index(0, 0))}) {
+            QVERIFY(!index.isValid());
+        }
         QVERIFY(!model.parent(QModelIndex()).isValid());
     }
 
@@ -211,11 +198,8 @@ private Q_SLOTS:
     {
         ProcModel model;
         model.update(makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), 1);
-        Facts renamed;
-        renamed.pid = 2;
-        renamed.name = QStringLiteral("other");
         ProcModel::Snapshot snapshot = makeSnapshot({{1, 0}, {3, 0}});
-        snapshot.emplace(2, makeProcess(renamed));
+        snapshot.emplace(2, makeProcess({2, 0, QStringLiteral("other")}));
 
         const QSignalSpy insertions(&model, SIGNAL(rowsInserted(QModelIndex, int, int)));
         const QSignalSpy removals(&model, SIGNAL(rowsRemoved(QModelIndex, int, int)));
@@ -230,17 +214,16 @@ private Q_SLOTS:
 
     void shapesOfTheFlatList_data()
     {
-        QTest::addColumn<Steps>("steps");
-        QTest::newRow("a changed parent leaves for one refresh")
-            << Steps{{makeSnapshot({{1, 0}, {2, 1}}), "1 2"},
-                     {makeSnapshot({{1, 0}, {2, 0}}), "1"},
-                     {makeSnapshot({{1, 0}, {2, 0}}), "1 2"}};
-        QTest::newRow("a vanished process leaves") << Steps{{makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), "1 2 3"},
-                                                            {makeSnapshot({{1, 0}, {3, 0}}), "1 3"},
-                                                            {{}, ""}};
-        QTest::newRow("new processes are appended in ascending pid order, whatever their parents")
-            << Steps{{makeSnapshot({{5, 0}, {3, 5}}), "3 5"},
-                     {makeSnapshot({{1, 0}, {3, 5}, {5, 0}, {4, 0}}), "3 5 1 4"}};
+        const Rows<Steps> row("steps");
+        row("a changed parent leaves for one refresh", {{makeSnapshot({{1, 0}, {2, 1}}), "1 2"},
+                                                        {makeSnapshot({{1, 0}, {2, 0}}), "1"},
+                                                        {makeSnapshot({{1, 0}, {2, 0}}), "1 2"}});
+        row("a vanished process leaves", {{makeSnapshot({{1, 0}, {2, 0}, {3, 0}}), "1 2 3"},
+                                          {makeSnapshot({{1, 0}, {3, 0}}), "1 3"},
+                                          {{}, ""}});
+        row("new processes are appended in ascending pid order, whatever their parents",
+            {{makeSnapshot({{5, 0}, {3, 5}}), "3 5"},
+             {makeSnapshot({{1, 0}, {3, 5}, {5, 0}, {4, 0}}), "3 5 1 4"}});
     }
 
     void shapesOfTheFlatList()
@@ -249,6 +232,9 @@ private Q_SLOTS:
         ProcModel model;
         verifySteps(&model, steps);
     }
+
+private:
+    static QString title(unsigned long column) { return ProcessFiller::instance()->title(column); }
 };
 
 QTEST_MAIN(TestProcModel)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "process/gtop_wrappers/textondemand.h"
 #include "process/procmodel.h"
 #include "tests/process/support/synthetic.h"
@@ -48,18 +49,18 @@ class TestProcModelCpu : public QObject
 private Q_SLOTS:
     void theLoadIsTheShareSinceTheLastRefresh_data()
     {
-        QTest::addColumn<Refreshes>("refreshes");
-        QTest::newRow("the first load is one unit, then the real share")
-            << Refreshes{{5000, 400, 0.25}, {5050, 400, 12.5}, {5050, 400, 0.0}};
-        QTest::newRow("a counter of 0 shows one unit every time, also when it starts to grow")
-            << Refreshes{{0, 1000, 0.1}, {0, 1000, 0.1}, {0, 1000, 0.1}, {10, 1000, 0.1}, {20, 1000, 1.0}};
-        QTest::newRow("a counter that fell wraps to 2^64 - 10, and the next share is right")
-            << Refreshes{{1000, 100, 1.0}, {990, 100, 18446744073709551606.0}, {1000, 100, 10.0}};
-        QTest::newRow("from the highest counter to the lowest")
-            << Refreshes{{highest, 100, 1.0}, {lowest, 100, 18446744069414584321.0}};
+        const Rows<Refreshes> row("refreshes");
+        row("the first load is one unit, then the real share",
+            {{5000, 400, 0.25}, {5050, 400, 12.5}, {5050, 400, 0.0}});
+        row("a counter of 0 shows one unit every time, also when it starts to grow",
+            {{0, 1000, 0.1}, {0, 1000, 0.1}, {0, 1000, 0.1}, {10, 1000, 0.1}, {20, 1000, 1.0}});
+        row("a counter that fell wraps to 2^64 - 10, and the next share is right",
+            {{1000, 100, 1.0}, {990, 100, 18446744073709551606.0}, {1000, 100, 10.0}});
+        row("from the highest counter to the lowest",
+            {{highest, 100, 1.0}, {lowest, 100, 18446744069414584321.0}});
         // The lowest counter less one is the highest as a 32-bit value: a huge first load.
-        QTest::newRow("the lowest counter first")
-            << Refreshes{{lowest, 100, 18446744069414584321.0}, {lowest + 1, highestTotal, 100.0 / 0x1p64}};
+        row("the lowest counter first",
+            {{lowest, 100, 18446744069414584321.0}, {lowest + 1, highestTotal, 100.0 / 0x1p64}});
     }
 
     void theLoadIsTheShareSinceTheLastRefresh()
@@ -74,12 +75,14 @@ private Q_SLOTS:
 
     void theLoadFollowsTheCpuTime_data()
     {
-        QTest::addColumn<TimesAndLoads>("refreshes");
-        QTest::newRow("nothing from the second refresh on if it never ran")
-            << TimesAndLoads{{0, 0.1}, {0, 0.0}, {0, 0.0}, {10, 1.0}};
-        QTest::newRow("one unit while the counter has wrapped to 0")
-            << TimesAndLoads{{0xfffffffe, 0.1}, {0xfffffffe, 0.0},  {0xffffffff, 0.1},
-                             {0xffffffff, 0.1}, {0x100000000, 0.1}, {0x100000000, 0.0}};
+        const Rows<TimesAndLoads> row("refreshes");
+        row("nothing from the second refresh on if it never ran", {{0, 0.1}, {0, 0.0}, {0, 0.0}, {10, 1.0}});
+        row("one unit while the counter has wrapped to 0", {{0xfffffffe, 0.1},
+                                                            {0xfffffffe, 0.0},
+                                                            {0xffffffff, 0.1},
+                                                            {0xffffffff, 0.1},
+                                                            {0x100000000, 0.1},
+                                                            {0x100000000, 0.0}});
     }
 
     void theLoadFollowsTheCpuTime()
@@ -96,15 +99,13 @@ private Q_SLOTS:
 
     void theLoadIsShownWithOneDecimal_data()
     {
-        QTest::addColumn<int>("counter");
-        QTest::addColumn<int>("total");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("nothing") << 100 << 3000 << "0.0 %";
-        QTest::newRow("a third") << 1100 << 3000 << "33.3 %";
-        QTest::newRow("an eighth") << 150 << 400 << "12.5 %";
-        QTest::newRow("everything") << 3100 << 3000 << "100.0 %";
-        QTest::newRow("something in no time") << 101 << 0 << "inf %";
-        QTest::newRow("nothing in no time") << 100 << 0 << "nan %";
+        const Rows<int, int, QString> row("counter", "total", "text");
+        row("nothing", 100, 3000, "0.0 %");
+        row("a third", 1100, 3000, "33.3 %");
+        row("an eighth", 150, 400, "12.5 %");
+        row("everything", 3100, 3000, "100.0 %");
+        row("something in no time", 101, 0, "inf %");
+        row("nothing in no time", 100, 0, "nan %");
     }
 
     void theLoadIsShownWithOneDecimal()

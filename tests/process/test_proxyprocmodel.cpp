@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "process/gtop_wrappers/filler.h"
 #include "tests/process/support/listview.h"
 
@@ -46,12 +47,12 @@ private Q_SLOTS:
 
     void theLoadIsRelativeToTheTotalSinceTheLastRefresh_data()
     {
-        QTest::addColumn<QList<int>>("totals"); // one process uses one unit in each refresh
-        QTest::addColumn<QString>("text");
-        QTest::newRow("the first total less one") << QList<int>{3} << "50.0 %";
-        QTest::newRow("then the difference") << QList<int>{5000, 5008} << "12.5 %";
-        QTest::newRow("no difference") << QList<int>{5000, 5000} << "inf %";
-        QTest::newRow("a total that fell, by 2^64 - 1") << QList<int>{5000, 5000, 4999} << "0.0 %";
+        // One process uses one unit in each refresh.
+        const Rows<QList<int>, QString> row("totals", "text");
+        row("the first total less one", {3}, "50.0 %");
+        row("then the difference", {5000, 5008}, "12.5 %");
+        row("no difference", {5000, 5000}, "inf %");
+        row("a total that fell, by 2^64 - 1", {5000, 5000, 4999}, "0.0 %");
     }
 
     void theLoadIsRelativeToTheTotalSinceTheLastRefresh()

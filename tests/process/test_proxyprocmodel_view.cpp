@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "process/gtop_wrappers/filler.h"
 #include "tests/process/support/listview.h"
 
-#include <QAbstractItemModelTester>
-#include <QHeaderView>
-#include <QScrollBar>
-#include <QSignalSpy>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <functional>
 #include <stdexcept>
@@ -24,15 +22,17 @@ const int userWidth = 777; ///< that a user has given to the first column
 /// A tree of two processes, the second under the first.
 struct TwoLevels : List
 {
-    TwoLevels() { proxy->setFlat(false); }
+    TwoLevels()
+    {
+        proxy->setFlat(false);
+        refresh();
+    }
     void refresh() { proxy->refresh(makeSnapshot({{1, 0}, {2, 1}})); }
     bool isExpanded() const { return view.isExpanded(proxy->index(0, 0)); }
-    bool isFitted() const { return view.columnWidth(0) != userWidth; }
 };
 
 } // namespace
 
-/// What resets and refreshes do to a view.
 class TestProxyProcModelView : public QObject
 {
     Q_OBJECT
@@ -45,21 +45,6 @@ private Q_SLOTS:
                 [&] { flat.append(list.proxy->isFlat()); });
         list.proxy->setFlat(false);
         QCOMPARE(flat, (QList<bool>{true, false, false}));
-        list.proxy->setFlat(false); // no change
-        QCOMPARE(flat.size(), 5);
-    }
-
-    void otherSettersResetTwice()
-    {
-        List list;
-        const QSignalSpy resets(list.proxy, SIGNAL(modelReset()));
-        list.proxy->setColumnVisible(3, false);
-        QCOMPARE(resets.count(), 2);
-        list.proxy->setProcessTypes(0);
-        QCOMPARE(resets.count(), 4);
-        list.proxy->setProcessTypes(0); // no change
-        QCOMPARE(resets.count(), 6);
-        QCOMPARE(list.proxy->processTypes(), 0);
     }
 
     void everyResetIsFollowedByARefreshThatRebuildsTheList()
@@ -102,13 +87,13 @@ private Q_SLOTS:
 
     void everyChangeIsFramedByItsSignals_data()
     {
-        QTest::addColumn<std::function<void(ProxyProcModel *)>>("change");
-        QTest::addColumn<int>("resets");
-        const auto row = [](const char *name, int resets,
-                            const std::function<void(ProxyProcModel *)> &change) {
-            QTest::newRow(name) << change << resets;
+        const Rows<int, std::function<void(ProxyProcModel *)>> row("resets", "change");
+        const auto changeTypes = [](ProxyProcModel *proxy) {
+            proxy->setProcessTypes(0);
+            QCOMPARE(proxy->processTypes(), 0);
         };
-        row("types", 2, [](ProxyProcModel *proxy) { proxy->setProcessTypes(0); });
+        row("types", 2, changeTypes);
+        row("same types", 2, [](ProxyProcModel *proxy) { proxy->setProcessTypes(1); });
         row("mode", 3, [](ProxyProcModel *proxy) { proxy->setFlat(false); });
         row("same mode", 2, [](ProxyProcModel *proxy) { proxy->setFlat(true); });
         row("column", 2, [](ProxyProcModel *proxy) { proxy->setColumnVisible(3, false); });
@@ -136,10 +121,7 @@ private Q_SLOTS:
             seen << QStringLiteral("after");
         });
         change(list.proxy);
-        QStringList expected;
-        for (int i = 0; i < resets; ++i) {
-            expected << QStringLiteral("reset");
-        }
+        QStringList expected = QVector<QString>(resets, QStringLiteral("reset")).toList();
         if (resets > 0) {
             expected.prepend(QStringLiteral("before"));
             expected.append(QStringLiteral("after"));
@@ -149,14 +131,8 @@ private Q_SLOTS:
 
     void sortingFollowsItsProcessColumn_data()
     {
-        QTest::addColumn<QList<int>>("hidden"); // process columns, one after the other
-        QTest::addColumn<int>("sortedBy");      // process column afterwards
-        QTest::addColumn<int>("column");        // of the view
-        QTest::addColumn<bool>("descending");
-        const auto row = [](const char *name, const QList<int> &hidden, int sortedBy, int column,
-                            bool descending) {
-            QTest::newRow(name) << hidden << sortedBy << column << descending;
-        };
+        // Process columns are hidden one after the other; `column` is of the view.
+        const Rows<QList<int>, int, int, bool> row("hidden", "sortedBy", "column", "descending");
         using namespace gtop_wrappers;
         row("none hidden", {}, StateColumn, 5, true);
         row("one before", {CpuColumn}, StateColumn, 4, true);
@@ -209,38 +185,28 @@ private Q_SLOTS:
         QCOMPARE(proxy->sortOrder(), Qt::DescendingOrder);
     }
 
-    void columnsAreFittedAndRowsExpandedOnceAfterAReset()
+    void whatTheUserArrangedStaysUntilAReset()
     {
         TwoLevels list;
-        list.refresh();
         QVERIFY(list.isExpanded());
-        list.view.collapseAll();
+        list.view.collapse(list.proxy->index(0, 0));
         list.view.setColumnWidth(0, userWidth);
+        list.refresh();
+        QVERIFY(!list.isExpanded());
+        QCOMPARE(list.view.columnWidth(0), userWidth);
         list.proxy->setProcessTypes(0);
         list.refresh();
         QVERIFY(list.isExpanded());
-        QVERIFY(list.isFitted());
+        QVERIFY(list.view.columnWidth(0) != userWidth);
         for (int column = 0; column < list.proxy->columnCount(); ++column) {
             QCOMPARE(list.view.columnWidth(column),
                      qMax(list.view.columnHint(column), list.view.header()->sectionSizeHint(column)));
         }
     }
 
-    void whatTheUserArrangedStaysBetweenResets()
-    {
-        TwoLevels list;
-        list.refresh();
-        list.view.collapse(list.proxy->index(0, 0));
-        list.view.setColumnWidth(0, userWidth);
-        list.refresh();
-        QVERIFY(!list.isExpanded());
-        QCOMPARE(list.view.columnWidth(0), userWidth);
-    }
-
     void expandAllAndCollapseAllReachTheView()
     {
         TwoLevels list;
-        list.refresh();
         list.proxy->collapseAll();
         QVERIFY(!list.isExpanded());
         list.proxy->expandAll();
@@ -264,7 +230,6 @@ private Q_SLOTS:
     void onlyRowsOfATreeCanHaveChildren()
     {
         TwoLevels list;
-        list.refresh();
         const Qt::ItemFlags ofTheSource = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
         QCOMPARE(list.proxy->flags(list.proxy->index(0, 0)), ofTheSource);
         list.proxy->setFlat(true);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/reader.h"
 
+#include "../support/rows.h"
 #include "madeupprocesses.h"
 
 #include <QtTest>
@@ -31,8 +32,8 @@ private Q_SLOTS:
         QCOMPARE(young.resident, quint64(4096));
         QCOMPARE(young.arguments, QByteArray("some\0", 5));
         QCOMPARE(young.parent, 10);
-        // State and time of four; the parent of 1, which has none; five reads of 99; the start of both once
-        // more.
+        // State and time of four; the parent of 1, which has none; five reads of 99; the starts of both
+        // again.
         QCOMPARE(standin::calls().processData, 4U * 2 + 2 + 4);
         standin::machine().processes->insert({100, madeup::process(1, madeup::now + 1)});
         QCOMPARE(unread(), (QMap<int, unsigned>{{1, rest}, {10, rest}, {11, rest}, {99, rest}, {100, 0}}));
@@ -50,7 +51,7 @@ private Q_SLOTS:
             QCOMPARE(record.unread, record.pid == 99 ? 0U : rest);
         }
         QCOMPARE(parents, (QMap<int, int>{{1, 0}, {10, 1}, {11, 10}, {99, 1}, {self, 1}}));
-        // The start of this program; state, parent and time of five; with its start, the parent of 1, which
+        // The start of this program; state, parent and time of five; with its start, the parents of 1, which
         // has none, and of this program, before which nothing is certain; the rest and the start of the
         // young 99.
         QCOMPARE(standin::calls().processData, 1U + 5 * 3 + 2 * 2 + 4);
@@ -58,17 +59,15 @@ private Q_SLOTS:
 
     void processThatExitsWhileBeingReadIsLeftOut_data()
     {
-        QTest::addColumn<int>("pid");
-        QTest::addColumn<int>("answers");
-        QTest::addColumn<unsigned>("eager");
-        QTest::newRow("before its state") << 11 << 0 << 0U;
-        QTest::newRow("before its times") << 11 << 1 << 0U;
-        QTest::newRow("before its parent") << 11 << 2 << 0U;
-        QTest::newRow("before its start is read again") << 11 << 3 << 0U;
-        QTest::newRow("young, before its parent") << 99 << 2 << 0U;
-        QTest::newRow("young, before its memory") << 99 << 3 << 0U;
-        QTest::newRow("young, before its memory, parent eager") << 99 << 3 << unsigned(ReadUid);
-        QTest::newRow("young, before its start is read again") << 99 << 5 << 0U;
+        const Rows<int, int, unsigned> row("pid", "answers", "eager");
+        row("before its state", 11, 0, 0U);
+        row("before its times", 11, 1, 0U);
+        row("before its parent", 11, 2, 0U);
+        row("before its start is read again", 11, 3, 0U);
+        row("young, before its parent", 99, 2, 0U);
+        row("young, before its memory", 99, 3, 0U);
+        row("young, before its memory, parent eager", 99, 3, unsigned(ReadUid));
+        row("young, before its start is read again", 99, 5, 0U);
     }
 
     void processThatExitsWhileBeingReadIsLeftOut()

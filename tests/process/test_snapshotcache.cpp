@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/snapshotcache.h"
 
+#include "../support/rows.h"
 #include "cells.h"
 
 #include <QtTest>
 
-#include <pwd.h>
 #include <time.h>
 
 #include <functional>
@@ -74,23 +74,21 @@ private Q_SLOTS:
 
     void column_data()
     {
-        QTest::addColumn<ProcessColumn>("column");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QVariant>("sortValue");
-        QTest::newRow("name") << NameColumn << "bash" << QVariant("bash");
-        QTest::newRow("CPU") << CpuColumn << "" << QVariant(0.0);
-        QTest::newRow("PID") << PidColumn << "42" << QVariant(42);
-        QTest::newRow("user") << UserColumn << "root" << QVariant("root");
-        QTest::newRow("memory") << MemoryColumn << "1.00 KB" << QVariant(quint64(1024));
-        QTest::newRow("state") << StateColumn << "Sleeping" << QVariant(2);
-        QTest::newRow("virtual") << VirtualMemoryColumn << "2.00 KB" << QVariant(quint64(2048));
-        QTest::newRow("shared") << SharedMemoryColumn << "512.00 B" << QVariant(quint64(512));
-        QTest::newRow("nice") << NiceColumn << "0" << QVariant(0);
-        QTest::newRow("parent") << ParentPidColumn << "1" << QVariant(1);
-        QTest::newRow("CPU time") << CpuTimeColumn << "0:00:01" << QVariant(quint64(100));
-        QTest::newRow("started") << StartedColumn << "2023-11-14 22:13:20" << QVariant(quint64(1700000000));
-        QTest::newRow("command line") << CommandLineColumn << "bash -l" << QVariant("bash -l");
-        QTest::newRow("processor") << ProcessorColumn << "3" << QVariant(3);
+        const Rows<ProcessColumn, QString, QVariant> row("column", "text", "sortValue");
+        row("name", NameColumn, "bash", "bash");
+        row("CPU", CpuColumn, "", 0.0);
+        row("PID", PidColumn, "42", 42);
+        row("user", UserColumn, "root", "root");
+        row("memory", MemoryColumn, "1.00 KB", quint64(1024));
+        row("state", StateColumn, "Sleeping", 2);
+        row("virtual", VirtualMemoryColumn, "2.00 KB", quint64(2048));
+        row("shared", SharedMemoryColumn, "512.00 B", quint64(512));
+        row("nice", NiceColumn, "0", 0);
+        row("parent", ParentPidColumn, "1", 1);
+        row("CPU time", CpuTimeColumn, "0:00:01", quint64(100));
+        row("started", StartedColumn, "2023-11-14 22:13:20", quint64(1700000000));
+        row("command line", CommandLineColumn, "bash -l", "bash -l");
+        row("processor", ProcessorColumn, "3", 3);
     }
 
     void column()
@@ -106,19 +104,18 @@ private Q_SLOTS:
 
     void stateColumnCarriesLibgtopsCode_data()
     {
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("running") << GLIBTOP_PROCESS_RUNNING << "Running";
-        QTest::newRow("interruptible") << GLIBTOP_PROCESS_INTERRUPTIBLE << "Sleeping";
-        QTest::newRow("uninterruptible") << GLIBTOP_PROCESS_UNINTERRUPTIBLE << "Uninterruptible";
-        QTest::newRow("zombie") << GLIBTOP_PROCESS_ZOMBIE << "Zombie";
-        QTest::newRow("stopped") << GLIBTOP_PROCESS_STOPPED << "Stopped";
-        QTest::newRow("swapping") << GLIBTOP_PROCESS_SWAPPING << "Swapping";
-        QTest::newRow("dead") << GLIBTOP_PROCESS_DEAD << "Dead";
-        QTest::newRow("no code of libgtop's") << 0 << "Other";
-        QTest::newRow("two at once") << 3 << "Other";
-        QTest::newRow("lowest") << std::numeric_limits<int>::min() << "Other";
-        QTest::newRow("highest") << std::numeric_limits<int>::max() << "Other";
+        const Rows<int, QString> row("code", "text");
+        row("running", GLIBTOP_PROCESS_RUNNING, "Running");
+        row("interruptible", GLIBTOP_PROCESS_INTERRUPTIBLE, "Sleeping");
+        row("uninterruptible", GLIBTOP_PROCESS_UNINTERRUPTIBLE, "Uninterruptible");
+        row("zombie", GLIBTOP_PROCESS_ZOMBIE, "Zombie");
+        row("stopped", GLIBTOP_PROCESS_STOPPED, "Stopped");
+        row("swapping", GLIBTOP_PROCESS_SWAPPING, "Swapping");
+        row("dead", GLIBTOP_PROCESS_DEAD, "Dead");
+        row("no code of libgtop's", 0, "Other");
+        row("two at once", 3, "Other");
+        row("lowest", std::numeric_limits<int>::min(), "Other");
+        row("highest", std::numeric_limits<int>::max(), "Other");
     }
 
     void stateColumnCarriesLibgtopsCode()
@@ -133,24 +130,9 @@ private Q_SLOTS:
         QTEST(shown(process, StateColumn), "text");
     }
 
-    void userIsNamedOrNumbered()
-    {
-        ProcessRecord record = recordOf(42);
-        QCOMPARE(shown(made(record), UserColumn), QString::fromUtf8(getpwuid(0)->pw_name));
-        record.user = std::numeric_limits<int>::max() - 1;
-        QVERIFY(!getpwuid(static_cast<uid_t>(record.user)));
-        QCOMPARE(shown(made(record), UserColumn), QStringLiteral("2147483646"));
-        record.user = -2; // ids are unsigned, libgtop's fields are not
-        QCOMPARE(shown(made(record), UserColumn), QStringLiteral("4294967294"));
-    }
-
     void onlyChangedValuesAreNewObjects_data()
     {
-        QTest::addColumn<Change>("change");
-        QTest::addColumn<QVector<int>>("columns");
-        const auto row = [](const char *name, const Change &change, const QVector<int> &changed) {
-            QTest::newRow(name) << change << changed;
-        };
+        const Rows<Change, QVector<int>> row("change", "columns");
         row("nothing", [](ProcessRecord &) {}, {});
         row("name", [](ProcessRecord &r) { r.name = "sh"; }, {NameColumn, CommandLineColumn});
         row("user", [](ProcessRecord &r) { r.user = 65534; }, {UserColumn});
@@ -278,23 +260,22 @@ private Q_SLOTS:
 
     void onlyExpensiveReadsAreLeftOut_data()
     {
-        QTest::addColumn<std::vector<bool>>("eager");
-        QTest::addColumn<unsigned>("reads");
+        const Rows<std::vector<bool>, unsigned> row("eager", "reads");
         std::vector<bool> eager;
-        QTest::newRow("not set") << eager << everything;
+        row("not set", eager, everything);
         eager.assign(ColumnCount, true);
-        QTest::newRow("all") << eager << everything;
+        row("all", eager, everything);
         eager[CommandLineColumn] = false;
-        QTest::newRow("all but the command line") << eager << (everything & ~ReadArguments);
+        row("all but the command line", eager, (everything & ~ReadArguments));
         eager.assign(100, false);
         // Name, user, state, CPU counter and start are read of every process, eager or not.
-        QTest::newRow("none") << eager << unsigned(ReadState | ReadTime);
+        row("none", eager, unsigned(ReadState | ReadTime));
         eager[MemoryColumn] = true;
-        QTest::newRow("memory") << eager << unsigned(ReadState | ReadTime | ReadMemory);
+        row("memory", eager, unsigned(ReadState | ReadTime | ReadMemory));
         eager[MemoryColumn] = false;
         eager[NiceColumn] = true;
-        QTest::newRow("nice") << eager << unsigned(ReadState | ReadTime | ReadUid);
-        QTest::newRow("short list") << std::vector<bool>{true, false} << everything;
+        row("nice", eager, unsigned(ReadState | ReadTime | ReadUid));
+        row("short list", std::vector<bool>{true, false}, everything);
     }
 
     void onlyExpensiveReadsAreLeftOut()

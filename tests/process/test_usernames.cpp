@@ -2,6 +2,7 @@
 #include "process/gtop_wrappers/snapshotcache.h"
 #include "process/gtop_wrappers/usernames.h"
 
+#include "../support/rows.h"
 #include "cells.h"
 
 #include <QtTest>
@@ -113,23 +114,22 @@ private Q_SLOTS:
 
     void aKnownUserWithoutAResult_data()
     {
-        QTest::addColumn<int>("error");
-        QTest::addColumn<QString>("text");
+        const Rows<int, QString> row("error", "text");
         const QString name = QStringLiteral("ann");
         const QString number = QStringLiteral("1000");
-        QTest::newRow("no such user") << 0 << number;
-        QTest::newRow("ENOENT") << ENOENT << number;
-        QTest::newRow("ESRCH") << ESRCH << number;
-        QTest::newRow("EBADF") << EBADF << number;
-        QTest::newRow("EPERM") << EPERM << number;
-        QTest::newRow("interrupted") << EINTR << name;
-        QTest::newRow("input/output error") << EIO << name;
-        QTest::newRow("no descriptor left") << EMFILE << name;
-        QTest::newRow("too many open files") << ENFILE << name;
-        QTest::newRow("no memory") << ENOMEM << name;
-        QTest::newRow("try again") << EAGAIN << name;
-        QTest::newRow("refused") << ECONNREFUSED << name;
-        QTest::newRow("timed out") << ETIMEDOUT << name;
+        row("no such user", 0, number);
+        row("ENOENT", ENOENT, number);
+        row("ESRCH", ESRCH, number);
+        row("EBADF", EBADF, number);
+        row("EPERM", EPERM, number);
+        row("interrupted", EINTR, name);
+        row("input/output error", EIO, name);
+        row("no descriptor left", EMFILE, name);
+        row("too many open files", ENFILE, name);
+        row("no memory", ENOMEM, name);
+        row("try again", EAGAIN, name);
+        row("refused", ECONNREFUSED, name);
+        row("timed out", ETIMEDOUT, name);
     }
 
     void aKnownUserWithoutAResult()
@@ -142,8 +142,7 @@ private Q_SLOTS:
         errno = EIO; // of an earlier call
         users.update(start + seconds(60));
         QCOMPARE(shown(name), text);
-        // One that is still known is asked for again after a minute, so that a slow directory is not asked
-        // with each update.
+        // One that is still known is asked for after a minute, so that a slow directory isn't always asked.
         directory.isReachable = true;
         directory.names[1000] = "anne";
         users.update(start + seconds(61));
