@@ -32,5 +32,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     const QString line = QStringLiteral("\n \tDISTRIB_DESCRIPTION=\"It is\"\n");
     HOLDS(described(text + line) == QLatin1String("It is"));
     HOLDS(description == unknown || described(line + text) == description);
+    HOLDS(text.contains(unknown) || described(line + text) != unknown);
     return 0;
 }

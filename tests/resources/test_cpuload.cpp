@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "resources/cpuload.h"
 
 #include <QtTest>
@@ -38,16 +39,15 @@ class TestCpuLoad : public QObject
 private Q_SLOTS:
     void cpuCountStaysWithinLibgtopsArrays_data()
     {
-        QTest::addColumn<int>("lastIndex");
-        QTest::addColumn<int>("count");
+        const Rows<int, int> row("lastIndex", "count");
 
-        QTest::newRow("one") << 0 << 1;
-        QTest::newRow("two") << 1 << 2;
-        QTest::newRow("as many as fit") << 1023 << 1024;
-        QTest::newRow("one more than fits") << 1024 << 1024;
-        QTest::newRow("the largest number") << INT_MAX << 1024;
-        QTest::newRow("none") << -1 << 1;
-        QTest::newRow("the smallest number") << INT_MIN << 1;
+        row("one", 0, 1);
+        row("two", 1, 2);
+        row("as many as fit", 1023, 1024);
+        row("one more than fits", 1024, 1024);
+        row("the largest number", INT_MAX, 1024);
+        row("none", -1, 1);
+        row("the smallest number", INT_MIN, 1);
     }
 
     void cpuCountStaysWithinLibgtopsArrays()
@@ -149,13 +149,8 @@ private Q_SLOTS:
 
     void loadIsComputed_data()
     {
-        QTest::addColumn<quint64>("idle");
-        QTest::addColumn<quint64>("total");
-        QTest::addColumn<int>("load");
+        const Rows<quint64, quint64, int> row("idle", "total", "load");
 
-        const auto row = [](const char *name, quint64 idle, quint64 total, int load) {
-            QTest::newRow(name) << idle << total << load;
-        };
         row("idle", 300, 300, 0);
         row("busy", 0, 300, 100);
         row("half", 150, 300, 50);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "resources/generalstate.h"
 
 #include <QtTest>
@@ -39,13 +40,8 @@ private Q_SLOTS:
 
     void sharesAreTruncated_data()
     {
-        QTest::addColumn<quint64>("free");
-        QTest::addColumn<quint64>("total");
-        QTest::addColumn<double>("percent");
+        const Rows<quint64, quint64, double> row("free", "total", "percent");
 
-        const auto row = [](const char *name, quint64 free, quint64 total, double percent) {
-            QTest::newRow(name) << free << total << percent;
-        };
         row("5 of 300 is 1, not 2", 5, 300, 1.0);
         row("nothing of nothing", 0, 0, 0.0);
         row("something of nothing", 5, 0, 0.0);

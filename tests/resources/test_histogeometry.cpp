@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "resources/histogeometry.h"
 
 #include <QtTest>
@@ -101,10 +102,9 @@ private Q_SLOTS:
 
     void timeLabelsAreSecondsAndAmountLabelsAreSizes_data()
     {
-        QTest::addColumn<QString>("labels");
-        QTest::addColumn<QString>("expected");
-        const auto times = [](int interval, const char *expected) {
-            QTest::addRow("interval %d", interval) << timeLabels(interval) << expected;
+        const Rows<QString, QString> row("labels", "expected");
+        const auto times = [&](int interval, const char *expected) {
+            row("interval " + QByteArray::number(interval), timeLabels(interval), expected);
         };
         times(1, "100, 90, 80, 70, 60, 50, 40, 30, 20, 10, 0");
         times(2, "200, 180, 160, 140, 120, 100, 80, 60, 40, 20, 0");
@@ -112,8 +112,8 @@ private Q_SLOTS:
         times(0, "0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0");
         times(1000000000, "100000000000, 90000000000, 80000000000, 70000000000, 60000000000, 50000000000, "
                           "40000000000, 30000000000, 20000000000, 10000000000, 0");
-        const auto amounts = [](qint32 maxValue, const char *expected) {
-            QTest::addRow("maximum %d", maxValue) << amountLabels(maxValue) << expected;
+        const auto amounts = [&](qint32 maxValue, const char *expected) {
+            row("maximum " + QByteArray::number(maxValue), amountLabels(maxValue), expected);
         };
         amounts(0, "0.00 B, 0.00 B, 0.00 B, 0.00 B, 0.00 B");
         amounts(1, "1.00 B, 0.75 B, 0.50 B, 0.25 B, 0.00 B");
@@ -132,13 +132,7 @@ private Q_SLOTS:
 
     void linesRunFromTheNewestSampleToTheOldest_data()
     {
-        QTest::addColumn<QVector<quint32>>("oldestFirst");
-        QTest::addColumn<qint32>("maxValue");
-        QTest::addColumn<QVector<QPoint>>("newestFirst");
-        const auto row = [](const char *name, const QVector<quint32> &oldestFirst, qint32 maxValue,
-                            const QVector<QPoint> &newestFirst) {
-            QTest::newRow(name) << oldestFirst << maxValue << newestFirst;
-        };
+        const Rows<QVector<quint32>, qint32, QVector<QPoint>> row("oldestFirst", "maxValue", "newestFirst");
         row("half a pixel per byte", {340, 100, 0, 171}, 340, {{625, 99}, {619, 185}, {613, 135}, {608, 15}});
         row("a single sample is joined to itself", {5}, 5, {{625, 15}});
         row("zeros are on the base line", {0, 0, 0}, 0, {{625, 185}, {619, 185}, {613, 185}});

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "resources/historing.h"
 
 #include <QtTest>
@@ -9,12 +10,6 @@
 
 namespace {
 
-/// Deterministic values spread over 32 bits.
-quint32 sample(int i)
-{
-    return static_cast<quint32>(i) * 2654435761U;
-}
-
 std::deque<quint32> newestFirst(const HistoRing &ring)
 {
     std::deque<quint32> result;
@@ -22,13 +17,6 @@ std::deque<quint32> newestFirst(const HistoRing &ring)
         result.push_back(ring.at(age));
     }
     return result;
-}
-
-void appendSamples(HistoRing &ring, int count)
-{
-    for (int i = 0; i < count; ++i) {
-        ring.append(sample(i));
-    }
 }
 
 } // namespace
@@ -55,12 +43,9 @@ private Q_SLOTS:
 
     void headAndTailFollowTheSamples_data()
     {
-        QTest::addColumn<int>("appends");
-        QTest::addColumn<quint64>("head");
-        QTest::addColumn<quint64>("tail");
-        QTest::addColumn<quint64>("count");
-        const auto row = [](int appends, quint64 head, quint64 tail, quint64 count) {
-            QTest::addRow("%d", appends) << appends << head << tail << count;
+        const Rows<int, quint64, quint64, quint64> rows("appends", "head", "tail", "count");
+        const auto row = [&](int appends, quint64 head, quint64 tail, quint64 count) {
+            rows(QByteArray::number(appends), appends, head, tail, count);
         };
         row(1, 0, 0, 1);
         row(2, 0, 1, 2);
@@ -100,13 +85,7 @@ private Q_SLOTS:
         }
     }
 
-    void aClearedRingStartsOver_data()
-    {
-        QTest::addColumn<int>("before");
-        for (int before : {0, 1, 50, 100, 101, 150, 250}) {
-            QTest::addRow("%d", before) << before;
-        }
-    }
+    void aClearedRingStartsOver_data() { addNumberRows("before", {0, 1, 50, 100, 101, 150, 250}); }
 
     void aClearedRingStartsOver()
     {
@@ -139,6 +118,15 @@ private Q_SLOTS:
             ring.append(i % 40);
         }
         QCOMPARE(ring.largest(), 39); // dropped samples no longer count
+    }
+
+private:
+    static quint32 sample(int i) { return static_cast<quint32>(i) * 2654435761U; }
+    static void appendSamples(HistoRing &ring, int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            ring.append(sample(i));
+        }
     }
 };
 

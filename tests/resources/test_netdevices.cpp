@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "resources/netdevices.h"
 
-#include <QDir>
 #include <QtTest>
 
 #include <arpa/inet.h>
@@ -67,11 +67,7 @@ class TestNetDevices : public QObject
 private Q_SLOTS:
     void interfacesAreSortedByName_data()
     {
-        QTest::addColumn<QList<QByteArray>>("names");
-        QTest::addColumn<QStringList>("sorted");
-        const auto row = [](const char *title, const QList<QByteArray> &names, const QStringList &sorted) {
-            QTest::newRow(title) << names << sorted;
-        };
+        const Rows<QList<QByteArray>, QStringList> row("names", "sorted");
         row("none", {}, {});
         row("alphabetical", {"eth1", "eth0", "lo"}, {"eth0", "eth1", "lo"});
         row("code units", {"lo", "eth10", "eth2", "Wlan0", "eth2.5", "\xc3\xa9th0", "_x", "eth2-a"},
@@ -132,12 +128,7 @@ private Q_SLOTS:
 
     void differencesAreTruncatedTo32Bits_data()
     {
-        QTest::addColumn<quint64>("now");
-        QTest::addColumn<quint64>("last");
-        QTest::addColumn<quint32>("delta");
-        const auto row = [](const char *name, quint64 now, quint64 last, quint32 delta) {
-            QTest::newRow(name) << now << last << delta;
-        };
+        const Rows<quint64, quint64, quint32> row("now", "last", "delta");
         row("unchanged", 5, 5, 0);
         row("increased", 1536, 512, 1024);
         row("increased by the largest 32-bit value", 0xffffffffU, 0, 0xffffffffU);
@@ -156,11 +147,7 @@ private Q_SLOTS:
 
     void addressesAreDotted_data()
     {
-        QTest::addColumn<QString>("address");
-        for (const char *text :
-             {"0.0.0.0", "127.0.0.1", "192.168.1.42", "255.255.255.255", "255.255.240.0"}) {
-            QTest::newRow(text) << QString::fromLatin1(text);
-        }
+        addTextRows("address", {"0.0.0.0", "127.0.0.1", "192.168.1.42", "255.255.255.255", "255.255.240.0"});
     }
 
     void addressesAreDotted()

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The gauge's interface, range and geometry; test_qprogpainting covers what it draws.
+#include "../support/rows.h"
 #include "resources/qprog.h"
 
-#include <QAccessible>
-#include <QMetaMethod>
-#include <QMetaProperty>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <limits>
 
@@ -79,15 +78,9 @@ private Q_SLOTS:
 
     void valueAndRangeAreSet_data()
     {
-        QTest::addColumn<QByteArray>("property");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<double>("set");
-        QTest::addColumn<QVector<double>>("minMaxValue");
+        const Rows<QByteArray, double, double, QVector<double>> row("property", "value", "set",
+                                                                    "minMaxValue");
 
-        const auto row = [](const char *name, const char *property, double value, double set,
-                            const QVector<double> &minMaxValue) {
-            QTest::newRow(name) << QByteArray(property) << value << set << minMaxValue;
-        };
         row("value inside the range", "value", 0, 42.5, {0, 100, 42.5});
         row("value above the range", "value", 0, 150, {0, 100, 100});
         row("value below the range", "value", 0, -5, {0, 100, 0});
@@ -143,14 +136,8 @@ private Q_SLOTS:
 
     void barLengthFollowsTheValue_data()
     {
-        QTest::addColumn<double>("min");
-        QTest::addColumn<double>("max");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<double>("length");
+        const Rows<double, double, double, double> row("min", "max", "value", "length");
 
-        const auto row = [](const char *name, double min, double max, double value, double length) {
-            QTest::newRow(name) << min << max << value << length;
-        };
         row("empty", 0, 100, 0, 0);
         row("full", 0, 100, 100, 240);
         row("a quarter", 0, 100, 25, 60);
@@ -174,14 +161,8 @@ private Q_SLOTS:
 
     void shareIsInWholePercent_data()
     {
-        QTest::addColumn<double>("min");
-        QTest::addColumn<double>("max");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("share");
+        const Rows<double, double, double, QString> row("min", "max", "value", "share");
 
-        const auto row = [](const char *name, double min, double max, double value, const char *share) {
-            QTest::newRow(name) << min << max << value << share;
-        };
         row("empty", 0, 100, 0, "0 %");
         row("negative zero", 0, 100, -0.0, "0 %");
         row("a share that binary fractions can't represent", 0, 100, 29, "29 %");

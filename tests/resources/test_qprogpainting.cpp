@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the gauge draws, and the signal that painting emits.
 #include "resources/qprog.h"
 
-#include <QImage>
-#include <QSignalSpy>
+#include "../support/rows.h"
+
 #include <QtTest>
 
 #include <functional>
@@ -42,13 +41,7 @@ class TestQProgPainting : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void freshGaugeShowsTroughAndTicks_data()
-    {
-        QTest::addColumn<int>("width");
-        for (int width : {100, 250, 251, 600, 3000}) {
-            QTest::addRow("%d", width) << width;
-        }
-    }
+    void freshGaugeShowsTroughAndTicks_data() { addNumberRows("width", {100, 250, 251, 600, 3000}); }
 
     void freshGaugeShowsTroughAndTicks()
     {
@@ -89,16 +82,14 @@ private Q_SLOTS:
 
     void barEndsAtItsLength_data()
     {
-        QTest::addColumn<int>("width");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QColor>("color");
+        const Rows<int, double, QColor> row("width", "value", "color");
         for (int width : {250, 333, 1000}) {
             for (double value : {1.0, 10.0, 50.0, 99.0, 100.0}) {
-                QTest::addRow("%d wide at %g", width, value) << width << value << bar;
+                row(QByteArray::number(width) + " wide at " + QByteArray::number(value), width, value, bar);
             }
         }
         for (const QColor &color : {QColor(Qt::red), QColor(Qt::blue), QColor(1, 2, 3)}) {
-            QTest::newRow(qPrintable(color.name())) << 250 << 100.0 << color;
+            row(color.name().toLatin1(), 250, 100.0, color);
         }
     }
 
@@ -122,12 +113,7 @@ private Q_SLOTS:
         QCOMPARE(image.pixelColor(25, 7), QColor(Qt::black));  // the bar doesn't cover the frame
     }
 
-    void emptyRangeShowsFourBlocks_data()
-    {
-        QTest::addColumn<int>("width");
-        QTest::newRow("narrow") << 250;
-        QTest::newRow("wide") << 800;
-    }
+    void emptyRangeShowsFourBlocks_data() { addNumberRows("width", {250, 800}); }
 
     void emptyRangeShowsFourBlocks()
     {

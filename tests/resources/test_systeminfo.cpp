@@ -2,19 +2,13 @@
 #include "resources/systeminfo.h"
 
 #include "../support/brackettranslator.h"
+#include "../support/rows.h"
 
-#include <QBuffer>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTextStream>
 #include <QtTest>
 
 #include <sys/stat.h>
 #include <sys/utsname.h>
 #include <unistd.h>
-
-#include <random>
 
 namespace {
 
@@ -50,12 +44,8 @@ private:
 private Q_SLOTS:
     void hostAndDomainAreJoined_data()
     {
-        QTest::addColumn<QByteArray>("host");
-        QTest::addColumn<QByteArray>("domain");
-        QTest::addColumn<QString>("joined");
+        const Rows<QByteArray, QByteArray, QString> row("host", "domain", "joined");
 
-        const auto row = [](const char *name, const QByteArray &host, const QByteArray &domain,
-                            const QString &joined) { QTest::newRow(name) << host << domain << joined; };
         row("(none) yields the bare host", "box", "(none)", "box");
         row("a domain follows a dot", "box", "lan.net", "box.lan.net");
         row("an empty domain leaves a trailing dot", "box", "", "box.");
@@ -183,26 +173,6 @@ private Q_SLOTS:
             recorded(QByteArray(8 << 20, 'x') + "\nmodel name : CPU\nDISTRIB_DESCRIPTION=OS\n");
         QCOMPARE(cpuModel(path), QString("CPU"));
         QCOMPARE(osDescription(path), QString("OS"));
-    }
-
-    void noiseIsHandled()
-    {
-        std::mt19937 random(20261121);
-        const QList<QByteArray> pieces = {
-            "DISTRIB_DESCRIPTION", "model name", "=", ":", "\"", "\n", "\r\n", " "};
-        for (int round = 0; round < 500; ++round) {
-            QByteArray content = "x\nmodel name:CPU\nDISTRIB_DESCRIPTION=OS\n";
-            for (int i = 0; i < 60; ++i) {
-                const unsigned pick = random() % 16;
-                content +=
-                    pick < 8 ? pieces.at(static_cast<int>(pick)) : QByteArray(1, static_cast<char>(random()));
-            }
-            const QString path = recorded(content);
-            QCOMPARE(cpuModel(path), QString("CPU"));
-            const QString description = osDescription(path);
-            QVERIFY(description != "Unknown OS");
-            QVERIFY(!description.contains('=') && !description.contains('\n'));
-        }
     }
 
     void liveProbesDescribeThisMachine()

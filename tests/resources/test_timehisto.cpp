@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "histopicture.h"
 
-#include <QMetaMethod>
+#include <QtTest>
 
 #include <utility>
 
@@ -78,9 +79,9 @@ private Q_SLOTS:
 
     void withOneSeriesOnlyGridAndLegendAreDrawn_data()
     {
-        QTest::addColumn<bool>("incomingOnly");
-        QTest::newRow("incoming") << true;
-        QTest::newRow("outgoing") << false;
+        const Rows<bool> row("incomingOnly");
+        row("incoming", true);
+        row("outgoing", false);
     }
 
     void withOneSeriesOnlyGridAndLegendAreDrawn()

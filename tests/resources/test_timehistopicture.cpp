@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "histopicture.h"
-
 #include "../support/brackettranslator.h"
+#include "../support/rows.h"
+#include "histopicture.h"
 
 #include <limits>
 
@@ -35,13 +35,7 @@ private Q_SLOTS:
                  QVector<int>({70, 125, 181, 236, 292, 347, 403, 458, 514, 569, 625}));
     }
 
-    void timesCountBackFromTheRight_data()
-    {
-        QTest::addColumn<int>("interval");
-        for (int interval : {1, 2, 3, 5}) {
-            QTest::addRow("%d", interval) << interval;
-        }
-    }
+    void timesCountBackFromTheRight_data() { addNumberRows("interval", {1, 2, 3, 5}); }
 
     void timesCountBackFromTheRight()
     {
