@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What assistive technology and the keyboard can reach.
+#include "../support/rows.h"
 #include "fixture.h"
 
 #include <QAccessible>
@@ -112,11 +113,7 @@ private Q_SLOTS:
 
     void valuesAreLabelledByTheirCaptions_data()
     {
-        QTest::addColumn<QString>("label");
-        QTest::addColumn<QString>("caption");
-        const auto row = [](const char *value, const char *label, const char *caption) {
-            QTest::newRow(value) << QString::fromLatin1(label) << QString::fromLatin1(caption);
-        };
+        const Rows<QString, QString> row("label", "caption");
         row("lblSystem", "label_3", "System");
         row("lblKernel", "label_4", "Kernel");
         row("lblArch", "label", "Arch");
@@ -152,19 +149,17 @@ private Q_SLOTS:
 
     void tabKeyReachesEveryControlOfAPage_data()
     {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<QStringList>("order");
-        QTest::newRow("General") << 0
-                                 << QStringList({"qt_tabwidget_tabbar", "generalScroll", "lblHost",
-                                                 "lblSystem", "lblKernel", "lblArch", "lblMemTotal",
-                                                 "lblDiskFree", "lblMemFree"});
-        QTest::newRow("Processes") << 1 << QStringList({"qt_tabwidget_tabbar", "treeView"});
-        QTest::newRow("File systems") << 2
-                                      << QStringList({"qt_tabwidget_tabbar", "tableFS", "lblMountPoint",
-                                                      "lblTotal", "lblUsed", "lblAvail", "lblFsType"});
-        QTest::newRow("Network") << 3
-                                 << QStringList({"qt_tabwidget_tabbar", "comboNet", "netAdress", "netMask",
-                                                 "netIn", "netOut", "netErrors"});
+        const Rows<int, QStringList> row("page", "order");
+        row("General", 0,
+            QStringList({"qt_tabwidget_tabbar", "generalScroll", "lblHost", "lblSystem", "lblKernel",
+                         "lblArch", "lblMemTotal", "lblDiskFree", "lblMemFree"}));
+        row("Processes", 1, QStringList({"qt_tabwidget_tabbar", "treeView"}));
+        row("File systems", 2,
+            QStringList({"qt_tabwidget_tabbar", "tableFS", "lblMountPoint", "lblTotal", "lblUsed", "lblAvail",
+                         "lblFsType"}));
+        row("Network", 3,
+            QStringList(
+                {"qt_tabwidget_tabbar", "comboNet", "netAdress", "netMask", "netIn", "netOut", "netErrors"}));
     }
 
     void tabKeyReachesEveryControlOfAPage()

@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "app/elidedlabel.h"
 
 #include <QAccessible>
-#include <QHBoxLayout>
-#include <QHelpEvent>
-#include <QStyle>
-#include <QStyleFactory>
-#include <QTextDocument>
-#include <QToolTip>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <memory>
 
@@ -34,7 +30,6 @@ QImage picture(QWidget &widget)
     return image;
 }
 
-/// The tool tip that appears over the label; empty if none does.
 QString toolTipOver(ElidedLabel &label)
 {
     QToolTip::hideText();
@@ -55,11 +50,6 @@ QString plain(const QString &toolTip)
     return document.toPlainText().replace(QChar::Nbsp, QLatin1Char(' '));
 }
 
-int fullWidth(const QLabel &label)
-{
-    return label.fontMetrics().horizontalAdvance(label.text());
-}
-
 using Change = std::function<void(QLabel &)>;
 
 } // namespace
@@ -71,28 +61,19 @@ class TestElidedLabel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void minimumWidthIsThatOfNoText_data() { addTexts(); }
+    void minimumWidthIsThatOfNoTextAndSizeHintThatOfTheWhole_data() { addTexts(); }
 
-    void minimumWidthIsThatOfNoText()
-    {
-        QFETCH(QString, text);
-        ElidedLabel label;
-        const QSize none = label.minimumSizeHint();
-        label.setText(text);
-        QCOMPARE(label.minimumSizeHint().width(), none.width());
-        QVERIFY(none.width() <= label.fontMetrics().averageCharWidth() * 4);
-        QCOMPARE(label.minimumSizeHint().height(), makeLabel<QLabel>(text)->minimumSizeHint().height());
-    }
-
-    void sizeHintIsThatOfTheWholeText_data() { addTexts(); }
-
-    void sizeHintIsThatOfTheWholeText()
+    void minimumWidthIsThatOfNoTextAndSizeHintThatOfTheWhole()
     {
         QFETCH(QString, text);
         const auto whole = makeLabel<QLabel>(text);
+        const QSize none = ElidedLabel().minimumSizeHint();
+        QVERIFY(none.width() <= whole->fontMetrics().averageCharWidth() * 4);
         for (const int width : {10, 2000}) {
             const auto label = makeLabel<ElidedLabel>(text, QSize(width, 20));
             label->grab();
+            QCOMPARE(label->minimumSizeHint().width(), none.width());
+            QCOMPARE(label->minimumSizeHint().height(), whole->minimumSizeHint().height());
             QCOMPARE(label->sizeHint(), whole->sizeHint());
             QCOMPARE(label->text(), text);
         }
@@ -224,18 +205,16 @@ private Q_SLOTS:
 
     void theToolTipFollows_data()
     {
-        QTest::addColumn<Change>("change");
-        QTest::addColumn<QString>("expected");
+        const Rows<QString, Change> row("expected", "change");
         const QString other = longText + QStringLiteral("-other");
-        QTest::newRow("a text that is elided too")
-            << Change([other](QLabel &label) { label.setText(other); }) << other;
-        QTest::newRow("a text that fits") << Change([](QLabel &label) { label.setText("a"); }) << QString();
-        QTest::newRow("more room") << Change([](QLabel &label) { label.resize(2000, 20); }) << QString();
-        QTest::newRow("a smaller font") << Change([](QLabel &label) {
+        row("a text that is elided too", other, [other](QLabel &label) { label.setText(other); });
+        row("a text that fits", "", [](QLabel &label) { label.setText("a"); });
+        row("more room", "", [](QLabel &label) { label.resize(2000, 20); });
+        row("a smaller font", "", [](QLabel &label) {
             QFont font = label.font();
             font.setPixelSize(1);
             label.setFont(font);
-        }) << QString();
+        });
     }
 
     /// Also without the mouse, since assistive tools read the tool tip as the description.
@@ -291,6 +270,7 @@ private Q_SLOTS:
     }
 
 private:
+    static int fullWidth(const QLabel &label) { return label.fontMetrics().horizontalAdvance(label.text()); }
     static QVector<QPair<const char *, QString>> texts()
     {
         return {{"none", QString()},

@@ -2,6 +2,7 @@
 // CPU figures over too little time are followed by true ones.
 #include "fixture.h"
 
+#include "../support/rows.h"
 #include "app/followup.h"
 #include "process/proxyprocmodel.h"
 
@@ -15,14 +16,13 @@ class TestFollowUp : public ControllerTest
 private Q_SLOTS:
     void aShortSpanAsksForOneMoreRefresh_data()
     {
-        QTest::addColumn<double>("seconds");
-        QTest::addColumn<bool>("asks");
-        QTest::newRow("none") << 0.0 << true;
-        QTest::newRow("a jiffy") << 0.01 << true;
-        QTest::newRow("just too short") << 0.1999 << true;
-        QTest::newRow("just long enough") << 0.2 << false;
-        QTest::newRow("a tick") << 1.0 << false;
-        QTest::newRow("a counter fell") << 1e15 << false;
+        const Rows<double, bool> row("seconds", "asks");
+        row("none", 0.0, true);
+        row("a jiffy", 0.01, true);
+        row("just too short", 0.1999, true);
+        row("just long enough", 0.2, false);
+        row("a tick", 1.0, false);
+        row("a counter fell", 1e15, false);
     }
 
     void aShortSpanAsksForOneMoreRefresh()
@@ -103,12 +103,10 @@ private Q_SLOTS:
 
     void spansAreMachineTime_data()
     {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<int>("jiffies"); // of each of the two CPUs
-        QTest::addColumn<bool>("follows");
+        const Rows<int, int, bool> row("page", "jiffies", "follows"); // of each of the two CPUs
         for (const int page : {0, 1}) {
-            QTest::addRow("page %d, too short", page) << page << 19 << true;
-            QTest::addRow("page %d, long enough", page) << page << 20 << false;
+            row("too short on page " + QByteArray::number(page), page, 19, true);
+            row("long enough on page " + QByteArray::number(page), page, 20, false);
         }
     }
 
@@ -144,34 +142,22 @@ private Q_SLOTS:
         QVERIFY(!isPending());
     }
 
-    void anIdleMachineShowsItsLoadAfterAStartAndAfterChangesOfTheTab()
-    {
-        fixture->start(0);
-        stopTicks();
-        for (int round = 0; round < 10; ++round) {
-            QVERIFY(isPending());
-            pass(30, 30);
-            QTRY_VERIFY(!isPending());
-            QCOMPARE(coreLoad(0), QStringLiteral("0 %"));
-            QCOMPARE(coreLoad(1), QStringLiteral("0 %"));
-            Fixture::choosePage(1 + round % 3);
-            Fixture::choosePage(0);
-        }
-    }
+    void anIdleMachineShowsNoLoadAfterAStartAndAfterChangesOfTheTab_data() { pages(); }
 
-    void sleepersShowNoLoadAfterAStartAndAfterChangesOfTheTab()
+    void anIdleMachineShowsNoLoadAfterAStartAndAfterChangesOfTheTab()
     {
-        fixture->start(1);
+        QFETCH(int, page);
+        fixture->start(page);
         stopTicks();
         for (int round = 0; round < 10; ++round) {
             QVERIFY(isPending());
             pass(30, 30);
             QTRY_VERIFY(!isPending());
-            for (int row = 0; row < 4; ++row) {
-                QCOMPARE(Fixture::processes()->index(row, 1).data().toString(), QStringLiteral("0.0 %"));
+            for (int i = 0; i < (page == 0 ? 2 : 4); ++i) {
+                QCOMPARE(page == 0 ? coreLoad(i) : processLoad(i), QString(page == 0 ? "0 %" : "0.0 %"));
             }
-            Fixture::choosePage((2 + round % 3) % 4);
-            Fixture::choosePage(1);
+            Fixture::choosePage((page + 1 + round % 3) % 4);
+            Fixture::choosePage(page);
         }
     }
 
@@ -182,7 +168,7 @@ private Q_SLOTS:
         (*standin::machine().processes)[100].userTime += 15;
         pass(30, 15);
         QTRY_VERIFY(!isPending());
-        QCOMPARE(Fixture::processes()->index(0, 1).data().toString(), QStringLiteral("25.0 %"));
+        QCOMPARE(processLoad(0), QStringLiteral("25.0 %"));
     }
 
     void aChangeOfTheListIsFollowed()
@@ -192,7 +178,7 @@ private Q_SLOTS:
         QVERIFY(isPending());
         pass(30, 30);
         QTRY_VERIFY(!isPending());
-        QCOMPARE(Fixture::processes()->index(0, 1).data().toString(), QStringLiteral("0.0 %"));
+        QCOMPARE(processLoad(0), QStringLiteral("0.0 %"));
         QCOMPARE(Fixture::processes()->rowCount(), 1);
     }
 
@@ -202,12 +188,11 @@ private:
 
     static void pages()
     {
-        QTest::addColumn<int>("page");
-        QTest::newRow("General") << 0;
-        QTest::newRow("Processes") << 1;
+        const Rows<int> row("page");
+        row("General", 0);
+        row("Processes", 1);
     }
 
-    /// Only the test makes ticks.
     static void stopTicks()
     {
         Fixture::window()->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly)->stop();
@@ -246,6 +231,7 @@ private:
         const auto *grid = Fixture::find<QGridLayout>("glState");
         return qobject_cast<QLabel *>(grid->itemAtPosition(3 + cpu, 2)->widget())->text();
     }
+    static QString processLoad(int row) { return Fixture::processes()->index(row, 1).data().toString(); }
 };
 
 QTEST_MAIN(TestFollowUp)

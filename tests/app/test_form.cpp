@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The form as generated, before the controller adds to it.
+#include "../support/rows.h"
 #include "ui_mainwindow.h"
 
 #include <QtTest>
@@ -21,75 +22,56 @@ private Q_SLOTS:
     /// A null text or grid is not checked.
     void eachWidgetHasItsClassTextAndCell_data()
     {
-        QTest::addColumn<QByteArray>("className");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("grid");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("column");
-        const auto row = [](const char *name, const char *className, const char *text = nullptr,
-                            const char *grid = nullptr, int cellRow = 0, int cellColumn = 0) {
-            QTest::newRow(name) << QByteArray(className) << QByteArray(text) << QString::fromLatin1(grid)
-                                << cellRow << cellColumn;
+        const Rows<QByteArray, QByteArray, QString, int, int> rows("className", "text", "grid", "row",
+                                                                   "column");
+        const auto row = [&](const char *name, const char *className, const char *text = nullptr,
+                             const char *grid = nullptr, int cellRow = 0,
+                             int cellColumn = 0) { rows(name, className, text, grid, cellRow, cellColumn); };
+        const auto captionAndValue = [&](const char *caption, const char *text, const char *value,
+                                         const char *grid, int cellRow, int valueColumn = 2) {
+            row(caption, "QLabel", text, grid, cellRow, 1);
+            row(value, "QLabel", "TextLabel", grid, cellRow, valueColumn);
         };
+        for (const char *name :
+             {"centralwidget", "tab", "generalContents", "tab_2", "tab_3", "frmDisk", "widget", "tab_4"}) {
+            row(name, "QWidget");
+        }
         row("MainWindow", "QMainWindow");
-        row("centralwidget", "QWidget");
         row("tabWidget", "QTabWidget");
-        row("tab", "QWidget");
         row("generalScroll", "PageScroll");
-        row("generalContents", "QWidget");
         row("lblHost", "ElidedLabel", "localhost");
         row("label_2", "QLabel", "Operating system", "glGeneral", 0, 0);
-        row("label_3", "QLabel", "System", "glGeneral", 1, 1);
-        row("lblSystem", "QLabel", "TextLabel", "glGeneral", 1, 3);
+        captionAndValue("label_3", "System", "lblSystem", "glGeneral", 1, 3);
         row("label_13", "QLabel", "", "glGeneral", 2, 0);
-        row("label_4", "QLabel", "Kernel", "glGeneral", 2, 1);
-        row("lblKernel", "QLabel", "TextLabel", "glGeneral", 2, 3);
-        row("label", "QLabel", "Arch", "glGeneral", 3, 1);
-        row("lblArch", "QLabel", "TextLabel", "glGeneral", 3, 3);
+        captionAndValue("label_4", "Kernel", "lblKernel", "glGeneral", 2, 3);
+        captionAndValue("label", "Arch", "lblArch", "glGeneral", 3, 3);
         row("label_5", "QLabel", "Devices", "glGeneral", 5, 0);
-        row("label_6", "QLabel", "Memory", "glGeneral", 6, 1);
-        row("lblMemTotal", "QLabel", "TextLabel", "glGeneral", 6, 3);
+        captionAndValue("label_6", "Memory", "lblMemTotal", "glGeneral", 6, 3);
         row("label_14", "QLabel", "", "glGeneral", 6, 0);
         row("label_27", "QLabel", "");
         row("label_8", "QLabel", "State");
-        row("label_9", "QLabel", "Free space", "glState", 1, 1);
-        row("lblDiskFree", "QLabel", "TextLabel", "glState", 1, 2);
-        row("label_10", "QLabel", "Free memory", "glState", 2, 1);
-        row("lblMemFree", "QLabel", "TextLabel", "glState", 2, 2);
+        captionAndValue("label_9", "Free space", "lblDiskFree", "glState", 1);
+        captionAndValue("label_10", "Free memory", "lblMemFree", "glState", 2);
         row("label_15", "QLabel", "", "glState", 2, 0);
-        row("tab_2", "QWidget");
         row("treeView", "QTreeView");
-        row("tab_3", "QWidget");
         row("splitter", "QSplitter");
         row("tableFS", "QTreeView");
         row("frmDsk", "QFrame");
-        row("frmDisk", "QWidget");
-        row("widget", "QWidget");
         row("label_17", "QLabel", "Device", "gridLayout_5", 0, 1);
         row("lblMountPoint", "ElidedLabel", "TextLabel", "gridLayout_5", 0, 2);
-        row("label_18", "QLabel", "Total", "gridLayout_5", 1, 1);
-        row("lblTotal", "QLabel", "TextLabel", "gridLayout_5", 1, 2);
+        captionAndValue("label_18", "Total", "lblTotal", "gridLayout_5", 1);
         row("lblUsedColor", "QLabel", "", "gridLayout_5", 2, 0);
-        row("label_21", "QLabel", "Used", "gridLayout_5", 2, 1);
-        row("lblUsed", "QLabel", "TextLabel", "gridLayout_5", 2, 2);
+        captionAndValue("label_21", "Used", "lblUsed", "gridLayout_5", 2);
         row("lblAvailColor", "QLabel", "", "gridLayout_5", 3, 0);
-        row("label_25", "QLabel", "Available", "gridLayout_5", 3, 1);
-        row("lblAvail", "QLabel", "TextLabel", "gridLayout_5", 3, 2);
-        row("label_12", "QLabel", "Type", "gridLayout_5", 5, 1);
-        row("lblFsType", "QLabel", "TextLabel", "gridLayout_5", 5, 2);
-        row("tab_4", "QWidget");
+        captionAndValue("label_25", "Available", "lblAvail", "gridLayout_5", 3);
+        captionAndValue("label_12", "Type", "lblFsType", "gridLayout_5", 5);
         row("label_23", "QLabel", "Device", "gridLayout_4", 0, 1);
         row("comboNet", "QComboBox", nullptr, "gridLayout_4", 0, 2);
-        row("label_24", "QLabel", "Address", "gridLayout_4", 1, 1);
-        row("netAdress", "QLabel", "TextLabel", "gridLayout_4", 1, 2);
-        row("label_26", "QLabel", "Mask", "gridLayout_4", 2, 1);
-        row("netMask", "QLabel", "TextLabel", "gridLayout_4", 2, 2);
-        row("label_28", "QLabel", "In", "gridLayout_4", 3, 1);
-        row("netIn", "QLabel", "TextLabel", "gridLayout_4", 3, 2);
-        row("label_30", "QLabel", "Out", "gridLayout_4", 4, 1);
-        row("netOut", "QLabel", "TextLabel", "gridLayout_4", 4, 2);
-        row("label_32", "QLabel", "Errors", "gridLayout_4", 5, 1);
-        row("netErrors", "QLabel", "TextLabel", "gridLayout_4", 5, 2);
+        captionAndValue("label_24", "Address", "netAdress", "gridLayout_4", 1);
+        captionAndValue("label_26", "Mask", "netMask", "gridLayout_4", 2);
+        captionAndValue("label_28", "In", "netIn", "gridLayout_4", 3);
+        captionAndValue("label_30", "Out", "netOut", "gridLayout_4", 4);
+        captionAndValue("label_32", "Errors", "netErrors", "gridLayout_4", 5);
         row("frame", "QFrame");
         row("menubar", "QMenuBar");
         row("statusbar", "QStatusBar");
@@ -141,11 +123,7 @@ private Q_SLOTS:
 
     void eachLayoutHasItsNameAndOwner_data()
     {
-        QTest::addColumn<QString>("owner");
-        QTest::addColumn<QStringList>("members");
-        const auto row = [](const char *layout, const char *owner, const QStringList &members) {
-            QTest::newRow(layout) << QString::fromLatin1(owner) << members;
-        };
+        const Rows<QString, QStringList> row("owner", "members");
         row("verticalLayout", "centralwidget", {"tabWidget"});
         row("verticalLayout_4", "generalContents", {"lblHost", "horizontalLayout", "label_8", "glState"});
         row("verticalLayout_5", "tab_2", {"treeView"});

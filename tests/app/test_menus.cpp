@@ -2,6 +2,7 @@
 #include "fixture.h"
 #include "rows.h"
 
+#include "../support/rows.h"
 #include "process/gtop_wrappers/filler.h"
 #include "process/proxyprocmodel.h"
 #include "tests/support/modal.h"
@@ -56,15 +57,20 @@ private Q_SLOTS:
         QVERIFY(menuAt(1)->actions().first()->isVisible());
     }
 
-    void processActionsAreDisabledOnOtherPages()
+    void processActionsAreDisabledOnOtherPagesEvenByARefresh()
     {
         startOnProcesses(0);
         QVERIFY(processAction("Kill process")->isEnabled());
         QVERIFY(processAction("Tree view")->isEnabled());
         Fixture::choosePage(0);
-        for (const char *text : {"Tree view", "My processes", "All processes", "Stop process",
-                                 "Terminate process", "Kill process"}) {
-            QVERIFY2(!processAction(text)->isEnabled(), text);
+        for (const bool isRefreshed : {false, true}) {
+            if (isRefreshed) {
+                fixture->updater().update(true);
+            }
+            for (const char *text : {"Tree view", "My processes", "All processes", "Stop process",
+                                     "Terminate process", "Kill process"}) {
+                QVERIFY2(!processAction(text)->isEnabled(), text);
+            }
         }
         Fixture::choosePage(1);
         QVERIFY(processAction("Kill process")->isEnabled());
@@ -120,20 +126,11 @@ private Q_SLOTS:
         QVERIFY(processAction("Continue process")->isEnabled());
     }
 
-    void refreshOnAnotherPageEnablesNothing()
-    {
-        startOnProcesses(2);
-        Fixture::choosePage(0);
-        fixture->updater().update(true);
-        QVERIFY(!processAction("Stop process")->isEnabled());
-        QVERIFY(!processAction("Kill process")->isEnabled());
-    }
-
     void contextMenuHasTheActionsAndTheColumns_data()
     {
-        QTest::addColumn<bool>("selected");
-        QTest::newRow("with a selection") << true;
-        QTest::newRow("without a selection") << false;
+        const Rows<bool> row("selected");
+        row("with a selection", true);
+        row("without a selection", false);
     }
 
     void contextMenuHasTheActionsAndTheColumns()
@@ -234,11 +231,7 @@ private Q_SLOTS:
 
     void eachIntervalEntryOpensItsDialog_data()
     {
-        QTest::addColumn<QString>("page");
-        QTest::addColumn<QString>("key");
-        const auto row = [](const char *entry, const char *page, const char *key) {
-            QTest::newRow(entry) << QString::fromLatin1(page) << QString::fromLatin1(key);
-        };
+        const Rows<QString, QString> row("page", "key");
         row("General interval", "General page", "interval/general");
         row("Process interval", "Processes page", "interval/procs");
         row("Filesystem interval", "Filesystems page", "interval/fs");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Network page of the whole controller on made-up interfaces.
+#include "../support/rows.h"
 #include "fixture.h"
 #include "rows.h"
 
@@ -56,11 +57,9 @@ private Q_SLOTS:
 
     void eachRefreshAddsTheBytesSinceTheLast_data()
     {
-        QTest::addColumn<quint64>("bytesIn");
-        QTest::addColumn<quint64>("bytesOut");
-        QTest::addColumn<QString>("sample");
-        QTest::newRow("rising") << quint64(6144) << quint64(612) << "In: 2.00 KB, Out: 100.00 B";
-        QTest::newRow("falling wraps") << quint64(3072) << quint64(0) << "In: 4.00 GB, Out: 4.00 GB";
+        const Rows<quint64, quint64, QString> row("bytesIn", "bytesOut", "sample");
+        row("rising", 6144, 612, "In: 2.00 KB, Out: 100.00 B");
+        row("falling wraps", 3072, 0, "In: 4.00 GB, Out: 4.00 GB");
     }
 
     void eachRefreshAddsTheBytesSinceTheLast()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "app/pageintervals.h"
 #include "rows.h"
 #include "tests/support/modal.h"
@@ -44,8 +45,9 @@ private Q_SLOTS:
         }
     }
 
-    void dialogIsLaidOutAsRequired()
+    void theDialogIsBuiltAsRequired()
     {
+        intervals->setInterval(1, 4);
         withDialog([](QDialog *dialog) {
             QCOMPARE(dialog->windowTitle(), QStringLiteral("Interval changing"));
             QVERIFY(qobject_cast<QVBoxLayout *>(dialog->layout()));
@@ -58,24 +60,10 @@ private Q_SLOTS:
                          "You can set time interval (in secs)\n between updates for page Processes page"));
             QCOMPARE(text->alignment(), Qt::AlignHCenter | Qt::AlignTop);
             const QLabel *value = label(dialog, 1, 1);
-            QCOMPARE(value->text(), QStringLiteral("3"));
+            QCOMPARE(value->text(), QStringLiteral("4"));
             QCOMPARE(value->alignment(), Qt::AlignHCenter | Qt::AlignBottom);
-            QCOMPARE(grid(dialog)->itemAtPosition(2, 1)->widget(), static_cast<QWidget *>(slider(dialog)));
-            QCOMPARE(label(dialog, 2, 0)->text(), QStringLiteral("Interval"));
-            QCOMPARE(label(dialog, 2, 0)->buddy(), static_cast<QWidget *>(slider(dialog)));
-            const auto *buttons = dialog->findChild<QDialogButtonBox *>();
-            QCOMPARE(buttons->standardButtons(), QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-            QVERIFY(dialog->width() >= 400);
-            QVERIFY(dialog->isModal());
-        });
-        QCOMPARE(QApplication::topLevelWidgets().size(), 1);
-    }
-
-    void sliderGoesFromOneToFive()
-    {
-        intervals->setInterval(1, 4);
-        withDialog([](QDialog *dialog) {
             const QSlider *found = slider(dialog);
+            QCOMPARE(grid(dialog)->itemAtPosition(2, 1)->widget(), static_cast<const QWidget *>(found));
             QCOMPARE(found->orientation(), Qt::Horizontal);
             QCOMPARE(found->minimum(), 1);
             QCOMPARE(found->maximum(), 5);
@@ -84,7 +72,14 @@ private Q_SLOTS:
             QCOMPARE(found->pageStep(), 1);
             QVERIFY(found->hasTracking());
             QVERIFY(found->isSliderDown());
+            QCOMPARE(label(dialog, 2, 0)->text(), QStringLiteral("Interval"));
+            QCOMPARE(label(dialog, 2, 0)->buddy(), static_cast<const QWidget *>(found));
+            const auto *buttons = dialog->findChild<QDialogButtonBox *>();
+            QCOMPARE(buttons->standardButtons(), QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+            QVERIFY(dialog->width() >= 400);
+            QVERIFY(dialog->isModal());
         });
+        QCOMPARE(QApplication::topLevelWidgets().size(), 1);
     }
 
     void onlyDraggingTheSliderEnablesOk()
@@ -110,19 +105,14 @@ private Q_SLOTS:
 
     void draggedValueIsStoredOnlyOnOk_data()
     {
-        QTest::addColumn<int>("initial");
-        QTest::addColumn<int>("shown");
-        QTest::addColumn<int>("dragged");
-        QTest::addColumn<int>("ending");
-        QTest::addColumn<int>("stored");
+        const Rows<int, int, int, int, int> row("initial", "shown", "dragged", "ending", "stored");
         const int escape = QDialogButtonBox::NoButton;
-        QTest::newRow("OK") << 3 << 3 << 5 << int(QDialogButtonBox::Ok) << 5;
-        QTest::newRow("Cancel") << 3 << 3 << 5 << int(QDialogButtonBox::Cancel) << 3;
-        QTest::newRow("Esc") << 3 << 3 << 5 << escape << 3;
+        row("OK", 3, 3, 5, QDialogButtonBox::Ok, 5);
+        row("Cancel", 3, 3, 5, QDialogButtonBox::Cancel, 3);
+        row("Esc", 3, 3, 5, escape, 3);
         const QPair<int, int> clamped[] = {{0, 1}, {-5, 1}, {6, 5}, {INT_MAX, 5}, {INT_MIN, 1}};
-        for (const auto &pair : clamped) {
-            QTest::newRow(qPrintable(QStringLiteral("%1 is clamped").arg(pair.first)))
-                << pair.first << pair.second << pair.second << int(QDialogButtonBox::Ok) << pair.second;
+        for (const auto &[given, bound] : clamped) {
+            row(QByteArray::number(given) + " is clamped", given, bound, bound, QDialogButtonBox::Ok, bound);
         }
     }
 

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "app/pagescroll.h"
 
-#include <QLabel>
-#include <QMainWindow>
-#include <QMenuBar>
-#include <QScrollBar>
-#include <QStyleFactory>
-#include <QTabWidget>
-#include <QVBoxLayout>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -43,11 +38,7 @@ struct Window
         window.setCentralWidget(central);
     }
 
-    void addLine(const QString &text) const
-    {
-        auto *label = new QLabel(text);
-        layout->addWidget(label);
-    }
+    void addLine(const QString &text) const { layout->addWidget(new QLabel(text)); }
     void show(int height)
     {
         window.resize(400, height);
@@ -81,11 +72,6 @@ public:
 private:
     QFont before;
 };
-
-QImage picture(QWidget *widget, const QRect &area)
-{
-    return widget->grab(area).toImage();
-}
 
 } // namespace
 
@@ -219,6 +205,8 @@ private Q_SLOTS:
     }
 
 private:
+    static QImage picture(QWidget *widget, const QRect &area) { return widget->grab(area).toImage(); }
+
     /// QTabWidget's minimum is up to two pixels higher than it needs.
     static void verifyWholePageNeeds(int height, Window &made)
     {
@@ -232,11 +220,10 @@ private:
 
     static void addLooks()
     {
-        QTest::addColumn<QString>("style");
-        QTest::addColumn<double>("points");
+        const Rows<QString, double> row("style", "points");
         for (const QString &style : QStyleFactory::keys()) {
             for (const double points : {6.5, 9.0, 14.0, 27.0}) {
-                QTest::addRow("%s, %.1f points", qPrintable(style), points) << style << points;
+                row(QStringLiteral("%1, %2 points").arg(style).arg(points).toUtf8(), style, points);
             }
         }
     }

@@ -33,9 +33,9 @@ private Q_SLOTS:
 
     void costlyValuesAreNotReadUntilLookedAt()
     {
-        // State and time of five. The parent of 100 is not listed, so it is read as well, with the time; 500
-        // is too young to be recognized, so it is read completely. To measure the row height, the view asks
-        // for the memory and the command line of its first row, each read with the time.
+        // State and time of five, and twice the parent of 100, which is not listed; 500 is too young to be
+        // recognized, so it is read completely; the view measures two cells of its first row, each with the
+        // time.
         QCOMPARE(callsOfRefresh(), 5U * 2 + 2 + 4 + 4);
         standin::resetCalls();
         shown(300, MemoryColumn);
@@ -183,8 +183,7 @@ private:
         return value ? value->displayValue().toString() : QStringLiteral("none");
     }
 
-    /// Number of calls for process data in a full refresh. Each tenth snapshot, counted over all tests, also
-    /// reads the parents of these pids again; of two in succession at least one does not.
+    /// Calls for process data in a full refresh. Each tenth snapshot reads parents again; of two at most one.
     unsigned callsOfRefresh()
     {
         unsigned fewest = std::numeric_limits<unsigned>::max();

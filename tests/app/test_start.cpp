@@ -2,6 +2,7 @@
 // What a start reads, and how the ticks stand after it.
 #include "fixture.h"
 
+#include "../support/rows.h"
 #include "process/gtop_wrappers/filler.h"
 #include "process/proxyprocmodel.h"
 #include "resources/timehisto.h"
@@ -16,16 +17,14 @@ class TestStart : public ControllerTest
 private Q_SLOTS:
     void eachThingIsReadOnce_data()
     {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<unsigned>("memory");
-        QTest::addColumn<unsigned>("mountLists");
+        const Rows<int, unsigned, unsigned> row("page", "memory", "mountLists");
         // The full refresh reads memory once and the mounts for two pages. The rest is the shown page, which
         // is refreshed when the settings are loaded.
-        QTest::newRow("no page given") << -1 << 2U << 3U;
-        QTest::newRow("General") << 0 << 2U << 3U;
-        QTest::newRow("Processes") << 1 << 1U << 2U;
-        QTest::newRow("File systems") << 2 << 1U << 3U;
-        QTest::newRow("Network") << 3 << 1U << 2U;
+        row("no page given", -1, 2U, 3U);
+        row("General", 0, 2U, 3U);
+        row("Processes", 1, 1U, 2U);
+        row("File systems", 2, 1U, 3U);
+        row("Network", 3, 1U, 2U);
     }
 
     void eachThingIsReadOnce()

@@ -2,6 +2,7 @@
 // The program's window and boxes under a Wayland compositor. Needs weston and Qt's Wayland plugin.
 #include "fixture.h"
 
+#include "../support/rows.h"
 #include "process/processbox.h"
 #include "tests/support/modal.h"
 
@@ -110,17 +111,15 @@ private Q_SLOTS:
 
     void geometryComesBackWithoutAPosition_data()
     {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<bool>("maximized");
-        QTest::newRow("none") << QString() << QSize(640, 480) << false;
-        QTest::newRow("saved under Wayland") << "0, 0, 900, 700, 30, 0" << QSize(900, 700) << false;
-        QTest::newRow("saved under X11") << "40, 60, 900, 700, 20, 0" << QSize(900, 700) << false;
-        QTest::newRow("on a screen that is gone") << "5000, 60, 900, 700, 20, 0" << QSize(900, 700) << false;
-        QTest::newRow("larger than the screen")
-            << "0, 0, 5000, 4000, 30, 0" << QSize(screenWidth, screenHeight - 30) << false;
-        QTest::newRow("too small") << "0, 0, 60, 700, 30, 0" << QSize(640, 480) << false;
-        QTest::newRow("maximized") << "0, 0, 900, 700, 30, 1" << QSize(900, 700) << true;
+        const Rows<QString, QSize, bool> row("stored", "size", "maximized");
+        row("none", QString(), QSize(640, 480), false);
+        row("saved under Wayland", "0, 0, 900, 700, 30, 0", QSize(900, 700), false);
+        row("saved under X11", "40, 60, 900, 700, 20, 0", QSize(900, 700), false);
+        row("on a screen that is gone", "5000, 60, 900, 700, 20, 0", QSize(900, 700), false);
+        row("larger than the screen", "0, 0, 5000, 4000, 30, 0", QSize(screenWidth, screenHeight - 30),
+            false);
+        row("too small", "0, 0, 60, 700, 30, 0", QSize(640, 480), false);
+        row("maximized", "0, 0, 900, 700, 30, 1", QSize(900, 700), true);
     }
 
     void geometryComesBackWithoutAPosition()

@@ -3,6 +3,7 @@
 #include "fixture.h"
 #include "rows.h"
 
+#include "../support/rows.h"
 #include "fs/chart.h"
 #include "resources/qprog.h"
 #include "resources/systeminfo.h"
@@ -73,9 +74,9 @@ private Q_SLOTS:
 
     void eachCpuHasALoadRow_data()
     {
-        QTest::addColumn<QStringList>("captions");
-        QTest::newRow("one CPU") << QStringList{"CPU load"};
-        QTest::newRow("two CPUs") << QStringList{"CPU core 1 load", "CPU core 2 load"};
+        const Rows<QStringList> row("captions");
+        row("one CPU", {"CPU load"});
+        row("two CPUs", {"CPU core 1 load", "CPU core 2 load"});
     }
 
     void eachCpuHasALoadRow()
