@@ -10,11 +10,6 @@
 
 namespace {
 
-bool noneIsLeft()
-{
-    return open("/dev/null", O_RDONLY) == -1;
-}
-
 /// Runs `act` with a lower limit on descriptors and every one that is left used up, then reverts both.
 void withNoneLeft(rlim_t limit, const std::function<void()> &act)
 {
@@ -43,20 +38,18 @@ public:
 } // namespace
 
 /// Reads the real machine: libgtop exits the whole process if it cannot open /proc/stat.
-class TestDescriptors : public QObject
+class TestDescriptors : public ControllerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        fixture = std::make_unique<Fixture>();
+        ControllerTest::init();
         standin::machine() = {};
         fixture->start(1);
         QVERIFY(listsThisProcess());
     }
-
-    void cleanup() { fixture.reset(); }
 
     void withNoneLeftARefreshShowsTheMachine()
     {
@@ -147,6 +140,7 @@ private Q_SLOTS:
     }
 
 private:
+    static bool noneIsLeft() { return open("/dev/null", O_RDONLY) == -1; }
     static bool listsThisProcess()
     {
         for (int row = 0; row < processList()->rowCount(); ++row) {
@@ -165,8 +159,6 @@ private:
             Fixture::find<QLabel>(label)->setText(QStringLiteral("stale"));
         }
     }
-
-    std::unique_ptr<Fixture> fixture;
 };
 
 QTEST_MAIN(TestDescriptors)

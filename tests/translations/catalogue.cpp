@@ -3,13 +3,6 @@
 
 #include "app/translations.h"
 
-#include <QDir>
-#include <QFile>
-#include <QLocale>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTranslator>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 namespace {

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "app/translations.h"
 #include "catalogue.h"
 
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTranslator>
 #include <QtTest>
 
 class TestLanguageChoice : public QObject
@@ -14,11 +12,10 @@ class TestLanguageChoice : public QObject
 private Q_SLOTS:
     void theFirstLanguageWithACatalogueWins_data()
     {
-        QTest::addColumn<QStringList>("wanted");
-        QTest::addColumn<QString>("chosen");
-        const auto rows = [](const char *chosen, std::initializer_list<const char *> lists) {
+        const Rows<QStringList, QString> row("wanted", "chosen");
+        const auto rows = [&](const char *chosen, std::initializer_list<const char *> lists) {
             for (const QString wanted : lists) {
-                QTest::newRow(qPrintable(wanted)) << wanted.split(QLatin1Char(' ')) << QString(chosen);
+                row(qPrintable(wanted), wanted.split(QLatin1Char(' ')), QString(chosen));
             }
         };
         rows("de", {"de", "de-DE", "de_AT", "de_CH.UTF-8@euro", "de-euro de", "eo de", "de en", " de"});
@@ -29,7 +26,7 @@ private Q_SLOTS:
         rows("zh_CN", {"zh_CN", "zh-Hans-CN", "zh_SG", "zh"});
         rows("", {"zh_TW", "en", "en-US en en-Latn-US de", "en_GB.UTF-8 de", "fi en de", "C", "C.UTF-8 de",
                   "POSIX de", "! ../de de/../fr"});
-        QTest::newRow("no language") << QStringList() << QString();
+        row("no language", QStringList(), QString());
     }
 
     void theFirstLanguageWithACatalogueWins()
@@ -48,10 +45,7 @@ private Q_SLOTS:
 
     void aLocaleWithoutATranslationShowsTheSourceTexts_data()
     {
-        QTest::addColumn<QString>("locale");
-        for (const char *locale : {"C", "fi_FI", "en_US", "ar_EG", "zh_TW"}) {
-            QTest::newRow(locale) << QString::fromLatin1(locale);
-        }
+        addTextRows("locale", {"C", "fi_FI", "en_US", "ar_EG", "zh_TW"});
     }
 
     void aLocaleWithoutATranslationShowsTheSourceTexts()

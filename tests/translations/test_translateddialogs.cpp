@@ -13,7 +13,7 @@
 #include <csignal>
 
 /// Each dialog is legible in each language, with buttons in that language.
-class TestTranslatedDialogs : public QObject
+class TestTranslatedDialogs : public ControllerTest
 {
     Q_OBJECT
 
@@ -31,13 +31,11 @@ private Q_SLOTS:
     {
         QFETCH_GLOBAL(QString, language);
         useLanguage(language);
-        fixture = std::make_unique<Fixture>();
+        ControllerTest::init();
         (*standin::machine().processes)[stopped].state = 16;
         fixture->start(1);
         QMetaObject::invokeMethod(&fixture->updater(), "slotTabChanged", Q_ARG(int, 1));
     }
-
-    void cleanup() { fixture.reset(); }
 
     void theIntervalDialogsAreLegible()
     {
@@ -157,8 +155,6 @@ private:
             }
         }
     }
-
-    std::unique_ptr<Fixture> fixture;
 };
 
 QTEST_MAIN(TestTranslatedDialogs)

@@ -9,7 +9,7 @@
 #include <QtWidgets>
 
 /// Each page and each menu is legible in each language, in a window of the default size.
-class TestTranslatedPages : public QObject
+class TestTranslatedPages : public ControllerTest
 {
     Q_OBJECT
 
@@ -27,11 +27,9 @@ private Q_SLOTS:
     {
         QFETCH_GLOBAL(QString, language);
         useLanguage(language);
-        fixture = std::make_unique<Fixture>();
+        ControllerTest::init();
         fixture->start(1);
     }
-
-    void cleanup() { fixture.reset(); }
 
     void thePagesAreLegible()
     {
@@ -92,8 +90,6 @@ private:
             }
         }
     }
-
-    std::unique_ptr<Fixture> fixture;
 };
 
 QTEST_MAIN(TestTranslatedPages)
