@@ -5,9 +5,12 @@
 #include "tests/desktop/churn.h"
 #include "tests/desktop/session.h"
 
+#include <QJsonArray>
 #include <QMap>
 #include <QRandomGenerator>
 #include <QTest>
+
+#include <functional>
 
 /// A user who does everything that the program allows, in random order, by real key and mouse events, while
 /// the look of the desktop and the machine change. Never quits the program, and confirms an action on a
@@ -29,12 +32,24 @@ public:
     QStringList lastActions() const { return log; }             ///< oldest first
 
 private:
-    /// Where input goes to.
     enum Place { Window = 1, Menu = 2, List = 4, Dialog = 8, AnyPlace = 15 };
-    /// Pages of the window, as bits.
     enum Pages { System = 1, Processes = 2, FileSystems = 4, Network = 8, AnyPage = 15 };
-    struct Kind;
-    static const Kind kinds[];
+    /// An action, and where and how often it is chosen.
+    struct Kind
+    {
+        const char *name;
+        int place;
+        int pages;
+        int weight;
+        std::function<void(Monkey &)> act;
+    };
+    static const std::vector<Kind> kindsInWindow;          ///< monkey_window.cpp
+    static const std::vector<Kind> kindsWithSomethingOpen; ///< menus, lists and dialogs: monkey_open.cpp
+    /// Presses one of the keys, which spaces separate. One that is listed twice is chosen twice as often.
+    static std::function<void(Monkey &)> keys(const char *words)
+    {
+        return [words](Monkey &monkey) { monkey.press(monkey.anyOf(words)); };
+    }
 
     bool look();
     void lookAtDialog();
@@ -45,6 +60,7 @@ private:
     void note(const QString &text);
     QString anyOf(const char *words);
     bool oneIn(int chances) { return random.bounded(chances) == 0; }
+    bool isInFileMenu() const { return state.value("menus").toArray().contains("&File"); }
     QPoint pointIn(const QRect &rect);
     QRect rectOfWidget(const QString &name);
     QRect shownView();
@@ -58,49 +74,16 @@ private:
     void turnWheel(const QRect &rect);
     void drag(const QPoint &from, const QPoint &to);
 
-    // Actions in the window (monkey_window.cpp).
-    void clickTab();
-    void openMenu();
-    void lookIntoFileMenu();
-    void openContextMenu() { clickIn(listOnPage(), 3); }
-    void clickRow();
-    void wheelInWindow() { turnWheel(shownView()); }
-    void clickHeader();
-    void dragHeader();
-    void clickChooser();
-    void dragSplitter();
-    void resizeWindow();
-    void maximise();
     void waitUntilWindowStands();
-    void changePalette();
-    void changeFont();
-    void clickAnywhere();
-    // What happens around the program.
-    void changeProcesses() { note(churn.changeProcesses(random)); }
-    void changeMachine() { session.setMachine(Churn::machine(random)); }
-    void wait() { QTest::qWait(random.bounded(500)); }
-
-    // Actions in menus, lists and dialogs (monkey_open.cpp).
     QJsonObject anyEntry(bool aboutProcess = false);
     void clickOn(const QJsonObject &entry);
-    void clickEntry() { clickOn(anyEntry()); }
-    void hoverEntry();
-    void pressMenuKey();
-    void clickProcessEntry() { clickOn(anyEntry(true)); }
-    void clickBesideMenu();
-    void clickItem();
     bool asksAboutProcess() const;
     bool mayConfirm();
-    void endProcessAskedAbout();
-    void clickButton();
-    void pressDialogKey();
-    void moveSlider();
-    void clickInDialog();
-    void closeDialog();
 
     DesktopSession &session;
     Churn &churn;
     const quint32 seed;
+    std::vector<Kind> kinds;
     quint32 number = 0;
     QRandomGenerator random;
     QJsonObject state;

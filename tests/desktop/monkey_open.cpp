@@ -27,46 +27,6 @@ void Monkey::clickOn(const QJsonObject &entry)
     clickIn(rectOf(entry.value("rect")));
 }
 
-void Monkey::hoverEntry()
-{
-    const QJsonObject entry = anyEntry();
-    note(entry.value("text").toString());
-    if (!entry.isEmpty()) {
-        session.x().moveTo(pointIn(rectOf(entry.value("rect"))));
-    }
-}
-
-/// Left and Right can lead into the "File" menu, whose first entry is "Exit".
-void Monkey::pressMenuKey()
-{
-    const bool isInFileMenu = state.value("menus").toArray().contains("&File");
-    press(isInFileMenu ? "Escape"
-                       : anyOf("Up Down Down Down Left Right Home End Return Return Escape space"));
-}
-
-void Monkey::clickBesideMenu()
-{
-    const QPoint point = pointIn(shownView());
-    if (!state.value("menus").toArray().contains("&File") && !forbidden().contains(point)) {
-        clickAt(point, oneIn(4) ? 3 : 1);
-    }
-}
-
-void Monkey::clickItem()
-{
-    for (const QJsonValue &window : session.probe("windows").value("windows").toArray()) {
-        if (window["class"] != state.value("popup")) {
-            continue;
-        }
-        const QRect rect = rectOf(window["rect"]);
-        if (oneIn(3)) {
-            turnWheel(rect);
-        } else {
-            clickIn(rect);
-        }
-    }
-}
-
 /// Whether OK in the open box acts on a process.
 bool Monkey::asksAboutProcess() const
 {
@@ -82,68 +42,103 @@ bool Monkey::mayConfirm()
     return isOfTheTest;
 }
 
-void Monkey::endProcessAskedAbout()
-{
-    if (asksAboutProcess()) {
-        churn.end(askedAbout);
-    }
-}
-
-void Monkey::clickButton()
-{
-    const QJsonArray buttons = session.dialog().value("buttons").toArray();
-    if (buttons.isEmpty()) {
-        return;
-    }
-    const QJsonValue button = buttons.at(random.bounded(buttons.size()));
-    const QString text = button["text"].toString();
-    note(text);
-    if (!text.contains("Cancel")) {
-        if (!mayConfirm()) {
-            return;
-        }
-        if (asksAboutProcess()) {
-            ++dialogCounts[title() + ", OK clicked"];
-        }
-    }
-    clickIn(rectOf(button["rect"]));
-}
-
-void Monkey::pressDialogKey()
-{
-    const QString keys =
-        anyOf("Return space Tab Tab shift+Tab Left Right Home End Down Page_Up Escape F1 alt+o");
-    press(mayConfirm() ? keys : "Escape");
-}
-
-void Monkey::moveSlider()
-{
-    const QRect slider = rectOfWidget("QSlider");
-    if (slider.isEmpty()) {
-        return;
-    }
-    if (oneIn(3)) {
-        turnWheel(slider);
-    } else if (oneIn(2)) {
-        clickIn(slider);
-    } else {
-        drag(pointIn(slider), pointIn(slider));
-    }
-}
-
-/// Not in the box about the toolkit, whose links open a browser.
-void Monkey::clickInDialog()
-{
-    const QJsonObject dialog = session.dialog();
-    if (dialog.value("title") != "About Qt" && mayConfirm()) {
-        clickIn(rectOf(dialog.value("rect")), oneIn(3) ? 3 : 1);
-    }
-}
-
-void Monkey::closeDialog()
-{
-    const QJsonObject dialog = session.dialog();
-    if (!dialog.isEmpty()) {
-        session.x().closeWindow(static_cast<unsigned long>(dialog.value("id").toDouble()));
-    }
-}
+const std::vector<Monkey::Kind> Monkey::kindsWithSomethingOpen = {
+    {"menu entry by mouse", Menu, AnyPage, 26, [](Monkey &m) { m.clickOn(m.anyEntry()); }},
+    {"menu entry about a process", Menu, Processes, 14, [](Monkey &m) { m.clickOn(m.anyEntry(true)); }},
+    {"menu entry pointed at", Menu, AnyPage, 10,
+     [](Monkey &m) {
+         const QJsonObject entry = m.anyEntry();
+         m.note(entry.value("text").toString());
+         if (!entry.isEmpty()) {
+             m.session.x().moveTo(m.pointIn(rectOf(entry.value("rect"))));
+         }
+     }},
+    {"menu entry by key", Menu, AnyPage, 20,
+     [](Monkey &m) { // Left and Right can lead into the "File" menu, whose first entry is "Exit"
+         m.press(m.isInFileMenu()
+                     ? "Escape"
+                     : m.anyOf("Up Down Down Down Left Right Home End Return Return Escape space"));
+     }},
+    {"click beside a menu", Menu, AnyPage, 3,
+     [](Monkey &m) {
+         const QPoint point = m.pointIn(m.shownView());
+         if (!m.isInFileMenu() && !m.forbidden().contains(point)) {
+             m.clickAt(point, m.oneIn(4) ? 3 : 1);
+         }
+     }},
+    {"interface by mouse", List, AnyPage, 20,
+     [](Monkey &m) {
+         for (const QJsonValue &window : m.session.probe("windows").value("windows").toArray()) {
+             if (window["class"] != m.state.value("popup")) {
+                 continue;
+             }
+             const QRect rect = rectOf(window["rect"]);
+             if (m.oneIn(3)) {
+                 m.turnWheel(rect);
+             } else {
+                 m.clickIn(rect);
+             }
+         }
+     }},
+    {"interface by key", List, AnyPage, 20,
+     keys("Up Down Home End Page_Up Page_Down End Return Return Escape Tab e")},
+    {"button", Dialog, AnyPage, 30,
+     [](Monkey &m) {
+         const QJsonArray buttons = m.session.dialog().value("buttons").toArray();
+         if (buttons.isEmpty()) {
+             return;
+         }
+         const QJsonValue button = buttons.at(m.random.bounded(buttons.size()));
+         const QString text = button["text"].toString();
+         m.note(text);
+         if (!text.contains("Cancel")) {
+             if (!m.mayConfirm()) {
+                 return;
+             }
+             if (m.asksAboutProcess()) {
+                 ++m.dialogCounts[m.title() + ", OK clicked"];
+             }
+         }
+         m.clickIn(rectOf(button["rect"]));
+     }},
+    {"dialog key", Dialog, AnyPage, 20,
+     [](Monkey &m) {
+         const QString key =
+             m.anyOf("Return space Tab Tab shift+Tab Left Right Home End Down Page_Up Escape F1 alt+o");
+         m.press(m.mayConfirm() ? key : "Escape");
+     }},
+    {"slider", Dialog, AnyPage, 15,
+     [](Monkey &m) {
+         const QRect slider = m.rectOfWidget("QSlider");
+         if (slider.isEmpty()) {
+             return;
+         }
+         if (m.oneIn(3)) {
+             m.turnWheel(slider);
+         } else if (m.oneIn(2)) {
+             m.clickIn(slider);
+         } else {
+             m.drag(m.pointIn(slider), m.pointIn(slider));
+         }
+     }},
+    {"click in a dialog", Dialog, AnyPage, 5,
+     [](Monkey &m) { // not in the box about the toolkit, whose links open a browser
+         const QJsonObject dialog = m.session.dialog();
+         if (dialog.value("title") != "About Qt" && m.mayConfirm()) {
+             m.clickIn(rectOf(dialog.value("rect")), m.oneIn(3) ? 3 : 1);
+         }
+     }},
+    {"end of the process asked about", Dialog, Processes, 10,
+     [](Monkey &m) {
+         if (m.asksAboutProcess()) {
+             m.churn.end(m.askedAbout);
+         }
+     }},
+    {"dialog closed", Dialog, AnyPage, 4,
+     [](Monkey &m) {
+         const QJsonObject dialog = m.session.dialog();
+         if (!dialog.isEmpty()) {
+             m.session.x().closeWindow(static_cast<unsigned long>(dialog.value("id").toDouble()));
+         }
+     }},
+};

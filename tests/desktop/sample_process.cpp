@@ -21,21 +21,6 @@ namespace {
 
 std::string nextName;
 
-void takeName(const std::string &name)
-{
-    prctl(PR_SET_NAME, name.c_str());
-}
-
-void takeNextName(int)
-{
-    prctl(PR_SET_NAME, nextName.c_str());
-}
-
-void endWithStarter()
-{
-    prctl(PR_SET_PDEATHSIG, SIGKILL); // cleared by the kernel at a change of user
-}
-
 bool takeUser(const char *id)
 {
     const auto user = static_cast<unsigned>(std::strtoul(id, nullptr, 10));
@@ -54,27 +39,13 @@ void sleepFor(long milliseconds)
     nanosleep(&time, nullptr);
 }
 
-void live()
-{
-    sleepFor(400);
-}
-
-void liveAndLeaveAChild()
-{
-    if (fork() == 0) {
-        sleepFor(800);
-        return;
-    }
-    sleepFor(400);
-}
-
 [[noreturn]] void startChildren(const std::string &name, void (*run)(), long interval)
 {
     std::signal(SIGCHLD, SIG_IGN); // the kernel reaps them
     for (bool isFirst = true;; isFirst = false) {
         if (fork() == 0) {
-            endWithStarter();
-            takeName(name);
+            prctl(PR_SET_PDEATHSIG, SIGKILL);
+            prctl(PR_SET_NAME, name.c_str());
             run();
             _exit(0);
         }
@@ -98,14 +69,16 @@ int main(int argc, char *argv[])
     if (argc > 3 && !takeUser(argv[3])) {
         return 3;
     }
-    endWithStarter();
-    std::signal(SIGUSR1, takeNextName);
-    takeName(name);
+    prctl(PR_SET_PDEATHSIG, SIGKILL); // cleared by the kernel at a change of user
+    std::signal(SIGUSR1, [](int) { prctl(PR_SET_NAME, nextName.c_str()); });
+    prctl(PR_SET_NAME, name.c_str());
     if (what == "parent") {
-        startChildren(name + 'c', live, 20);
+        startChildren(
+            name + 'c', [] { sleepFor(400); }, 20);
     }
     if (what == "heir") {
         prctl(PR_SET_CHILD_SUBREAPER, 1);
+        const auto liveAndLeaveAChild = [] { sleepFor(fork() == 0 ? 800 : 400); };
         startChildren(name + 'c', liveAndLeaveAChild, 200);
     }
     announce();

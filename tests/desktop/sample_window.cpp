@@ -1,18 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A small window for the tests of the desktop driver and the probe.
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QStandardItemModel>
-#include <QStatusBar>
-#include <QTabWidget>
-#include <QTimer>
-#include <QTreeView>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 #include <glibtop.h>
 #include <glibtop/mem.h>

@@ -1,16 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "tests/desktop/programtest.h"
 
 #include <sys/resource.h>
-
-namespace {
-
-int niceOf(const SampleProcess &process)
-{
-    return getpriority(PRIO_PROCESS, static_cast<id_t>(process.pid()));
-}
-
-} // namespace
 
 /// What the kernel refuses a user, and what it grants: lowering the priority of the user's own processes.
 class TestActionsRefused : public ProgramTest
@@ -39,10 +31,7 @@ private Q_SLOTS:
 
     void signalToAProcessOfAnotherUserIsReported_data()
     {
-        QTest::addColumn<QString>("shortcut");
-        for (const char *shortcut : {"ctrl+s", "ctrl+t", "ctrl+k"}) {
-            QTest::newRow(shortcut) << shortcut;
-        }
+        addTextRows("shortcut", {"ctrl+s", "ctrl+t", "ctrl+k"});
     }
 
     void signalToAProcessOfAnotherUserIsReported()
@@ -109,6 +98,7 @@ private Q_SLOTS:
     }
 
 private:
+    static int niceOf(const SampleProcess &process) { return getpriority(PRIO_PROCESS, id_t(process.pid())); }
     bool openPriorityDialog(const SampleProcess &process)
     {
         return isListed(process) && page->openContextMenu(process.pid()) &&

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "tests/desktop/pagesession.h"
-
 #include <QtTest>
 
 #include <functional>
@@ -10,11 +10,6 @@ namespace {
 constexpr std::uint64_t gigabyte = 1024 * 1024 * 1024;
 const QString memoryGauge = "Free memory";
 const QString diskGauge = "Free space";
-
-QString loadGauge(int cpu)
-{
-    return QString("CPU core %1 load").arg(cpu);
-}
 
 standin::Mount mount(const char *device, const char *directory, std::uint64_t blocks, std::uint64_t available)
 {
@@ -107,12 +102,11 @@ private Q_SLOTS:
 
     void missingDataShowsNoUndefinedNumbers_data()
     {
-        QTest::addColumn<bool>("mountListFails");
-        QTest::addColumn<QString>("device");
-        QTest::newRow("zeroed records") << false << "/dev/sda1";
-        QTest::newRow("no disk") << false << "overlay";
-        QTest::newRow("no mount") << false << "";
-        QTest::newRow("no mount list") << true << "";
+        const Rows<bool, QString> row("mountListFails", "device");
+        row("zeroed records", false, "/dev/sda1");
+        row("no disk", false, "overlay");
+        row("no mount", false, "");
+        row("no mount list", true, "");
     }
 
     void missingDataShowsNoUndefinedNumbers()
@@ -136,7 +130,10 @@ private Q_SLOTS:
         QCOMPARE(session->undefinedNumber(), QString());
     }
 
-    void theWindowOpensAsHighAsThePageNeeds_data() { addCpuRows({1, 2, 8, 12, 14, 16, 64, 256, 1024}); }
+    void theWindowOpensAsHighAsThePageNeeds_data()
+    {
+        addNumberRows("cpus", {1, 2, 8, 12, 14, 16, 64, 256, 1024}, "%1 CPUs");
+    }
 
     void theWindowOpensAsHighAsThePageNeeds()
     {
@@ -164,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(reachLastGauge());
     }
 
-    void everyPageCanBeMadeSmall_data() { addCpuRows({2, 12, 14, 64}); }
+    void everyPageCanBeMadeSmall_data() { addNumberRows("cpus", {2, 12, 14, 64}, "%1 CPUs"); }
 
     void everyPageCanBeMadeSmall()
     {
@@ -205,13 +202,7 @@ private Q_SLOTS:
     }
 
 private:
-    static void addCpuRows(std::initializer_list<int> counts)
-    {
-        QTest::addColumn<int>("cpus");
-        for (const int cpus : counts) {
-            QTest::addRow("%d CPUs", cpus) << cpus;
-        }
-    }
+    static QString loadGauge(int cpu) { return QString("CPU core %1 load").arg(cpu); }
 
     void start(const standin::Machine &machine, const SessionOptions &options = {})
     {

@@ -66,123 +66,115 @@ class TestMonkey : public ProgramTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup() { reportFailure(); }
-    void programCannotKillItself();
-    void programSurvivesAUserWhoDoesEverything();
-    void settingsOfTheUserAreKept();
-
-private:
-    bool everythingIsWell(const Monkey &monkey, bool answered);
-    bool windowIsWhereItSays();
-    void reportFigures(const Monkey &monkey, quint32 seed, int actions, int descriptors);
-};
-
-void TestMonkey::initTestCase()
-{
-    QRandomGenerator random(1);
-    SessionOptions options;
-    options.settings = "[interval]\ngeneral=1\nprocs=1\nfs=1\nnet=1\n";
-    options.machine = Churn::machine(random);
-    options.preload.append(ZSM_GUARD_OBJECT);
-    if (testUser() < 0) {
-        options.environment["ZSM_GUARD"] = "all";
+    void initTestCase()
+    {
+        QRandomGenerator random(1);
+        SessionOptions options;
+        options.settings = "[interval]\ngeneral=1\nprocs=1\nfs=1\nnet=1\n";
+        options.machine = Churn::machine(random);
+        options.preload.append(ZSM_GUARD_OBJECT);
+        if (testUser() < 0) {
+            options.environment["ZSM_GUARD"] = "all";
+        }
+        startProgram(options);
     }
-    startProgram(options);
-}
 
-void TestMonkey::programCannotKillItself()
-{
-    const int pid = int(session->pid());
-    QVERIFY(page->select(pid));
-    QCOMPARE(session->probe("selected treeView").value("id").toInt(), pid);
-    QVERIFY(session->key("ctrl+k"));
-    QVERIFY(page->waitForDialog("Process killing"));
-    QVERIFY(session->clickButton("OK"));
-    QVERIFY(page->waitForDialog("Error"));
-    QVERIFY(page->dismissAll());
-}
+    void cleanup() { reportFailure(); }
 
-void TestMonkey::programSurvivesAUserWhoDoesEverything()
-{
-    const auto seed = static_cast<quint32>(numberFrom("ZSM_MONKEY_SEED", 1));
-    const int actions = numberFrom("ZSM_MONKEY_ACTIONS", 800);
-    qInfo("seed %u, %d actions", seed, actions);
-    Churn churn(testUser());
-    Monkey monkey(*session, churn, seed);
-    int descriptorsAtFirst = 0;
-    for (int action = 0; action < actions; ++action) {
-        QVERIFY(everythingIsWell(monkey, monkey.act()));
-        if (action == actions / 4) {
-            QVERIFY(everythingIsWell(monkey, monkey.comeToRest()));
-            descriptorsAtFirst = descriptorsOf(session->pid());
+    void programCannotKillItself()
+    {
+        const int pid = int(session->pid());
+        QVERIFY(page->select(pid));
+        QCOMPARE(session->probe("selected treeView").value("id").toInt(), pid);
+        QVERIFY(session->key("ctrl+k"));
+        QVERIFY(page->waitForDialog("Process killing"));
+        QVERIFY(session->clickButton("OK"));
+        QVERIFY(page->waitForDialog("Error"));
+        QVERIFY(page->dismissAll());
+    }
+
+    void programSurvivesAUserWhoDoesEverything()
+    {
+        const auto seed = static_cast<quint32>(numberFrom("ZSM_MONKEY_SEED", 1));
+        const int actions = numberFrom("ZSM_MONKEY_ACTIONS", 800);
+        qInfo("seed %u, %d actions", seed, actions);
+        Churn churn(testUser());
+        Monkey monkey(*session, churn, seed);
+        int descriptorsAtFirst = 0;
+        for (int action = 0; action < actions; ++action) {
+            QVERIFY(everythingIsWell(monkey, monkey.act()));
+            if (action == actions / 4) {
+                QVERIFY(everythingIsWell(monkey, monkey.comeToRest()));
+                descriptorsAtFirst = descriptorsOf(session->pid());
+            }
+        }
+        QVERIFY(everythingIsWell(monkey, monkey.comeToRest()));
+        reportFigures(monkey, seed, actions, descriptorsAtFirst);
+        const int enoughForEveryKind = 5000;
+        QVERIFY(actions < enoughForEveryKind || !monkey.counts().values().contains(0));
+        // One more for the child process that asks network file systems, if any are mounted now.
+        QVERIFY(descriptorsOf(session->pid()) <= descriptorsAtFirst + 1);
+    }
+
+    void settingsOfTheUserAreKept()
+    {
+        QVERIFY(page->showPage("Processes"));
+        QVERIFY2(session->waitFor([&] { return windowIsWhereItSays(); }), qPrintable(session->error()));
+        const Table before = page->list();
+        verifyQuitsCleanly();
+        const Contents kept = comparableContents(session->settingsFile());
+        QVERIFY(kept.contains("column/Name"));
+
+        QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
+        const Table after = page->list();
+        QCOMPARE(sorted(after.visibleHeaders()), sorted(before.visibleHeaders())); // their order isn't kept
+        QCOMPARE(after.sortSection, before.sortSection);
+        QCOMPARE(after.sortDescending, before.sortDescending);
+        verifyQuitsCleanly();
+        const Contents keptAgain = comparableContents(session->settingsFile());
+        QCOMPARE(keptAgain.keys(), kept.keys());
+        for (const QString &key : kept.keys()) {
+            QVERIFY2(keptAgain[key] == kept[key],
+                     qPrintable(key + ": " + kept[key].join(' ') + ", then " + keptAgain[key].join(' ')));
         }
     }
-    QVERIFY(everythingIsWell(monkey, monkey.comeToRest()));
-    reportFigures(monkey, seed, actions, descriptorsAtFirst);
-    const int enoughForEveryKind = 5000;
-    QVERIFY(actions < enoughForEveryKind || !monkey.counts().values().contains(0));
-    // One more for the child process that asks network file systems, if any are mounted now.
-    QVERIFY(descriptorsOf(session->pid()) <= descriptorsAtFirst + 1);
-}
 
-/// Prints what was done before if it isn't.
-bool TestMonkey::everythingIsWell(const Monkey &monkey, bool answered)
-{
-    const QByteArray errors = session->standardError();
-    if (answered && errors.isEmpty()) {
-        return true;
+private:
+    /// Prints what was done before if it isn't.
+    bool everythingIsWell(const Monkey &monkey, bool answered)
+    {
+        const QByteArray errors = session->standardError();
+        if (answered && errors.isEmpty()) {
+            return true;
+        }
+        qWarning("the last actions:\n   %s\n   %s; standard error:\n   %s",
+                 qPrintable(monkey.lastActions().join("\n   ")),
+                 session->isRunning() ? "the program runs" : "the program has exited", errors.constData());
+        return false;
     }
-    qWarning("the last actions:\n   %s\n   %s; standard error:\n   %s",
-             qPrintable(monkey.lastActions().join("\n   ")),
-             session->isRunning() ? "the program runs" : "the program has exited", errors.constData());
-    return false;
-}
 
-void TestMonkey::reportFigures(const Monkey &monkey, quint32 seed, int actions, int descriptors)
-{
-    const QMap<QString, int> counts = monkey.counts();
-    for (auto each = counts.begin(); each != counts.end(); ++each) {
-        qInfo("%5d %s", each.value(), qPrintable(each.key()));
+    void reportFigures(const Monkey &monkey, quint32 seed, int actions, int descriptors)
+    {
+        const QMap<QString, int> counts = monkey.counts();
+        for (auto each = counts.begin(); each != counts.end(); ++each) {
+            qInfo("%5d %s", each.value(), qPrintable(each.key()));
+        }
+        const QMap<QString, int> dialogs = monkey.dialogs();
+        for (auto each = dialogs.begin(); each != dialogs.end(); ++each) {
+            qInfo("%5d dialogs \"%s\"", each.value(), qPrintable(each.key()));
+        }
+        qInfo("seed %u: %d actions, peak memory %d KiB, descriptors %d then %d", seed, actions,
+              peakMemoryOf(session->pid()), descriptors, descriptorsOf(session->pid()));
     }
-    const QMap<QString, int> dialogs = monkey.dialogs();
-    for (auto each = dialogs.begin(); each != dialogs.end(); ++each) {
-        qInfo("%5d dialogs \"%s\"", each.value(), qPrintable(each.key()));
+
+    /// The program learns of a move or a new size a little later than the screen shows it.
+    bool windowIsWhereItSays()
+    {
+        const QJsonObject window = session->mainWindow();
+        const auto id = static_cast<unsigned long>(window.value("id").toDouble());
+        return session->x().windowRect(id) == rectOf(window.value("rect"));
     }
-    qInfo("seed %u: %d actions, peak memory %d KiB, descriptors %d then %d", seed, actions,
-          peakMemoryOf(session->pid()), descriptors, descriptorsOf(session->pid()));
-}
-
-/// The program learns of a move or a new size a little later than the screen shows it.
-bool TestMonkey::windowIsWhereItSays()
-{
-    const QJsonObject window = session->mainWindow();
-    const auto id = static_cast<unsigned long>(window.value("id").toDouble());
-    return session->x().windowRect(id) == rectOf(window.value("rect"));
-}
-
-void TestMonkey::settingsOfTheUserAreKept()
-{
-    QVERIFY(page->showPage("Processes"));
-    QVERIFY2(session->waitFor([&] { return windowIsWhereItSays(); }), qPrintable(session->error()));
-    const Table before = page->list();
-    verifyQuitsCleanly();
-    const Contents kept = comparableContents(session->settingsFile());
-    QVERIFY(kept.contains("column/Name"));
-
-    QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
-    const Table after = page->list();
-    QCOMPARE(sorted(after.visibleHeaders()), sorted(before.visibleHeaders())); // their order isn't kept
-    QCOMPARE(after.sortSection, before.sortSection);
-    QCOMPARE(after.sortDescending, before.sortDescending);
-    verifyQuitsCleanly();
-    const Contents keptAgain = comparableContents(session->settingsFile());
-    QCOMPARE(keptAgain.keys(), kept.keys());
-    for (const QString &key : kept.keys()) {
-        QVERIFY2(keptAgain[key] == kept[key],
-                 qPrintable(key + ": " + kept[key].join(' ') + ", then " + keptAgain[key].join(' ')));
-    }
-}
+};
 
 QTEST_GUILESS_MAIN(TestMonkey)
 #include "test_monkey.moc"

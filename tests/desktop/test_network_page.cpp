@@ -34,11 +34,6 @@ int top(const QImage &graph, char color)
     return -1;
 }
 
-bool isNear(int value, int expected, int tolerance)
-{
-    return qAbs(value - expected) <= tolerance;
-}
-
 /// Number of the samples on the base line, which are the newest ones.
 int flatSamples(const QImage &graph)
 {
@@ -121,6 +116,9 @@ private Q_SLOTS:
         QVERIFY(session->waitForTexts({{"netOut", "1.98 KB"}}));
         const int height = graph().height();
         const int quarter = margin + (height - 2 * margin) * 3 / 4;
+        const auto isNear = [](int value, int expected, int tolerance) {
+            return qAbs(value - expected) <= tolerance;
+        };
         const auto peaksAre = [&](int in, int inTolerance, int out, int outTolerance) {
             return isNear(top(graph(), 'b'), in, inTolerance) && isNear(top(graph(), 'r'), out, outTolerance);
         };
@@ -304,7 +302,8 @@ private:
     }
 
     QImage graph() { return session->picture("TimeHisto"); }
-    bool hasPeak() { return isNear(top(graph(), 'b'), margin, 2); } ///< of the incoming bytes, at the top
+    /// Of the incoming bytes, at the top.
+    bool hasPeak() { return qAbs(top(graph(), 'b') - margin) <= 2; }
     bool waitForPeak()
     {
         return session->waitFor([&] { return hasPeak(); });

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "tests/desktop/madeupprocess.h"
 #include "tests/desktop/programtest.h"
 
@@ -24,14 +25,10 @@ private Q_SLOTS:
 
     void questionsNameTheProcess_data()
     {
-        QTest::addColumn<QString>("shortcut");
-        QTest::addColumn<QString>("title");
-        QTest::newRow("stop") << "ctrl+s"
-                              << "Process stopping";
-        QTest::newRow("terminate") << "ctrl+t"
-                                   << "Process terminating";
-        QTest::newRow("kill") << "ctrl+k"
-                              << "Process killing";
+        const Rows<QString, QString> row("shortcut", "title");
+        row("stop", "ctrl+s", "Process stopping");
+        row("terminate", "ctrl+t", "Process terminating");
+        row("kill", "ctrl+k", "Process killing");
     }
 
     void questionsNameTheProcess()

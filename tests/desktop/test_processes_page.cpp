@@ -11,11 +11,6 @@
 
 namespace {
 
-double share(const QString &cpuText)
-{
-    return cpuText.section(' ', 0, 0).toDouble();
-}
-
 QString userName(uid_t id)
 {
     const passwd *user = getpwuid(id);
@@ -80,35 +75,6 @@ private Q_SLOTS:
         const double oneCpu = 100.0 / double(sysconf(_SC_NPROCESSORS_ONLN));
         QVERIFY2(most <= oneCpu * 1.5, qPrintable(QString::number(most)));
         QCOMPARE(page->text(busy.pid(), "State"), QString("Running"));
-    }
-
-    void theStateFollowsStopAndContinue()
-    {
-        const SampleProcess sample("stp");
-        QVERIFY(sample.isReady());
-        QVERIFY(page->waitForText(sample.pid(), "State", "Sleeping"));
-        QVERIFY(sample.sendSignal(SIGSTOP));
-        QVERIFY(page->waitForText(sample.pid(), "State", "Stopped"));
-        QVERIFY(sample.sendSignal(SIGCONT));
-        QVERIFY(page->waitForText(sample.pid(), "State", "Sleeping"));
-    }
-
-    void aRenamedProcessComesBackUnderItsNewName()
-    {
-        const SampleProcess sample("ren");
-        QVERIFY(sample.isReady());
-        QVERIFY(page->waitForText(sample.pid(), "Name", sample.name()));
-        QVERIFY(sample.sendSignal(SIGUSR1));
-        QVERIFY(page->waitForText(sample.pid(), "Name", sample.renamed()));
-    }
-
-    void aProcessThatExitsLeavesTheList()
-    {
-        auto sample = std::make_unique<SampleProcess>("end");
-        const int pid = sample->pid();
-        QVERIFY(sample->isReady() && page->waitForRow(pid));
-        sample.reset();
-        QVERIFY(page->waitForNoRow(pid));
     }
 
     void processesOfOthersAreListedOnlyWithAllProcesses()
@@ -238,6 +204,8 @@ private Q_SLOTS:
     }
 
 private:
+    static double share(const QString &cpuText) { return cpuText.section(' ', 0, 0).toDouble(); }
+
     std::unique_ptr<DesktopSession> session;
     std::unique_ptr<ProcessesPage> page;
 };

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "tests/desktop/madeupprocess.h"
 #include "tests/desktop/programtest.h"
 
@@ -58,10 +59,7 @@ private Q_SLOTS:
 
     void tenChangesNeverLeaveAnEmptyOrCollapsedList_data()
     {
-        QTest::addColumn<int>("interval");
-        for (int interval = 1; interval <= 5; ++interval) {
-            QTest::addRow("interval %d", interval) << interval;
-        }
+        addNumberRows("interval", {1, 2, 3, 4, 5}, "interval %1");
     }
 
     void tenChangesNeverLeaveAnEmptyOrCollapsedList()
@@ -71,14 +69,9 @@ private Q_SLOTS:
         QCOMPARE(fault(false, false), QString());
         bool all = false;
         bool tree = false;
-        for (const char *change : {"ctrl+f", "ctrl+a", "Memory", "ctrl+f", "ctrl+m", "Memory", "ctrl+f",
+        for (const QString what : {"ctrl+f", "ctrl+a", "Memory", "ctrl+f", "ctrl+m", "Memory", "ctrl+f",
                                    "ctrl+a", "User", "ctrl+m"}) {
-            const QString what = change;
-            if (what.startsWith("ctrl+")) {
-                QVERIFY(session->key(what));
-            } else {
-                QVERIFY(toggleColumn(what));
-            }
+            QVERIFY(what.startsWith("ctrl+") ? session->key(what) : toggleColumn(what));
             QVERIFY(!session->stateAfterInput().isEmpty());
             all = what == "ctrl+a" || (all && what != "ctrl+m");
             tree ^= what == "ctrl+f";
@@ -119,13 +112,12 @@ private Q_SLOTS:
         start(5);
         const int chosen = childPid(9);
         QVERIFY(page->select(chosen));
-        for (const char *change : {"ctrl+a", "ctrl+f", "ctrl+m", "Memory", "ctrl+f", "Memory"}) {
-            const QString what = change;
+        for (const QString what : {"ctrl+a", "ctrl+f", "ctrl+m", "Memory", "ctrl+f", "Memory"}) {
             QVERIFY(what.startsWith("ctrl+") ? session->key(what) : toggleColumnByKeys(what));
             QVERIFY(!session->stateAfterInput().isEmpty());
             const Table now = page->list();
-            QVERIFY2(selectedPids() == QStringList(QString::number(chosen)), change);
-            QVERIFY2(!now.rowRect(rowOf(now, chosen)).isEmpty(), change);
+            QVERIFY2(selectedPids() == QStringList(QString::number(chosen)), qPrintable(what));
+            QVERIFY2(!now.rowRect(rowOf(now, chosen)).isEmpty(), qPrintable(what));
         }
     }
 
@@ -241,9 +233,9 @@ private:
     /// The last column takes the room that is left.
     static QString unfittedColumn(const Table &list)
     {
-        const QString last = list.visibleHeaders().value(list.visibleHeaders().size() - 1);
         for (const Table::Header &header : list.headers) {
-            if (header.visible && header.text != last && header.rect.width() != header.contentWidth) {
+            if (header.visible && header.text != list.visibleHeaders().last() &&
+                header.rect.width() != header.contentWidth) {
                 return QString("%1 is %2 wide, not %3")
                     .arg(header.text)
                     .arg(header.rect.width())
