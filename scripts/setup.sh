@@ -55,7 +55,8 @@ want_packages() {
     local missing available=() package
     mapfile -t missing < <(missing_packages "$@")
     [ ${#missing[@]} -gt 0 ] && can_install || return 0
-    apt_get update || true
+    # Once the lists are there, what the archive lacks is not asked for again.
+    [ -n "$(apt-cache madison "${build_packages[0]}")" ] || apt_get update || true
     for package in "${missing[@]}"; do
         ! apt-cache show "$package" >/dev/null 2>&1 || available+=("$package")
     done

@@ -38,11 +38,19 @@ bool isAboutEnvironment(const QByteArray &line)
            (line.startsWith("glibtop(") && line.contains("[WARNING]"));
 }
 
-/// The sanitizers' run-time library has to precede everything else that is preloaded.
-QString preloadList(const QStringList &objects)
+/// The sanitizers' run-time library has to precede everything else that is preloaded. The others are named by
+/// links in `folder`, since blanks and colons in the path of the build would end a name.
+QString preloadList(const QStringList &objects, const QDir &folder)
 {
-    const QString first = ZSM_PRELOAD_FIRST;
-    return (first.isEmpty() ? objects : QStringList(first) + objects).join(':');
+    QStringList names;
+    if (QString(ZSM_PRELOAD_FIRST) != QString()) {
+        names.append(ZSM_PRELOAD_FIRST);
+    }
+    for (const QString &object : objects) {
+        names.append(folder.filePath(QFileInfo(object).fileName()));
+        QFile::link(object, names.last()); // fails if a former start has made it
+    }
+    return names.join(':');
 }
 
 void end(QProcess *process)
@@ -164,7 +172,7 @@ QProcessEnvironment DesktopSession::programEnvironment() const
     // The toolkit would log to the system's journal.
     environment.insert("QT_FORCE_STDERR_LOGGING", "1");
     environment.insert("ZSM_PROBE", probePath());
-    environment.insert("LD_PRELOAD", preloadList(objects));
+    environment.insert("LD_PRELOAD", preloadList(objects, QDir(directory.path())));
     for (auto each = setup.environment.begin(); each != setup.environment.end(); ++each) {
         if (each.value().isEmpty()) {
             environment.remove(each.key());

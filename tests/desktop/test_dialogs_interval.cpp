@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/programtest.h"
 
+#include <unistd.h>
+
 /// The interval dialogs. The settings file has intervals so long that a tick refreshes a page only after the
 /// dialog has changed its interval.
 class TestDialogsInterval : public ProgramTest
@@ -167,7 +169,7 @@ private:
         const int pid = 1000 + int(machine.processes->size());
         standin::Process &process = (*machine.processes)[pid];
         process.name = "tick";
-        process.uid = testUser();
+        process.uid = testUser() >= 0 ? testUser() : int(getuid());
         session->setMachine(machine);
         return page->waitForRow(pid);
     }

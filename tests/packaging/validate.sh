@@ -15,10 +15,20 @@ manual_page() { # renders it for a terminal and discards the text
     MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$1" >/dev/null
 }
 
+# Not overridden by --override, which fails on tags that the installed version does not know. Accepted:
+# - cid-maybe-not-rdns: the validator does not know the top-level domain of telmorra.example.
+# - url-homepage-missing: the project has no homepage.
+# - unknown-tag developer: version 0.16 knows only its predecessor, which version 1.0 rejects.
+metainfo() {
+    remarks=$(appstreamcli validate --no-net --strict "$1" 2>&1) && return
+    others=$(printf '%s\n' "$remarks" | grep -vE '^$|Validation failed: ' |
+        grep -vE ': (cid-maybe-not-rdns|url-homepage-missing|unknown-tag developer)\>') || true
+    [ -n "$remarks" ] && [ -z "$others" ] || { printf '%s\n' "$remarks" >&2; return 1; }
+}
+
 case $1 in
     *.desktop) silently desktop-file-validate "$1" ;;
-    # The validator does not know the top-level domain of telmorra.example.
-    *.metainfo.xml) appstreamcli validate --no-net --strict --override=cid-maybe-not-rdns=pedantic "$1" ;;
+    *.metainfo.xml) metainfo "$1" ;;
     *.1 | *.1.gz) silently manual_page "$1" ;;
     *) echo "no validator for $1" >&2; exit 1 ;;
 esac

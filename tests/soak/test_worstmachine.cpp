@@ -38,6 +38,7 @@ standin::Machine zeroedMachine()
     machine.interfaces->back() = standin::Interface();
     machine.processes->clear();
     for (int pid = 1; pid < 50; ++pid) {
+        (*machine.processes)[pid].uid = static_cast<int>(getuid());
         (*machine.processes)[pid].parent = pid % 3 == 0 ? pid : 0; // some are their own parents
         (*machine.processes)[pid].answersBeforeEnd = pid % 5 - 1;  // and some exit while they are read
     }
