@@ -14,7 +14,7 @@ wayland_packages=(weston qtwayland5)
 assistive_packages=(at-spi2-core dbus)
 # For the test of file systems that don't answer, which uses made-up ones alone without it.
 fuse_packages=(libfuse3-dev)
-fuzz_packages=(clang-14 libclang-rt-14-dev)
+fuzz_packages=(clang libclang-rt-dev)
 
 # missing_packages <package>...: prints those that are not installed, one per line.
 missing_packages() {

@@ -88,8 +88,8 @@ struct Machine
     std::optional<std::vector<Interface>> interfaces;
     bool interfaceListFails = false;                 ///< the list of names is null; needs `interfaces` set
     std::optional<std::map<int, Process>> processes; ///< by pid
-    /// Without `processes`: the number of real processes of other users that are listed, oldest first; -1:
-    /// all.
+    /// Without `processes`: how many real processes are listed, oldest first, besides those of this user that
+    /// descend from the parent of this process; -1: all.
     int mostOfOthers = -1;
 };
 
