@@ -30,12 +30,10 @@ QProcessEnvironment plainEnvironment()
 }
 
 /// Whether a line of standard error is about the environment. The toolkit queries windows that the window
-/// manager has destroyed meanwhile, most likely the frame of a dialog that has just been closed. libgtop
-/// names what a bare machine lacks, such as /etc/mtab.
+/// manager has destroyed meanwhile, most likely the frame of a dialog that has just been closed.
 bool isAboutEnvironment(const QByteArray &line)
 {
-    return line.startsWith("qt.qpa.xcb: QXcbConnection: XCB error: 3 (BadWindow)") ||
-           (line.startsWith("glibtop(") && line.contains("[WARNING]"));
+    return line.startsWith("qt.qpa.xcb: QXcbConnection: XCB error: 3 (BadWindow)");
 }
 
 /// The sanitizers' run-time library has to precede everything else that is preloaded. The others are named by
