@@ -5,6 +5,7 @@
 #include "resources/histogeometry.h"
 
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -20,13 +21,16 @@ QFont labelFont()
     return {QStringLiteral("Arial"), 8, QFont::Normal};
 }
 
-/// Whether all texts fit into `room`. Digits have no descenders, so only the ascent counts.
+/// Whether all texts, centred in `room`, stay clear of the lines at its edges. What is drawn counts: how much
+/// of the ascent digits use differs between versions of a font.
 bool fits(const QFontMetrics &metrics, const QStringList &texts, const QSizeF &room)
 {
-    const auto narrow = [&](const QString &text) {
-        return metrics.horizontalAdvance(text) <= room.width() - 2; // one pixel clear of border and grid
-    };
-    return metrics.ascent() <= room.height() && std::all_of(texts.begin(), texts.end(), narrow);
+    const double baseline = (room.height() + metrics.ascent() - metrics.descent()) / 2;
+    return std::all_of(texts.begin(), texts.end(), [&](const QString &text) {
+        const QRect ink = metrics.tightBoundingRect(text).translated(0, qCeil(baseline));
+        return metrics.horizontalAdvance(text) <= room.width() - 2 && ink.top() > 1 &&
+               ink.bottom() < room.height() - 2;
+    });
 }
 
 /// The rectangles of an axis's labels have a fixed size in pixels, but the font is in points. If the dpi

@@ -33,6 +33,8 @@ start_desktop() {
     wait_until test -s "$work/display" || { cat "$work/xvfb.log" >&2; return 1; }
     DISPLAY=:$(cat "$work/display")
     export DISPLAY
+    # Toolkits may ignore the resolution of the screen.
+    xprop -root -f RESOURCE_MANAGER 8s -set RESOURCE_MANAGER "Xft.dpi: $2"
     mkdir -m 700 "$work/config" "$work/runtime"
     export XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime
     openbox >"$work/openbox.log" 2>&1 &

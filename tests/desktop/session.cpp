@@ -105,7 +105,11 @@ bool DesktopSession::startServer()
         number += server->readAllStandardOutput();
     }
     display = ':' + QString::fromLatin1(number.trimmed());
-    return client.open(display) || fail("can't connect to display " + display);
+    if (!client.open(display)) {
+        return fail("can't connect to display " + display);
+    }
+    client.setTextDpi(setup.dpi);
+    return true;
 }
 
 bool DesktopSession::startWindowManager()

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <X11/XKBlib.h>
+#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
@@ -34,6 +35,14 @@ void XClient::close()
     }
     display = nullptr;
     mapped = 0;
+}
+
+void XClient::setTextDpi(int dpi)
+{
+    const QByteArray resources = "Xft.dpi:\t" + QByteArray::number(dpi) + '\n';
+    XChangeProperty(display, DefaultRootWindow(display), XA_RESOURCE_MANAGER, XA_STRING, 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char *>(resources.constData()), resources.size());
+    XSync(display, False);
 }
 
 bool XClient::hasWindowManager()

@@ -25,6 +25,9 @@ public:
     bool open(const QString &display);
     void close();
 
+    /// Sets the resolution of text, as desktops do; toolkits may ignore that of the screen.
+    void setTextDpi(int dpi);
+
     /// Whether a window manager is running. A window manager that is starting may announce itself and still
     /// miss a window that appears at that moment, so this maps a window and checks whether it gets managed.
     /// Call it until it returns true; the window is then destroyed.
