@@ -21,8 +21,10 @@ make_package() {
     local day
     day=$(sed -n 's/^## [^ ]* (\(.*\))$/\1/p' CHANGELOG.md | head -n 1)
     rm -f "$folder"/*.deb
-    SOURCE_DATE_EPOCH=$(date -u -d "$day" +%s) cpack -G DEB --config build/release/CPackConfig.cmake -B "$folder" \
+    # In a folder without brackets, which cpack takes for a pattern: the package would be empty.
+    SOURCE_DATE_EPOCH=$(date -u -d "$day" +%s) cpack -G DEB --config build/release/CPackConfig.cmake -B "$work/cpack" \
         >"$folder/cpack.log" 2>&1 || { cat "$folder/cpack.log" >&2; return 1; }
+    mv "$work/cpack/"*.deb "$folder"
     package=$(echo "$folder"/*.deb)
 }
 
@@ -30,10 +32,12 @@ make_package() {
 # - hardening-no-fortify-functions: the program is built with _FORTIFY_SOURCE, but for each of the few calls that this
 #   could guard the compiler knows either all bounds or none.
 # - binary-has-unneeded-section: 30 bytes that name the compiler.
+# - appstream-metadata-validation-failed: it accepts nothing; validate.sh names what it accepts.
 run_lintian() {
     local remarks status=0
+    local accepted=hardening-no-fortify-functions,binary-has-unneeded-section,appstream-metadata-validation-failed
     remarks=$(lintian --allow-root --display-info --pedantic \
-        --suppress-tags hardening-no-fortify-functions,binary-has-unneeded-section "$package" 2>&1) || status=$?
+        --suppress-tags "$accepted" "$package" 2>&1) || status=$?
     if [ "$status" -ne 0 ] || [ -n "$remarks" ]; then
         fail "lintian exited with $status:" "$remarks"
     fi
