@@ -30,10 +30,12 @@ QProcessEnvironment plainEnvironment()
 }
 
 /// Whether a line of standard error is about the environment. The toolkit queries windows that the window
-/// manager has destroyed meanwhile, most likely the frame of a dialog that has just been closed.
+/// manager has destroyed meanwhile, most likely the frame of a dialog that has just been closed. libgtop
+/// names each counter that it misses where sysfs is not mounted.
 bool isAboutEnvironment(const QByteArray &line)
 {
-    return line.startsWith("qt.qpa.xcb: QXcbConnection: XCB error: 3 (BadWindow)");
+    return line.startsWith("qt.qpa.xcb: QXcbConnection: XCB error: 3 (BadWindow)") ||
+           (line.startsWith("glibtop(") && line.contains("/sys/"));
 }
 
 /// The sanitizers' run-time library has to precede everything else that is preloaded. The others are named by

@@ -66,7 +66,7 @@ public:
     bool isRunning() const { return program && program->state() != QProcess::NotRunning; }
     qint64 pid() const { return program ? program->processId() : 0; } ///< 0 if it doesn't run
     QByteArray standardOutput();
-    QByteArray standardError(); ///< without what the toolkit says about the environment
+    QByteArray standardError(); ///< without what toolkit and libgtop say about the environment
 
     QString home() const { return directory.filePath("home"); }
     QString settingsFile() const { return home() + "/.config/Telmorra/zarn-system-monitor.conf"; }
