@@ -6,7 +6,7 @@
 #   REPEATS=3                measurements of each kind           TICKS=600     seconds of the test for growth
 # PROGRAM and RESULTS replace the measured program and the path of the results.
 set -euo pipefail
-export LC_ALL=C.UTF-8 # decimal points
+export LC_ALL=C.UTF-8 LANGUAGE= # decimal points
 cd "$(dirname "$0")"
 . scripts/setup.sh
 . scripts/desktop.sh

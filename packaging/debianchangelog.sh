@@ -4,7 +4,7 @@
 #   debianchangelog.sh <package> <maintainer> < CHANGELOG.md > changelog
 # A heading "## <version> (<yyyy-mm-dd>)" starts an entry, which consists of the list items below it.
 set -eu
-export LC_ALL=C.UTF-8
+export LC_ALL=C.UTF-8 LANGUAGE=
 
 package=$1
 maintainer=$2

@@ -13,7 +13,7 @@ need_packages "${build_packages[@]}" "${window_packages[@]}" "${check_packages[@
 build fuzz fuzzers
 build asan fuzzers test_damagedsettings test_window_geometry test_worstmachine test_monkey
 build dev test_time test_forks test_deeptree test_randomforests
-export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 QTEST_FUNCTION_TIMEOUT=3600000
+export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 LANGUAGE= QTEST_FUNCTION_TIMEOUT=3600000
 export LSAN_OPTIONS="suppressions='$PWD/tests/support/leaks.supp':print_suppressions=0"
 
 failed=0

@@ -5,7 +5,7 @@
 #   installed.sh <root>
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
-export LC_ALL=C
+export LC_ALL=C LANGUAGE=
 cd "$1"
 
 fail() { echo "$*" >&2; exit 1; }

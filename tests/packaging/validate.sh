@@ -3,7 +3,7 @@
 # Runs the validator for one of the packaging files; fails on any remark.
 #   validate.sh <desktop entry> | <metainfo>.metainfo.xml | <manual page>.1[.gz]
 set -eu
-export LC_ALL=C.UTF-8
+export LC_ALL=C.UTF-8 LANGUAGE=
 
 # Fails on any output: hints leave the exit status at 0.
 silently() {
