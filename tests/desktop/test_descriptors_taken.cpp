@@ -37,8 +37,11 @@ private Q_SLOTS:
         const rlim_t enough = lowestUsefulLimit();
         // All below are open, but poll(2) refuses to wait for more of them than the limit allows.
         QVERIFY(limitDescriptors(8));
-        const QStringList before = page->list().column("PID");
-        QVERIFY(!before.isEmpty());
+        QStringList before;
+        QVERIFY(session->waitFor([&] {
+            before = page->list().column("PID");
+            return !before.isEmpty();
+        }));
         const SampleProcess process("desc");
         QVERIFY(process.isReady());
         QVERIFY2(waitForTicks(), qPrintable(session->error()));

@@ -56,7 +56,9 @@ Group metainfo()
         xml.readNext();
         const QString name = xml.name().toString();
         const QXmlStreamAttributes attributes = xml.attributes();
-        if (xml.isStartElement() && name == "release") {
+        if (xml.isStartElement() && name == "developer") {
+            xml.skipCurrentElement(); // its name is not the program's
+        } else if (xml.isStartElement() && name == "release") {
             texts["version"][""] = attributes.value("version").toString();
             texts["date"][""] = attributes.value("date").toString();
         } else if (xml.isStartElement() && elements.contains(name)) {

@@ -14,7 +14,6 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 namespace standin {
@@ -67,7 +66,8 @@ bool isOfThisUser(pid_t pid)
 pid_t parentOf(pid_t pid)
 {
     std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
-    const std::string line(std::istreambuf_iterator<char>(file), {});
+    std::string line;
+    std::getline(file, line, '\0'); // not by an iterator, which throws if the process exits meanwhile
     const std::size_t afterName = line.rfind(')');
     return afterName == std::string::npos ? 0 : std::atoi(line.c_str() + afterName + 4);
 }
