@@ -14,10 +14,9 @@
 /// Asks the file systems that can hang, through workers, and remembers what they last reported. It decides
 /// who is asked when, and never waits for long:
 /// - A refresh waits only for mounts that answered quickly the last time, or were never asked.
-/// - A worker that is held up is left behind and its answer used whenever it comes; others ask the rest,
-/// first
-///   those that are not suspected of hanging too. One more is started per minute, up to four in all, and the
-///   last one never asks a suspect.
+/// - A worker that is held up is left behind and its answer used whenever it comes. Others ask the rest,
+///   first those that are not suspected of hanging too. One more is started per minute, up to four in all,
+///   and the last one never asks a suspect.
 class UsageAsker
 {
 public:

@@ -140,10 +140,16 @@ std::unique_ptr<UsageWorker> UsageChild::start()
         return nullptr;
     }
     const pid_t program = getpid();
+    // A handler of the program that ran in the child could act on what both share.
+    sigset_t all;
+    sigset_t before;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before);
     const pid_t child = fork();
     if (child == 0) {
         runChild(ends[1], program);
     }
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
     close(ends[1]);
     if (child < 0) {
         close(ends[0]);

@@ -6,6 +6,7 @@
 #include <glib.h>
 #include <glibtop.h>
 #include <glibtop/proclist.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstring>
@@ -107,12 +108,20 @@ void fillFrom(unsigned reads, const RawProcess &raw, ProcessRecord &record)
 /// unchanged by then, everything before was read from the same process.
 bool readSame(const ProcessRecord &record, unsigned reads, RawProcess &raw)
 {
+    if (!canReadTimes()) {
+        return false;
+    }
     readRaw(record.pid, reads & ~ReadTime, raw);
     readRaw(record.pid, ReadTime, raw);
     return hasAllFields(reads | ReadTime, raw) && raw.time.start_time == record.started;
 }
 
 } // namespace
+
+bool canReadTimes()
+{
+    return access("/proc/stat", R_OK) == 0;
+}
 
 std::vector<int> readPids()
 {

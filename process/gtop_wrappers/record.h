@@ -60,6 +60,10 @@ struct ProcessRecord
 /// The pids that libgtop lists, ascending and without duplicates.
 std::vector<int> readPids();
 
+/// Whether libgtop can read the times of processes: without /proc/stat it ends the program. To be asked
+/// before single reads; snapshots are only taken where it is there.
+bool canReadTimes();
+
 /// Makes the calls in `reads` (Reads, or-ed) for one process.
 void readRaw(int pid, unsigned reads, RawProcess &raw);
 

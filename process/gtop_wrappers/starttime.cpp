@@ -9,6 +9,9 @@ std::optional<quint64> readStartTime(int pid)
 {
     RawProcess raw;
     ProcessRecord record;
+    if (!canReadTimes()) {
+        return std::nullopt;
+    }
     readRaw(pid, ReadTime, raw);
     return toRecord(pid, ReadTime, raw, record) ? std::optional<quint64>(record.started) : std::nullopt;
 }
