@@ -16,20 +16,20 @@ QAbstractItemView *openList(const QComboBox *chooser)
 }
 
 /// The user's place in the open list, by position like the current interface.
-struct ListPlace
+struct ChooserPlace
 {
     int highlighted; ///< row; -1 if none
     int scrolled;    ///< value of the vertical scroll bar
 };
 
-ListPlace placeIn(const QAbstractItemView *list)
+ChooserPlace placeIn(const QAbstractItemView *list)
 {
     return {list->currentIndex().row(), list->verticalScrollBar()->value()};
 }
 
 /// Refilling a list clears its highlight and scrolls it to the top. Without this, no entry could be searched
 /// for or chosen by keyboard for longer than one update interval.
-void restorePlace(const ListPlace &place, QAbstractItemView *list)
+void restorePlace(const ChooserPlace &place, QAbstractItemView *list)
 {
     list->setCurrentIndex(list->model()->index(place.highlighted, 0));
     list->doItemsLayout();
@@ -41,7 +41,7 @@ void restorePlace(const ListPlace &place, QAbstractItemView *list)
 void fillNetChooser(QComboBox *chooser, const std::vector<NetRec> &devices)
 {
     QAbstractItemView *open = openList(chooser);
-    const ListPlace place = open ? placeIn(open) : ListPlace();
+    const ChooserPlace place = open ? placeIn(open) : ChooserPlace();
     chooser->clear();
     for (const NetRec &device : devices) {
         chooser->addItem(device.name);
