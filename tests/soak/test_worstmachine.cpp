@@ -23,8 +23,8 @@ const char *const badNames[] = {
     "cut \xe2\x80",
     "\xed\xa0\x80", // half of a surrogate pair
     "%1 %s %n &amp; <b>bold</b> <img src=x>",
-    "a very long name that goes on and on, past what any field of the library can "
-    "hold, and then some more"};
+    ("a very long name that goes on and on, past what any field of the library can "
+     "hold, and then some more")};
 
 standin::Machine zeroedMachine()
 {
