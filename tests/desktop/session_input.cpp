@@ -95,6 +95,7 @@ bool DesktopSession::scrollToRow(const QString &tableName, const QString &header
         }
         client.moveTo(now.viewport.center());
         client.click(row < firstShown ? 4 : 5);
+        stateAfterInput(); // more steps of the wheel would take a slow program past the row, and back past it
         return false;
     });
 }
