@@ -23,6 +23,8 @@ public:
     /// A record in which the fields of `read`, a single one of Reads, are valid. If the process has exited,
     /// they hold what was last read on demand; null if they were never read.
     const ProcessRecord *record(Reads read);
+    /// Whether record() would answer without reading.
+    bool isRead(Reads read) const { return (tried & read) != 0; }
 
 private:
     ProcessRecord values;
@@ -66,6 +68,7 @@ class OnDemandCommandLineParam : public IProcessParam
 public:
     explicit OnDemandCommandLineParam(const OnDemandPtr &onDemand);
     QVariant displayValue() const override;
+    bool isRead() const override { return values->isRead(ReadArguments); }
 
 private:
     OnDemandPtr values;

@@ -19,6 +19,11 @@ QVariant IProcessParam::sortValue() const
     return displayValue();
 }
 
+bool IProcessParam::isRead() const
+{
+    return true;
+}
+
 IProcessParam::~IProcessParam() = default;
 
 void IProcessParam::setDisplayValue(const QVariant &value)

@@ -19,6 +19,8 @@ public:
     virtual QVariant displayValue() const;
     /// What the column is sorted by (Qt::UserRole); the display value unless a subclass has a better one.
     virtual QVariant sortValue() const;
+    /// False if the next call of displayValue() has to read the value from the machine first.
+    virtual bool isRead() const;
     virtual ~IProcessParam();
 
     void setDisplayValue(const QVariant &value);
