@@ -20,6 +20,10 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
+protected:
+    /// Dims rows that are shown only because of a descendant.
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
 private:
     bool isFitting = false;
     mutable QHash<QString, QSize> sizes; ///< by text

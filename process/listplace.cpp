@@ -54,7 +54,7 @@ bool ListPlace::isRowless(const ProxyProcModel &model, const ProcModel::Snapshot
 {
     const auto found = snapshot.find(selected.pid());
     return found != snapshot.end() && found->second.startTime() == selected.startTime() &&
-           !rowOf(model, selected).isValid();
+           !rowOf(model, selected).isValid() && model.passesFilter(selected.pid());
 }
 
 void ListPlace::restoreSelection(const ProxyProcModel &model, QTreeView &view) const

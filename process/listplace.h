@@ -18,7 +18,8 @@ public:
 
     bool hasSelection() const { return selected.pid() != -1; }
     /// True if the selected process is in the snapshot that the list was refreshed with, but has no row: one
-    /// that was reparented, or that runs another program, is inserted again with the next refresh only.
+    /// that was reparented, or that runs another program, is inserted again with the next refresh only. One
+    /// that the filter hides is no longer selected.
     bool isRowless(const ProxyProcModel &model, const ProcModel::Snapshot &snapshot) const;
     /// Selects the row of the same process again, without scrolling; clears the selection if the process is
     /// no longer listed. Left alone, the view would select a neighbour of a removed row.

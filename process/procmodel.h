@@ -71,6 +71,14 @@ public:
     /// First cell of the process's row; invalid if it has none.
     QModelIndex indexOfPid(int pid) const;
 
+    struct Row
+    {
+        const gtop_wrappers::Process *process; ///< valid until the next change of the model
+        int parent;                            ///< position in rows(); -1 at the top
+    };
+    /// All rows, parents before their children.
+    std::vector<Row> rows() const;
+
 private:
     using ItemPtr = std::tr1::shared_ptr<ProcItem>;
     using ProcessList = std::vector<const gtop_wrappers::Process *>;

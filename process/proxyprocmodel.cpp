@@ -4,6 +4,7 @@
 #include "process/deeprows.h"
 #include "process/fittingdelegate.h"
 #include "process/gtop_wrappers/filler.h"
+#include "process/treeexpansion.h"
 
 #include <QHeaderView>
 
@@ -24,7 +25,7 @@ int rowsToFit(int processColumn)
 ProxyProcModel::ProxyProcModel(QObject *parent)
     : QSortFilterProxyModel(parent), source(new ProcModel(parent)), delegate(new FittingDelegate(this)),
       deepRows(nullptr), expandAndFit(true), types(gtop_wrappers::MyProcesses), currentCpuTotal(1),
-      previousCpuTotal(0)
+      previousCpuTotal(0), expansion(new TreeExpansion(this)), fitUnfiltered(false)
 {
     setSortRole(Qt::UserRole);
     setDynamicSortFilter(true);
@@ -40,6 +41,7 @@ void ProxyProcModel::setView(QTreeView *treeView)
         view->setModel(this);
         view->setItemDelegate(delegate);
         deepRows = new DeepRows(this, view);
+        expansion->follow(view);
     }
 }
 
@@ -51,11 +53,18 @@ void ProxyProcModel::setTotalCpuTime(unsigned long total)
 
 void ProxyProcModel::refresh(const ProcModel::Snapshot &snapshot, int)
 {
+    if (isFiltered()) {
+        filter.decideBefore(snapshot, isFlat());
+    }
     source->update(snapshot, currentCpuTotal - previousCpuTotal, 0);
+    if (isFiltered()) {
+        settleFilter();
+    }
     if (view) {
         deepRows->restore();
         layOutView();
     }
+    Q_EMIT filtered();
 }
 
 void ProxyProcModel::layOutView()
@@ -71,6 +80,12 @@ void ProxyProcModel::layOutView()
 void ProxyProcModel::expandAndFitView()
 {
     expandAll();
+    fitColumns();
+    fitUnfiltered = isFiltered();
+}
+
+void ProxyProcModel::fitColumns()
+{
     for (int column = 0; column < columnCount(); ++column) {
         view->header()->setResizeContentsPrecision(rowsToFit(source->processColumn(column)));
         delegate->beginColumn();
@@ -177,6 +192,7 @@ void ProxyProcModel::expandAll()
 {
     if (view) {
         view->expandAll();
+        expansion->setAll(true);
     }
 }
 
@@ -184,6 +200,7 @@ void ProxyProcModel::collapseAll()
 {
     if (view) {
         view->collapseAll();
+        expansion->setAll(false);
     }
 }
 

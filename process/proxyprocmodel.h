@@ -2,14 +2,18 @@
 #ifndef PROCESS_PROXYPROCMODEL_H
 #define PROCESS_PROXYPROCMODEL_H
 
+#include "process/listfilter.h"
 #include "process/procmodel.h"
 
 #include <QPointer>
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 
+#include <functional>
+
 class DeepRows;
 class FittingDelegate;
+class TreeExpansion;
 
 /// The sorted process list that the view shows, and the only access to the processes for the rest of the
 /// program.
@@ -62,14 +66,46 @@ public:
     void expandAll();
     void collapseAll();
 
+    /// Of a row that is shown only because one of its descendants matches the filter: true. Otherwise
+    /// invalid.
+    static constexpr int AncestorOnlyRole = Qt::UserRole + 1;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+
+    /// Shows only what matches (see ProcessFilter) and, in tree mode, its ancestors. An empty text shows
+    /// everything. Keeps what was read for the filter, until closeFilter().
+    void setFilter(const QString &text);
+    void closeFilter();
+    bool isFiltered() const { return filter.isActive(); }
+    /// Whether the filter lets the process pass, whether or not it has a row.
+    bool passesFilter(int pid) const { return filter.accepts(pid); }
+    /// Rows that match the filter, and all rows that there are without it.
+    int matchCount() const;
+    int unfilteredCount() const;
+    /// Reads command lines that the filter still lacks, for about this time, and shows what they match.
+    void readForFilter(int milliseconds);
+    /// False while readForFilter() has something to read.
+    bool isFilterComplete() const { return filter.isComplete(); }
+
+    /// Pid of the process in the row; -1 for an invalid index.
+    int pidAt(const QModelIndex &row) const;
+
 Q_SIGNALS:
+    /// After each refresh and each change of what the filter shows.
+    void filtered();
     /// Before and after a change of types, mode or columns. In between come all of its resets; afterwards the
     /// list is empty and wants a refresh.
     void aboutToEmptyList();
     void listEmptied();
 
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+
 private:
     void reset();
+    void settleFilter();
+    void showRows(const std::function<void()> &change);
+    void arrangeFiltered();
+    void fitColumns();
     void sortByProcessColumn(int processColumn);
     void layOutView();
     void expandAndFitView();
@@ -82,6 +118,9 @@ private:
     int types;
     quint64 currentCpuTotal;
     quint64 previousCpuTotal;
+    ListFilter filter;
+    TreeExpansion *expansion;
+    bool fitUnfiltered; ///< the columns were fitted to filtered rows only
 };
 
 #endif
