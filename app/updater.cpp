@@ -26,8 +26,8 @@ Updater::Updater(int startPage)
       timer(nullptr), fileMenu(nullptr), editMenu(nullptr), menuProcess(nullptr), processMenu(nullptr),
       intervals(new PageIntervals(&mainWindow, settings::pageCount)), tick(0), chart(nullptr),
       timeHisto(nullptr), diskGauge(nullptr), memoryGauge(nullptr), cpuTotalDelta(0), lastCpuTotal(0),
-      followUp(new FollowUp(this)), listMenuTrigger(nullptr), stage(Stage::Building), lastBytesIn(0),
-      lastBytesOut(0)
+      followUp(new FollowUp(this)), listMenuTrigger(nullptr), finder(nullptr), stage(Stage::Building),
+      lastBytesIn(0), lastBytesOut(0)
 {
     glibtop_init_r(&glibtop_global_server, 0, 0);
     fsModel = new ProxyFsModel(this);

@@ -22,6 +22,7 @@ class Chart;
 class FollowUp;
 class ListMenuTrigger;
 class PageIntervals;
+class ProcessFinder;
 class ProcessMenu;
 class ProxyFsModel;
 class ProxyProcModel;
@@ -80,6 +81,8 @@ private Q_SLOTS:
     /// Before and after the list of processes is emptied by a change of types, mode or columns.
     void deferRefreshes();
     void refillProcesses();
+    /// The filter may have hidden the selected process.
+    void processesFiltered();
 
 private:
     // updater_window.cpp
@@ -147,6 +150,7 @@ private:
     quint64 lastCpuTotal;  ///< jiffies of all CPUs at the last refresh of the processes
     FollowUp *followUp;
     ListMenuTrigger *listMenuTrigger;
+    ProcessFinder *finder;
     DeferredRefreshes deferred;
     /// How far the start is. The list of processes is filled once the settings are loaded, since that empties
     /// it.

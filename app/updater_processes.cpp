@@ -88,6 +88,12 @@ void Updater::refillProcesses()
     refresh(deferred.end());
 }
 
+void Updater::processesFiltered()
+{
+    rowlessSelection.reset(); // a process that a filter has hidden does not come back selected
+    updateProcessActions();
+}
+
 QMenu *Updater::menuVisibleColumns()
 {
     static const auto *filler = gtop_wrappers::ProcessFiller::instance();

@@ -2,10 +2,12 @@
 #include "app/decorative.h"
 #include "app/followup.h"
 #include "app/listmenutrigger.h"
+#include "app/processfinder.h"
 #include "app/selectablevalues.h"
 #include "app/updater.h"
 #include "fs/chart.h"
 #include "fs/proxyfsmodel.h"
+#include "process/processmenu.h"
 #include "process/proxyprocmodel.h"
 #include "resources/qprog.h"
 
@@ -138,5 +140,8 @@ void Updater::followProcessSelection()
     connect(procModel, SIGNAL(aboutToEmptyList()), this, SLOT(deferRefreshes()));
     connect(procModel, SIGNAL(listEmptied()), this, SLOT(refillProcesses()));
     listMenuTrigger = new ListMenuTrigger(ui.treeView);
+    finder = new ProcessFinder(ui.treeView, procModel, descriptors);
+    connect(finder, SIGNAL(filterChanged()), this, SLOT(processesFiltered()));
+    connect(processMenu, SIGNAL(findRequested()), finder, SLOT(open()));
     connect(followUp, SIGNAL(due(int)), this, SLOT(refreshAgain(int)));
 }

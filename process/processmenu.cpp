@@ -30,7 +30,8 @@ enum CommandKind {
     SendSignal = 1,       ///< argument: signal number
     ExpandOrCollapse = 2, ///< argument: 1 expands all rows, 0 collapses them
     ToggleTree = 3,       ///< no argument
-    ChangePriority = 4    ///< no argument
+    ChangePriority = 4,   ///< no argument
+    FindProcess = 5       ///< no argument
 };
 constexpr int noArgument = -1;
 constexpr int unknownKind = -1;
@@ -121,6 +122,8 @@ const ProcessMenu::ActionRow ProcessMenu::actionRows[] = {
                                        "All process data can be lost.")}},
     {&ProcessMenu::changePriority, QT_TRANSLATE_NOOP("ProcessMenu", "Change priority..."),
      "", "", "", Plain, ChangePriority, noArgument},
+    {&ProcessMenu::findProcess, QT_TRANSLATE_NOOP("ProcessMenu", "Find process..."),
+     "", "", "", Plain, FindProcess, noArgument},
 };
 // clang-format on
 
@@ -139,6 +142,7 @@ QAction *ProcessMenu::*const ProcessMenu::menuOrder[] = {
     &ProcessMenu::killProcess,
     &ProcessMenu::changePriority,
     nullptr,
+    &ProcessMenu::findProcess,
 };
 
 ProcessMenu::ProcessMenu(QObject *parent, ProxyProcModel *proxy) : QObject(parent), model(proxy), selected(-1)
@@ -260,6 +264,9 @@ void ProcessMenu::process()
         break;
     case ChangePriority:
         changePriorityOfSelected();
+        break;
+    case FindProcess:
+        Q_EMIT findRequested();
         break;
     default:
         break;

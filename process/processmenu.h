@@ -32,6 +32,10 @@ public Q_SLOTS:
     /// Runs the command of the QAction that is the sender; any other caller gets a critical log line.
     void process();
 
+Q_SIGNALS:
+    /// "Find process..." was chosen.
+    void findRequested();
+
 private:
     struct ActionRow;
     static const ActionRow actionRows[];
@@ -54,6 +58,7 @@ private:
     QAction *terminateProcess;
     QAction *killProcess;
     QAction *changePriority;
+    QAction *findProcess;
     ProxyProcModel *model;
     gtop_wrappers::Process selected; ///< a copy, which can be stale
     /// Required, but never read. Guarded, since a context menu is deleted long before this object.

@@ -229,7 +229,8 @@ private Q_SLOTS:
         QFETCH(int, selected);
         startWithTree();
         // Leaves room for the whole menu below.
-        Fixture::window()->resize(700, 250);
+        view()->setFixedHeight(120);
+        view()->parentWidget()->layout()->setAlignment(view(), Qt::AlignTop);
         QCoreApplication::processEvents();
         addMany();
         fork(300, 600);

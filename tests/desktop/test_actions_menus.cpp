@@ -57,7 +57,7 @@ private Q_SLOTS:
         const std::pair<const char *, const char *> expected[] = {
             {"Tree view", "Ctrl+F"},    {"My processes", "Ctrl+M"},     {"All processes", "Ctrl+A"},
             {"Stop process", "Ctrl+S"}, {"Continue process", "Ctrl+C"}, {"Terminate process", "Ctrl+T"},
-            {"Kill process", "Ctrl+K"}, {"Change priority...", ""}};
+            {"Kill process", "Ctrl+K"}, {"Change priority...", ""},     {"Find process...", ""}};
         QStringList entries;
         for (const auto &[entry, keys] : expected) {
             entries.append(entry);
@@ -95,8 +95,8 @@ private Q_SLOTS:
             return; // the rows fill the view: there is no empty space
         }
         QVERIFY(page->openContextMenuOnEmptySpace());
-        QCOMPARE(session->menuTexts(),
-                 (QStringList{"Tree view", "My processes", "All processes", "Visible columns"}));
+        QCOMPARE(session->menuTexts(), (QStringList{"Tree view", "My processes", "All processes",
+                                                    "Find process...", "Visible columns"}));
     }
 
     void ctrlFTogglesTheTreeAndItsActions()

@@ -138,8 +138,8 @@ private Q_SLOTS:
         start(5);
         QVERIFY(page->select(parentPid(0)));
         QVERIFY(page->openContextMenuOnEmptySpace());
-        QCOMPARE(session->menuTexts(),
-                 QStringList({"Tree view", "My processes", "All processes", "Visible columns"}));
+        QCOMPARE(session->menuTexts(), QStringList({"Tree view", "My processes", "All processes",
+                                                    "Find process...", "Visible columns"}));
         QVERIFY(page->closeMenus());
         QCOMPARE(selectedPids(), QStringList());
     }

@@ -46,7 +46,7 @@ private Q_SLOTS:
         QCOMPARE(made.join(QLatin1Char('|')),
                  QStringLiteral("Tree view|Expand all|Collapse all|QActionGroup|All processes|My processes|"
                                 "Stop process|Continue process|Terminate process|Kill process|"
-                                "Change priority..."));
+                                "Change priority...|Find process..."));
     }
 
     void actionsHaveTheirProperties_data()
@@ -65,6 +65,7 @@ private Q_SLOTS:
         QTest::newRow("Terminate process") << "Ctrl+T" << false << false << QVariantList{1, 15};
         QTest::newRow("Kill process") << "Ctrl+K" << false << false << QVariantList{1, 9};
         QTest::newRow("Change priority...") << "" << false << false << QVariantList{4};
+        QTest::newRow("Find process...") << "" << false << false << QVariantList{5};
     }
 
     void actionsHaveTheirProperties()
@@ -124,7 +125,8 @@ private Q_SLOTS:
         const Desk desk;
         const QString texts =
             QStringLiteral("Tree view|Expand all|Collapse all|-|My processes|All processes|-|Stop process|"
-                           "Continue process|Terminate process|Kill process|Change priority...|-");
+                           "Continue process|Terminate process|Kill process|Change priority...|-|"
+                           "Find process...");
         QMenu lasting;
         desk.actions->fillMenu(&lasting);
         {
