@@ -12,7 +12,7 @@ cd "$(dirname "$0")"
 . scripts/desktop.sh
 
 need_packages "${build_packages[@]}" "${window_packages[@]}"
-build bench zarn-system-monitor bench_spawner bench_calls bench_list bench_refreshcounter bench_machine gtopstandin_preload
+build bench zarn-system-monitor bench_spawner bench_calls bench_list bench_filter bench_refreshcounter bench_machine gtopstandin_preload
 bin=build/bench/benchmarks # relative, since LD_PRELOAD takes no blanks
 program=${PROGRAM:-build/bench/zarn-system-monitor}
 results=${RESULTS:-build/bench/results}
@@ -62,10 +62,12 @@ note() { # note <what> <file of numbers> [<file of reference numbers>]
     line "$1" "$(spread <"$2")" "$ratio"
 }
 
-# CPU time of a refresh of the process page (all processes, flat, default columns), µs per process.
+# measure_refresh <file> [<typed into the list>]: CPU time of a refresh of the process page (all processes, flat, default
+# columns), µs per process.
 measure_refresh() {
     start_monitor processes 1 "$bin/libbench_refreshcounter.so"
     xdotool windowactivate --sync "$window" key --clearmodifiers ctrl+a
+    [ -z "${2:-}" ] || xdotool key Tab type "$2" # Tab leads from the tabs to the list
     wait_refreshes 4
     local cpu count refreshed
     wait_refreshes 1 # measures from the end of a refresh to the end of another
@@ -73,13 +75,13 @@ measure_refresh() {
     wait_refreshes "$refreshes"
     count=$(processes)
     awk -v ns=$(($(cpu_time) - cpu)) -v r=$(($(count_refreshes) - refreshed)) -v n="$count" \
-        'BEGIN { printf "%.2f\n", ns / 1000 / r / n }' >>"$work/page"
-    resident_mb >>"$work/rss"; echo >>"$work/rss"
+        'BEGIN { printf "%.2f\n", ns / 1000 / r / n }' >>"$work/$1"
+    resident_mb >>"$work/rss.$1"; echo >>"$work/rss.$1"
     stop_monitor
 }
 
 measure_size() { # <additional processes>
-    rm -f "$work"/{calls,page,rss,read,show}
+    rm -f "$work"/{calls,page,filtered,rss.page,rss.filtered,read,show,keystroke,reading}
     mkfifo "$work/load.$1"
     "$bin/bench_spawner" "$1" <"$work/load.$1" >"$work/spawned" &
     local spawner=$!
@@ -90,16 +92,23 @@ measure_size() { # <additional processes>
     count=$(processes)
     for _ in $(seq "$repeats"); do
         "$bin/bench_calls" 5 | median >>"$work/calls"; echo >>"$work/calls"
-        measure_refresh
+        measure_refresh page
+        measure_refresh filtered b # which nearly all match: the spawner's name
         "$bin/bench_list" 5 >"$work/list"
         cut -d ' ' -f 1 "$work/list" | median >>"$work/read"; echo >>"$work/read"
         cut -d ' ' -f 2 "$work/list" | median >>"$work/show"; echo >>"$work/show"
+        "$bin/bench_filter" 5 >"$work/filter"
+        cut -d ' ' -f 1 "$work/filter" | median >>"$work/keystroke"; echo >>"$work/keystroke"
+        cut -d ' ' -f 4 "$work/filter" | median >>"$work/reading"; echo >>"$work/reading"
     done
     note "four libgtop calls, $count processes, µs per process" "$work/calls"
     note "one refresh of the process page, $count processes, µs per process" "$work/page" "$work/calls"
+    note "the same with the filter line open, $count processes, µs per process" "$work/filtered" "$work/calls"
+    note "a keystroke in the filter line (library), $count processes, ms" "$work/keystroke"
+    note "reading all command lines for the filter (library), $count processes, ms" "$work/reading"
     note "snapshot alone (library), $count processes, µs per process" "$work/read" "$work/calls"
     note "model, proxy and view alone, $count processes, µs per process" "$work/show" "$work/calls"
-    note "resident memory of the process page, $count processes, MB" "$work/rss"
+    note "resident memory of the process page, $count processes, MB" "$work/rss.page"
     measure_start processes "$count"
     exec 8>&-
     wait "$spawner"
