@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Název, příkazový řádek, uživatel nebo PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Najít proces</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavřít</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 z %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Nenalezen žádný proces</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ Všechna data procesu mohou být ztracena.</translation>
     <message>
         <source>Change priority...</source>
         <translation>Změnit prioritu...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Najít proces...</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Name, Befehlszeile, Benutzer oder PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Prozess suchen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Kein Prozess gefunden</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ Alle Daten des Prozesses können verloren gehen.</translation>
     <message>
         <source>Change priority...</source>
         <translation>Priorität ändern...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Prozess suchen...</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Nombre, línea de órdenes, usuario o PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Buscar proceso</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>No se encontró ningún proceso</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ Se pueden perder todos los datos del proceso.</translation>
     <message>
         <source>Change priority...</source>
         <translation>Cambiar prioridad...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Buscar proceso...</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Nom, ligne de commande, utilisateur ou PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Rechercher un processus</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Aucun processus trouvé</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ Toutes les données du processus peuvent être perdues.</translation>
     <message>
         <source>Change priority...</source>
         <translation>Changer la priorité...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Rechercher un processus...</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Nome, riga di comando, utente o PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Trova processo</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Nessun processo trovato</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ Tutti i dati del processo potrebbero andare persi.</translation>
     <message>
         <source>Change priority...</source>
         <translation>Cambia priorità...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Trova processo...</translation>
     </message>
 </context>
 <context>

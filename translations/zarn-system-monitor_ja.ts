@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>名前、コマンドライン、ユーザー、PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>プロセスを検索</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 件中 %1 件</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>プロセスが見つかりません</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ All process data can be lost.</source>
     <message>
         <source>Change priority...</source>
         <translation>優先度を変更...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>プロセスを検索...</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>이름, 명령줄, 사용자 또는 PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>프로세스 찾기</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2개 중 %1개</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>찾은 프로세스 없음</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ All process data can be lost.</source>
     <message>
         <source>Change priority...</source>
         <translation>우선순위 변경...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>프로세스 찾기...</translation>
     </message>
 </context>
 <context>

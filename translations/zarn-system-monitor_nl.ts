@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Naam, opdrachtregel, gebruiker of PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Proces zoeken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 van %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Geen proces gevonden</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ Alle gegevens van het proces kunnen verloren gaan.</translation>
     <message>
         <source>Change priority...</source>
         <translation>Prioriteit wijzigen...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Proces zoeken...</translation>
     </message>
 </context>
 <context>

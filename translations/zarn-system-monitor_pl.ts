@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Nazwa, wiersz poleceń, użytkownik lub PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Znajdź proces</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 z %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Nie znaleziono procesu</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ Wszystkie dane procesu mogą zostać utracone.</translation>
     <message>
         <source>Change priority...</source>
         <translation>Zmień priorytet...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Znajdź proces...</translation>
     </message>
 </context>
 <context>

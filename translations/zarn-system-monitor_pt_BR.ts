@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Nome, linha de comando, usuário ou PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Localizar processo</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Nenhum processo encontrado</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ Todos os dados do processo podem ser perdidos.</translation>
     <message>
         <source>Change priority...</source>
         <translation>Alterar prioridade...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Localizar processo...</translation>
     </message>
 </context>
 <context>

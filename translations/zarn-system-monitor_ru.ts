@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Имя, командная строка, пользователь или PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Найти процесс</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Процессы не найдены</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ All process data can be lost.</source>
     <message>
         <source>Change priority...</source>
         <translation>Изменить приоритет...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Найти процесс...</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Namn, kommandorad, användare eller PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Sök process</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Stäng</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 av %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Ingen process hittades</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ Alla processens data kan gå förlorade.</translation>
     <message>
         <source>Change priority...</source>
         <translation>Ändra prioritet...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Sök process...</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Ad, komut satırı, kullanıcı veya PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Süreç bul</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Süreç bulunamadı</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ Sürecin tüm verileri kaybolabilir.</translation>
     <message>
         <source>Change priority...</source>
         <translation>Önceliği değiştir...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Süreç bul...</translation>
     </message>
 </context>
 <context>

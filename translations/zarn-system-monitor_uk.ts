@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>Назва, командний рядок, користувач або PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>Знайти процес</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 з %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>Процесів не знайдено</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ All process data can be lost.</source>
     <message>
         <source>Change priority...</source>
         <translation>Змінити пріоритет...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>Знайти процес...</translation>
     </message>
 </context>
 <context>

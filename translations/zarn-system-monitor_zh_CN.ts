@@ -79,6 +79,25 @@
     </message>
 </context>
 <context>
+    <name>FilterLine</name>
+    <message>
+        <source>Name, command line, user or PID</source>
+        <translation>名称、命令行、用户或 PID</translation>
+    </message>
+    <message>
+        <source>Find process</source>
+        <translation>查找进程</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
     <name>FsDetails</name>
     <message>
         <source>No answer</source>
@@ -312,6 +331,13 @@
     </message>
 </context>
 <context>
+    <name>ProcessFinder</name>
+    <message>
+        <source>No process found</source>
+        <translation>未找到进程</translation>
+    </message>
+</context>
+<context>
     <name>ProcessMenu</name>
     <message>
         <source>Process stopping</source>
@@ -396,6 +422,10 @@ All process data can be lost.</source>
     <message>
         <source>Change priority...</source>
         <translation>更改优先级...</translation>
+    </message>
+    <message>
+        <source>Find process...</source>
+        <translation>查找进程...</translation>
     </message>
 </context>
 <context>
