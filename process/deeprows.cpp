@@ -3,6 +3,7 @@
 
 #include "process/proxyprocmodel.h"
 
+#include <QSignalBlocker>
 #include <QTreeView>
 
 #include <vector>
@@ -48,6 +49,7 @@ void DeepRows::putAside()
         return;
     }
     isAside = true;
+    const QSignalBlocker silent(view); // it is not the user who collapses them
     for (const Row &row : subtree(*proxy->sourceModel(), {QModelIndex(), 0})) {
         const QModelIndex shown = row.depth > ordinaryDepth ? proxy->mapFromSource(row.index) : QModelIndex();
         if (shown.isValid() && view->isExpanded(shown)) {
@@ -74,6 +76,7 @@ void DeepRows::restore()
     if (collapsed.empty()) {
         return;
     }
+    const QSignalBlocker silent(view);
     const std::vector<Row> rows = subtree(*proxy->sourceModel(), {QModelIndex(), 0});
     for (auto row = rows.rbegin(); row != rows.rend() && row->depth > ordinaryDepth; ++row) {
         if (collapsed.count(row->index.internalId()) > 0) {
