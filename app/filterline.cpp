@@ -41,7 +41,6 @@ FilterLine::FilterLine(QWidget *parent) : QWidget(parent), edit(new TextField(th
     edit->setObjectName(QStringLiteral("filterText"));
     edit->setPlaceholderText(tr("Name, command line, user or PID"));
     edit->setAccessibleName(tr("Find process"));
-    edit->setClearButtonEnabled(true);
     edit->setMaxLength(longestText);
     count->setObjectName(QStringLiteral("filterCount"));
     auto *close = new QToolButton(this);
