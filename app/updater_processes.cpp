@@ -13,7 +13,8 @@
 void Updater::refreshProcesses()
 {
     const double seconds = readProcesses();
-    if (stage == Stage::Building) {
+    // This program is in every list, so an empty reading has failed, and the last list stays.
+    if (stage == Stage::Building || reading.empty()) {
         return;
     }
     const bool wasEmptied = placeBeforeReset.has_value();

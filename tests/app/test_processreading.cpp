@@ -66,6 +66,17 @@ private Q_SLOTS:
         QCOMPARE(shown(300, ParentPidColumn), QStringLiteral("1"));
     }
 
+    void anEmptyReadingKeepsTheList()
+    {
+        const std::map<int, standin::Process> listed = *standin::machine().processes;
+        standin::machine().processes->clear();
+        fixture->updater().update(true);
+        QCOMPARE(Fixture::processes()->rowCount(), static_cast<int>(listed.size()));
+        standin::machine().processes->emplace(*listed.begin());
+        fixture->updater().update(true);
+        QCOMPARE(Fixture::processes()->rowCount(), 1);
+    }
+
     void sortedMemoryIsReadWithEachRefresh()
     {
         const int memory = MemoryColumn; // no earlier column is hidden

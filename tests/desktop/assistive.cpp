@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "assistive.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QElapsedTimer>
@@ -10,6 +11,7 @@
 
 namespace {
 
+constexpr char registryService[] = "org.a11y.atspi.Registry";
 constexpr char accessible[] = "org.a11y.atspi.Accessible";
 constexpr int showingState = 25; ///< ATSPI_STATE_SHOWING
 constexpr uint labelledBy = 2;   ///< ATSPI_RELATION_LABELLED_BY
@@ -131,7 +133,10 @@ bool AssistiveBus::start()
         !QFile::exists(QStringLiteral("/usr/libexec/at-spi-bus-launcher"))) {
         return false;
     }
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    variables.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeFolder.path()); // gets the socket of the bus
     daemon = std::make_unique<QProcess>();
+    daemon->setProcessEnvironment(variables);
     daemon->start(QStringLiteral("dbus-daemon"), {"--session", "--nofork", "--print-address"});
     if (!daemon->waitForReadyRead(10000)) {
         return false;
@@ -146,7 +151,8 @@ bool AssistiveBus::start()
         return false;
     }
     bus = QDBusConnection::connectToBus(assistive, QStringLiteral("assistive"));
-    return bus->isConnected();
+    return bus->isConnected() &&
+           bus->interface()->startService(QString::fromLatin1(registryService)).isValid();
 }
 
 QMap<QString, QString> AssistiveBus::environment() const
@@ -156,8 +162,7 @@ QMap<QString, QString> AssistiveBus::environment() const
 
 std::optional<Accessible> AssistiveBus::application(const QString &name, int deadline) const
 {
-    const Accessible registry(
-        *bus, {"org.a11y.atspi.Registry", QDBusObjectPath("/org/a11y/atspi/accessible/root")});
+    const Accessible registry(*bus, {registryService, QDBusObjectPath("/org/a11y/atspi/accessible/root")});
     QElapsedTimer timer;
     for (timer.start(); timer.elapsed() < deadline; QThread::msleep(50)) {
         for (const Accessible &application : registry.children()) {

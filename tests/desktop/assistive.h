@@ -8,6 +8,7 @@
 #include <QList>
 #include <QProcess>
 #include <QString>
+#include <QTemporaryDir>
 #include <QVariant>
 
 #include <functional>
@@ -64,6 +65,7 @@ public:
     std::optional<Accessible> application(const QString &name, int deadline) const;
 
 private:
+    QTemporaryDir runtimeFolder;
     std::unique_ptr<QProcess> daemon;
     QString address;
     std::optional<QDBusConnection> bus;

@@ -36,7 +36,7 @@ private Q_SLOTS:
     {
         const rlim_t enough = lowestUsefulLimit();
         QStringList before;
-        // Again if the limit has fallen in the middle of a refresh, which then finds no process.
+        // Again if the limit has fallen in the middle of a refresh, which then finds only some processes.
         QVERIFY(session->waitFor([&] {
             limitDescriptors(8); // all below are open, but poll(2) fails on more of them than the limit
             before = page->list().column("PID");

@@ -38,7 +38,11 @@ private Q_SLOTS:
         session = std::make_unique<DesktopSession>(options);
         file = session->settingsFile();
     }
-    void cleanup() { QVERIFY(session->endsCleanly()); }
+    void cleanup()
+    {
+        QVERIFY(session->endsCleanly());
+        setFolderMode(0700);
+    }
 
     void onlyTheFileOfTheProgramIsRead_data()
     {
@@ -61,9 +65,9 @@ private Q_SLOTS:
     void whatCannotBeUsedIsLeftAlone_data()
     {
         QTest::addColumn<QString>("what");
-        for (const char *what :
-             {"named pipe", "link to /dev/zero", "link to /proc/kmsg", "folder",
-              "damaged, with a folder in the way", "named pipe as lock", "folder as lock"}) {
+        for (const char *what : {"named pipe", "link to /dev/zero", "link to /proc/kmsg", "folder",
+                                 "damaged, with a folder in the way", "damaged, in a read-only folder",
+                                 "named pipe as lock", "folder as lock"}) {
             QTest::newRow(what) << QString(what);
         }
     }
@@ -72,6 +76,9 @@ private Q_SLOTS:
     void whatCannotBeUsedIsLeftAlone()
     {
         QFETCH(QString, what);
+        if (what.contains("read-only") && geteuid() == 0) {
+            QSKIP("root may write everywhere");
+        }
         QVERIFY(create(what));
         struct stat before = {};
         struct stat after = {};
@@ -113,6 +120,11 @@ private:
         QVERIFY(session->exitsCleanly());
     }
 
+    bool setFolderMode(mode_t mode)
+    {
+        return chmod(QFile::encodeName(QFileInfo(file).path()).constData(), mode) == 0;
+    }
+
     bool makeFolder() { return QDir().mkpath(QFileInfo(file).path()); }
 
     bool create(const QString &what)
@@ -122,6 +134,9 @@ private:
         }
         if (what.startsWith("link to ")) {
             return QFile::link(what.mid(8), file);
+        }
+        if (what.contains("read-only")) {
+            return write(file, hugeList) && setFolderMode(0500);
         }
         if (what.startsWith("damaged")) {
             return write(file, hugeList) && QDir().mkpath(file + ".damaged/full");
