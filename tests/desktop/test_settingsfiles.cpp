@@ -40,7 +40,7 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        QVERIFY(session->endsCleanly());
+        QVERIFY(session->pid() == 0 || session->endsCleanly());
         setFolderMode(0700);
     }
 
