@@ -65,9 +65,9 @@ private Q_SLOTS:
     void whatCannotBeUsedIsLeftAlone_data()
     {
         QTest::addColumn<QString>("what");
-        for (const char *what : {"named pipe", "link to /dev/zero", "link to /proc/kmsg", "folder",
-                                 "damaged, with a folder in the way", "damaged, in a read-only folder",
-                                 "named pipe as lock", "folder as lock"}) {
+        for (const char *what : {"named pipe", "link to /dev/zero", "link to /proc/kmsg", "link to itself",
+                                 "folder", "damaged, with a folder in the way",
+                                 "damaged, in a read-only folder", "named pipe as lock", "folder as lock"}) {
             QTest::newRow(what) << QString(what);
         }
     }
@@ -89,6 +89,14 @@ private Q_SLOTS:
         QCOMPARE(after.st_ino, before.st_ino);
         QCOMPARE(after.st_mode, before.st_mode);
         QCOMPARE(after.st_size, before.st_size);
+    }
+
+    void aFileThatIsTooLargeIsSetAside()
+    {
+        QVERIFY(write(file, QByteArray(65, '\n').repeated(1024) + "[interval]\ngeneral=5\n"));
+        startAndQuit();
+        QVERIFY2(session->settings().contains("general=3"), session->settings());
+        QVERIFY(QFile::exists(file + ".damaged"));
     }
 
     void aPipeThatAppearsWhileItRunsDoesNotHoldItUp()
@@ -133,7 +141,7 @@ private:
             return false;
         }
         if (what.startsWith("link to ")) {
-            return QFile::link(what.mid(8), file);
+            return QFile::link(what == "link to itself" ? file : what.mid(8), file);
         }
         if (what.contains("read-only")) {
             return write(file, hugeList) && setFolderMode(0500);

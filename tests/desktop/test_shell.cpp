@@ -129,18 +129,30 @@ private Q_SLOTS:
     /// Otherwise a message of a library would go to the display.
     void closedStandardStreamsAreOpened()
     {
-        SessionOptions options;
-        options.program = "/bin/sh";
-        session = std::make_unique<DesktopSession>(options);
-        const QString command = QString("exec '%1' filesystems <&- >&- 2>&-").arg(ZSM_PROGRAM);
-        QVERIFY2(session->start({"-c", command}), qPrintable(session->error()));
+        startInShell("exec '%1' filesystems <&- >&- 2>&-");
         for (int stream = 0; stream <= 2; ++stream) {
             const QString link = QString("/proc/%1/fd/%2").arg(session->pid()).arg(stream);
             QCOMPARE(QFile::symLinkTarget(link), QString("/dev/null"));
         }
     }
 
+    void outputThatNobodyReadsIsDropped()
+    {
+        startInShell("mkfifo \"$HOME/pipe\"; : <\"$HOME/pipe\" & exec 4>\"$HOME/pipe\"; wait; "
+                     "exec '%1' unknown >&4");
+        QCOMPARE(currentTab(), 0);
+    }
+
 private:
+    /// Starts the program, which the command names as %1.
+    void startInShell(const QString &command)
+    {
+        SessionOptions options;
+        options.program = "/bin/sh";
+        session = std::make_unique<DesktopSession>(options);
+        QVERIFY2(session->start({"-c", command.arg(ZSM_PROGRAM)}), qPrintable(session->error()));
+    }
+
     int currentTab() { return session->widget("tabWidget").value("currentIndex").toInt(-1); }
     std::unique_ptr<DesktopSession> session;
 };
