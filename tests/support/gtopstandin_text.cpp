@@ -10,86 +10,52 @@
 namespace standin {
 namespace {
 
-// The fields of each kind of line, both for writing and for reading.
+// The fields of each kind of line in their order, both for writing and for reading.
 template <typename Visitor>
 void visitFields(Visitor &visit, Cpu &cpu)
 {
-    visit("idle", cpu.idle);
-    visit("total", cpu.total);
-    visit("load", cpu.load);
+    visit(cpu.idle, cpu.total, cpu.load);
 }
 
 template <typename Visitor>
 void visitFields(Visitor &visit, Memory &memory)
 {
-    visit("total", memory.total);
-    visit("free", memory.free);
-    visit("buffer", memory.buffer);
-    visit("cached", memory.cached);
+    visit(memory.total, memory.free, memory.buffer, memory.cached);
 }
 
 template <typename Visitor>
 void visitFields(Visitor &visit, Mount &mount)
 {
-    visit("device", mount.device);
-    visit("directory", mount.directory);
-    visit("type", mount.type);
-    visit("blocks", mount.blocks);
-    visit("bfree", mount.freeBlocks);
-    visit("bavail", mount.availBlocks);
-    visit("files", mount.files);
-    visit("bsize", mount.blockSize);
-    visit("fails", mount.fails);
-    visit("ms", mount.blocksForMs);
+    visit(mount.device, mount.directory, mount.type, mount.blocks, mount.freeBlocks, mount.availBlocks,
+          mount.files, mount.blockSize, mount.fails, mount.blocksForMs);
 }
 
 template <typename Visitor>
 void visitFields(Visitor &visit, Interface &net)
 {
-    visit("name", net.name);
-    visit("address", net.address);
-    visit("mask", net.mask);
-    visit("in", net.bytesIn);
-    visit("out", net.bytesOut);
-    visit("errors", net.errors);
-    visit("fails", net.fails);
+    visit(net.name, net.address, net.mask, net.bytesIn, net.bytesOut, net.errors, net.fails);
+}
+
+template <typename Visitor, typename Pid>
+void visitFields(Visitor &visit, std::pair<Pid, Process> &entry)
+{
+    auto &[pid, process] = entry;
+    visit(pid, process.parent, process.name, process.uid, process.state, process.nice, process.userTime,
+          process.systemTime, process.startTime, process.virtualSize, process.resident, process.shared,
+          process.arguments, process.answersBeforeEnd);
 }
 
 template <typename Visitor>
-void visitFields(Visitor &visit, std::pair<int, Process> &process)
+void visitFields(Visitor &visit, bool &listFails)
 {
-    visit("pid", process.first);
-    visit("ppid", process.second.parent);
-    visit("name", process.second.name);
-    visit("uid", process.second.uid);
-    visit("state", process.second.state);
-    visit("nice", process.second.nice);
-    visit("utime", process.second.userTime);
-    visit("stime", process.second.systemTime);
-    visit("start", process.second.startTime);
-    visit("virtual", process.second.virtualSize);
-    visit("resident", process.second.resident);
-    visit("shared", process.second.shared);
-    visit("args", process.second.arguments);
-    visit("answers", process.second.answersBeforeEnd);
+    visit(listFails);
 }
 
-/// A line with a single field.
-template <typename Value>
-struct SingleField
+template <typename Visitor>
+void visitFields(Visitor &visit, int &mostOfOthers)
 {
-    const char *name;
-    Value value;
-};
-
-template <typename Visitor, typename Value>
-void visitFields(Visitor &visit, SingleField<Value> &field)
-{
-    visit(field.name, field.value);
+    visit(mostOfOthers);
 }
-
-const SingleField<bool> listFails = {"fails", false};
-const SingleField<int> othersLimit = {"most", -1};
 
 const char *const emptyWord = "%-";
 
@@ -149,31 +115,40 @@ template <typename Record>
 std::string lineOf(const char *kind, Record record)
 {
     std::string line = kind;
-    const auto append = [&](const char *name, const auto &value) {
-        line += std::string(" ") + name + ' ' + encoded(value);
-    };
+    const auto append = [&](const auto &...values) { ((line += ' ' + encoded(values)), ...); };
     visitFields(append, record);
     return line + '\n';
 }
 
-/// Reads the fields that follow the kind of the line; those that are missing keep their value in `record`.
-template <typename Record>
-Record recordOf(std::istringstream &rest, Record record = {})
+template <typename List>
+std::string linesOf(const char *kind, const List &list)
 {
-    std::map<std::string, std::string> words;
-    for (std::string name, word; rest >> name >> word;) {
-        words[name] = word;
+    std::string lines;
+    for (const auto &record : list) {
+        lines += lineOf(kind, record);
     }
-    const auto read = [&](const char *name, auto &value) {
-        const auto found = words.find(name);
-        if (found != words.end()) {
-            decode(found->second, value);
-            words.erase(found);
-        }
-    };
+    return lines;
+}
+
+template <typename Value>
+void readWord(std::istringstream &rest, Value &value)
+{
+    std::string word;
+    if (!(rest >> word)) {
+        throw std::runtime_error("too few fields");
+    }
+    decode(word, value);
+}
+
+/// Reads the fields that follow the kind of the line.
+template <typename Record>
+Record recordOf(std::istringstream &rest)
+{
+    Record record = {};
+    const auto read = [&](auto &...values) { (readWord(rest, values), ...); };
     visitFields(read, record);
-    if (!words.empty()) {
-        throw std::runtime_error("no such field: " + words.begin()->first);
+    if (std::string more; rest >> more) {
+        throw std::runtime_error("too many fields");
     }
     return record;
 }
@@ -200,12 +175,12 @@ void readLine(const std::string &line, Machine &machine)
         machine.memory = recordOf<Memory>(rest);
     } else if (kind == "mounts") {
         machine.mounts.emplace();
-        machine.mountListFails = recordOf(rest, listFails).value;
+        machine.mountListFails = recordOf<bool>(rest);
     } else if (kind == "mount") {
         madeIn(machine.mounts).push_back(recordOf<Mount>(rest));
     } else if (kind == "nets") {
         machine.interfaces.emplace();
-        machine.interfaceListFails = recordOf(rest, listFails).value;
+        machine.interfaceListFails = recordOf<bool>(rest);
     } else if (kind == "net") {
         madeIn(machine.interfaces).push_back(recordOf<Interface>(rest));
     } else if (kind == "processes") {
@@ -213,7 +188,7 @@ void readLine(const std::string &line, Machine &machine)
     } else if (kind == "process") {
         madeIn(machine.processes).insert(recordOf<std::pair<int, Process>>(rest));
     } else if (kind == "others") {
-        machine.mostOfOthers = recordOf(rest, othersLimit).value;
+        machine.mostOfOthers = recordOf<int>(rest);
     } else {
         throw std::runtime_error("no such kind of line: " + kind);
     }
@@ -225,34 +200,22 @@ std::string toText(const Machine &machine)
 {
     std::string text;
     if (machine.cpus) {
-        text += "cpus\n";
-        for (const Cpu &cpu : *machine.cpus) {
-            text += lineOf("cpu", cpu);
-        }
+        text += "cpus\n" + linesOf("cpu", *machine.cpus);
     }
     if (machine.memory) {
         text += lineOf("mem", *machine.memory);
     }
     if (machine.mounts) {
-        text += lineOf("mounts", SingleField<bool>{listFails.name, machine.mountListFails});
-        for (const Mount &mount : *machine.mounts) {
-            text += lineOf("mount", mount);
-        }
+        text += lineOf("mounts", machine.mountListFails) + linesOf("mount", *machine.mounts);
     }
     if (machine.interfaces) {
-        text += lineOf("nets", SingleField<bool>{listFails.name, machine.interfaceListFails});
-        for (const Interface &net : *machine.interfaces) {
-            text += lineOf("net", net);
-        }
+        text += lineOf("nets", machine.interfaceListFails) + linesOf("net", *machine.interfaces);
     }
     if (machine.processes) {
-        text += "processes\n";
-        for (const auto &[pid, process] : *machine.processes) {
-            text += lineOf("process", std::pair<int, Process>(pid, process));
-        }
+        text += "processes\n" + linesOf("process", *machine.processes);
     }
     if (machine.mostOfOthers >= 0) {
-        text += lineOf("others", SingleField<int>{othersLimit.name, machine.mostOfOthers});
+        text += lineOf("others", machine.mostOfOthers);
     }
     return text;
 }

@@ -99,6 +99,7 @@ struct SeenBox
 {
     QString title;
     QString text;
+    QString informativeText;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     QMessageBox::StandardButtons buttons = QMessageBox::NoButton;
     QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
@@ -114,6 +115,7 @@ inline ModalDriver::Handler pressing(QMessageBox::StandardButton button, SeenBox
         if (seen) {
             *seen = {box->windowTitle(),
                      box->text(),
+                     box->informativeText(),
                      box->icon(),
                      box->standardButtons(),
                      box->standardButton(box->defaultButton()),

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/gtopstandin.h"
+#include "tests/support/rows.h"
 
 #include <QProcess>
 #include <QtTest>
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <stdexcept>
 
 namespace {
 
@@ -33,6 +35,21 @@ std::vector<pid_t> listedPids(gint64 which = GLIBTOP_KERN_PROC_ALL, gint64 arg =
     const std::vector<pid_t> result(pids, pids + list.number);
     g_free(pids);
     return result;
+}
+
+standin::Machine fullMachine()
+{
+    standin::Machine machine;
+    machine.cpus = {{1, 2, 50}, {3, ~std::uint64_t(0)}};
+    machine.memory = standin::Memory{100, 20, 3, 4};
+    machine.mounts = {{"/dev/sd a", "/mnt/\xff%\n", "", 5, 4, 3, 2, 512, true, 7}, standin::Mount{}};
+    machine.mountListFails = true;
+    machine.interfaces = {{"eth0", 0x0100007f, 0xff, 11, 12, 13, true}};
+    machine.interfaceListFails = true;
+    const standin::Process process{-2, "a b", 1000, 16, -20, 1, 2, 3, 4, 5, 6, std::string("a\0b\0", 4), 2};
+    machine.processes = {{42, process}, {43, standin::Process{}}};
+    machine.mostOfOthers = 8;
+    return machine;
 }
 
 bool isListed(qint64 pid)
@@ -263,6 +280,76 @@ private Q_SLOTS:
         QCOMPARE(standin::calls().memory, 2u);
         QCOMPARE(standin::calls().processData, 1u);
         QCOMPARE(standin::calls().mountList, 0u);
+    }
+
+    void textKeepsEveryField()
+    {
+        const std::string text = standin::toText(fullMachine());
+        const standin::Machine read = standin::fromText(text);
+        QCOMPARE(standin::toText(read), text);
+        QCOMPARE(read.mounts->at(0).directory, std::string("/mnt/\xff%\n"));
+        QCOMPARE(read.mounts->at(0).type, std::string());
+        QVERIFY(read.mounts->at(0).fails);
+        QVERIFY(read.mountListFails);
+        QVERIFY(read.interfaceListFails);
+        QVERIFY(read.interfaces->at(0).fails);
+        QCOMPARE(read.cpus->at(0).load, 50);
+        QCOMPARE(read.cpus->at(1).load, -1);
+        QCOMPARE(read.cpus->at(1).total, ~std::uint64_t(0));
+        QCOMPARE(read.processes->at(42).arguments, std::string("a\0b\0", 4));
+        QCOMPARE(read.processes->at(42).nice, -20);
+        QCOMPARE(read.processes->at(42).answersBeforeEnd, 2);
+        QCOMPARE(read.processes->at(43).answersBeforeEnd, -1);
+        QCOMPARE(read.mostOfOthers, 8);
+    }
+
+    void emptyListIsNotUnset()
+    {
+        QCOMPARE(standin::toText({}), std::string());
+        QVERIFY(!standin::fromText("# nothing\n\n").mounts);
+        standin::Machine machine;
+        machine.mounts.emplace();
+        machine.interfaces.emplace();
+        machine.processes.emplace();
+        machine.cpus.emplace();
+        const standin::Machine read = standin::fromText(standin::toText(machine));
+        QVERIFY(read.mounts && read.mounts->empty());
+        QVERIFY(read.interfaces && read.interfaces->empty());
+        QVERIFY(read.processes && read.processes->empty());
+        QVERIFY(read.cpus && read.cpus->empty());
+        QVERIFY(!read.memory);
+    }
+
+    void badLineIsQuoted_data()
+    {
+        addTextRows("line", {"unknown kind", "cpu 5 too-few", "cpu 5 6 7 too-many", "cpu not-a-number 6 7",
+                             "others 4294967296", "net cut-escape% 0 0 0 0 0 0"});
+    }
+
+    void badLineIsQuoted()
+    {
+        QFETCH(QString, line);
+        QString message;
+        try {
+            standin::fromText(line.toStdString());
+        } catch (const std::runtime_error &error) {
+            message = error.what();
+        }
+        QVERIFY2(message.contains('"' + line + '"'), qPrintable(message));
+    }
+
+    void savingReplacesTheFileAtomically()
+    {
+        QTemporaryDir directory;
+        const QString path = directory.filePath("machine");
+        standin::save(fullMachine(), path.toStdString());
+        QFile opened(path);
+        QVERIFY(opened.open(QIODevice::ReadOnly));
+        standin::save({}, path.toStdString());
+        QCOMPARE(opened.readAll().toStdString(), standin::toText(fullMachine()));
+        QCOMPARE(QFileInfo(path).size(), 0);
+        const std::string unwritable = directory.filePath("no/such").toStdString();
+        QVERIFY_EXCEPTION_THROWN(standin::save({}, unwritable), std::runtime_error);
     }
 };
 
