@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/insertionplan.h"
 #include "tests/process/support/synthetic.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 
@@ -34,13 +35,7 @@ class TestInsertionPlan : public QObject
 private Q_SLOTS:
     void theLastCopyOfEachProcessRemains_data()
     {
-        QTest::addColumn<ProcModel::Snapshot>("snapshot");
-        QTest::addColumn<QList<int>>("fresh");
-        QTest::addColumn<QString>("lines");
-        const auto row = [](const char *name, const ProcModel::Snapshot &snapshot, const QList<int> &fresh,
-                            const char *lines) {
-            QTest::newRow(name) << snapshot << fresh << QString::fromLatin1(lines);
-        };
+        const Rows<ProcModel::Snapshot, QList<int>, QString> row("snapshot", "fresh", "lines");
         row("nothing new", makeSnapshot({{1, 0}}), {}, "");
         row("no parent in the snapshot", makeSnapshot({{1, 0}, {7, 5}}), {1, 7}, "1 | 7");
         row("a chain", makeSnapshot({{1, 0}, {2, 1}, {3, 2}}), {1, 2, 3}, "1>2>3");

@@ -2,6 +2,7 @@
 #include "process/processbox.h"
 #include "tests/process/support/synthetic.h"
 #include "tests/support/modal.h"
+#include "tests/support/rows.h"
 
 #include <QLabel>
 #include <QMainWindow>
@@ -10,12 +11,9 @@
 
 namespace {
 
-gtop_wrappers::Process processNamed(const QString &name, int pid = 412)
+gtop_wrappers::Process processNamed(const QString &name = "sleep")
 {
-    Facts facts;
-    facts.pid = pid;
-    facts.name = name;
-    return makeProcess(facts);
+    return makeProcess({412, 0, name});
 }
 
 QMessageBox::StandardButton askAbout(const gtop_wrappers::Process &process)
@@ -27,7 +25,7 @@ QMessageBox::StandardButton askAbout(const gtop_wrappers::Process &process)
 
 /// Runs the question and hands its open box to `look`, which the box outlives; then closes it.
 void lookAtBox(const std::function<void(QMessageBox *)> &look,
-               const gtop_wrappers::Process &process = processNamed(QStringLiteral("sleep")))
+               const gtop_wrappers::Process &process = processNamed())
 {
     const ModalDriver driver([&](QWidget *dialog) {
         look(qobject_cast<QMessageBox *>(dialog));
@@ -62,28 +60,23 @@ class TestProcessBox : public QObject
 private Q_SLOTS:
     void aProcessIsLabelledWithNameAndPid_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("label");
-        QTest::newRow("plain") << "sleep"
-                               << "sleep (412)";
-        QTest::newRow("no name") << ""
-                                 << "412";
-        QTest::newRow("HTML") << "<b>x</b>"
-                              << "<b>x</b> (412)";
-        QTest::newRow("place markers") << "%1 %2 %L1"
-                                       << "%1 %2 %L1 (412)";
-        QTest::newRow("ampersands") << "a&b && c"
-                                    << "a&b && c (412)";
-        QTest::newRow("brackets") << "(sd-pam)"
-                                  << "(sd-pam) (412)";
-        QTest::newRow("other script") << QString::fromUtf8("имя") << QString::fromUtf8("имя (412)");
+        const Rows<QString, QString> row("name", "label");
+        row("plain", "sleep", "sleep (412)");
+        row("no name", "", "412");
+        row("HTML", "<b>x</b>", "<b>x</b> (412)");
+        row("place markers", "%1 %2 %L1", "%1 %2 %L1 (412)");
+        row("ampersands", "a&b && c", "a&b && c (412)");
+        row("brackets", "(sd-pam)", "(sd-pam) (412)");
+        row("other script", "имя", "имя (412)");
+        row("unknown", QString(), "77");
     }
 
     void aProcessIsLabelledWithNameAndPid()
     {
         QFETCH(QString, name);
         QFETCH(QString, label);
-        QCOMPARE(processLabel(processNamed(name)), label);
+        const auto process = name.isNull() ? gtop_wrappers::Process(77) : processNamed(name);
+        QCOMPARE(processLabel(process), label);
         const auto look = [&](QMessageBox *box) {
             QCOMPARE(box->informativeText(), label);
             const QLabel *shown = informativeLabel(box);
@@ -93,25 +86,17 @@ private Q_SLOTS:
             QVERIFY(shown->width() >= shown->fontMetrics().horizontalAdvance(label));
             QCOMPARE(box->text(), QStringLiteral("Are you really?"));
         };
-        lookAtBox(look, processNamed(name));
-    }
-
-    void onlyAPidIsShownOfAnUnknownProcess()
-    {
-        QCOMPARE(processLabel(gtop_wrappers::Process(77)), QStringLiteral("77"));
-        lookAtBox([](QMessageBox *box) { QCOMPARE(box->informativeText(), QStringLiteral("77")); },
-                  gtop_wrappers::Process(77));
+        lookAtBox(look, process);
     }
 
     void theBoxIsThatOfTheStaticFunctions_data()
     {
         using Box = QMessageBox;
-        QTest::addColumn<QMessageBox::Icon>("icon");
-        QTest::addColumn<QMessageBox::StandardButtons>("buttons");
-        QTest::addColumn<QMessageBox::StandardButton>("byDefault");
-        QTest::newRow("question") << Box::Question << (Box::Ok | Box::Cancel) << Box::Cancel;
+        const Rows<QMessageBox::Icon, QMessageBox::StandardButtons, QMessageBox::StandardButton> row(
+            "icon", "buttons", "byDefault");
+        row("question", Box::Question, (Box::Ok | Box::Cancel), Box::Cancel);
         // Without a default the static functions choose OK.
-        QTest::newRow("warning") << Box::Warning << Box::StandardButtons(Box::Ok) << Box::NoButton;
+        row("warning", Box::Warning, Box::StandardButtons(Box::Ok), Box::NoButton);
     }
 
     /// Everything but the informative text.
@@ -147,7 +132,7 @@ private Q_SLOTS:
         const auto expected = icon == QMessageBox::Question
                                   ? QMessageBox::question(nullptr, title, text, buttons, byDefault)
                                   : QMessageBox::warning(nullptr, title, text, buttons, byDefault);
-        QCOMPARE(showProcessBox(icon, title, text, processNamed(QStringLiteral("sleep")), buttons,
+        QCOMPARE(showProcessBox(icon, title, text, processNamed(), buttons,
                                 byDefault == QMessageBox::NoButton ? QMessageBox::Ok : byDefault),
                  expected);
         QCOMPARE(seen.size(), 2);
@@ -156,13 +141,12 @@ private Q_SLOTS:
 
     void theAnswerIsThePressedButton_data()
     {
-        QTest::addColumn<ModalDriver::Handler>("answer");
-        QTest::addColumn<QMessageBox::StandardButton>("button");
-        QTest::newRow("OK") << pressing(QMessageBox::Ok) << QMessageBox::Ok;
-        QTest::newRow("Cancel") << pressing(QMessageBox::Cancel) << QMessageBox::Cancel;
-        QTest::newRow("Escape") << typing(Qt::Key_Escape) << QMessageBox::Cancel;
-        QTest::newRow("Return") << typing(Qt::Key_Return) << QMessageBox::Cancel;
-        QTest::newRow("closed") << closing() << QMessageBox::Cancel;
+        const Rows<ModalDriver::Handler, QMessageBox::StandardButton> row("answer", "button");
+        row("OK", pressing(QMessageBox::Ok), QMessageBox::Ok);
+        row("Cancel", pressing(QMessageBox::Cancel), QMessageBox::Cancel);
+        row("Escape", typing(Qt::Key_Escape), QMessageBox::Cancel);
+        row("Return", typing(Qt::Key_Return), QMessageBox::Cancel);
+        row("closed", closing(), QMessageBox::Cancel);
     }
 
     void theAnswerIsThePressedButton()
@@ -171,7 +155,7 @@ private Q_SLOTS:
         QMainWindow window;
         window.show();
         const ModalDriver driver(answer);
-        QTEST(askAbout(processNamed(QStringLiteral("sleep"))), "button");
+        QTEST(askAbout(processNamed()), "button");
     }
 
     void theProgramCanQuitWhileTheBoxIsOpen()
@@ -180,36 +164,38 @@ private Q_SLOTS:
         window.show();
         const ModalDriver driver([](QWidget *) { QCoreApplication::quit(); });
         QMessageBox::StandardButton answer = QMessageBox::Ok;
-        QTimer::singleShot(0, &window, [&] { answer = askAbout(processNamed(QStringLiteral("sleep"))); });
+        QTimer::singleShot(0, &window, [&] { answer = askAbout(processNamed()); });
         QCOMPARE(QApplication::exec(), 0);
         QCOMPARE(answer, QMessageBox::NoButton);
     }
 
-    void theBoxIsADialogOfTheMainWindowWithoutBeingItsChild()
+    void theBoxIsACentredDialogOfTheMainWindowWithoutBeingItsChild()
     {
         QWidget other;
         other.show();
         QMainWindow window;
+        window.setGeometry(200, 150, 500, 400);
         window.show();
         lookAtBox([&](QMessageBox *box) {
             QVERIFY(!box->parentWidget());
             QVERIFY(!box->parent());
             QCOMPARE(box->windowHandle()->transientParent(), window.windowHandle());
+            const QPoint off = box->geometry().center() - window.geometry().center();
+            QVERIFY2(std::abs(off.x()) <= 10 && std::abs(off.y()) <= 40, "more than a frame off");
         });
     }
 
     void theBoxOpensWhereADialogOfTheMainWindowDoes_data()
     {
-        QTest::addColumn<QRect>("place");
-        QTest::addColumn<Qt::WindowState>("state");
+        const Rows<QRect, Qt::WindowState> row("place", "state");
         const QRect inside(120, 90, 500, 400);
-        QTest::newRow("inside the screen") << inside << Qt::WindowNoState;
-        QTest::newRow("beyond the left and top edges") << QRect(-480, -380, 500, 400) << Qt::WindowNoState;
-        QTest::newRow("beyond the right and bottom edges") << QRect(780, 780, 500, 400) << Qt::WindowNoState;
-        QTest::newRow("smaller than the box") << QRect(300, 300, 90, 60) << Qt::WindowNoState;
-        QTest::newRow("maximized") << inside << Qt::WindowMaximized;
-        QTest::newRow("full screen") << inside << Qt::WindowFullScreen;
-        QTest::newRow("minimized") << inside << Qt::WindowMinimized;
+        row("inside the screen", inside, Qt::WindowNoState);
+        row("beyond the left and top edges", QRect(-480, -380, 500, 400), Qt::WindowNoState);
+        row("beyond the right and bottom edges", QRect(780, 780, 500, 400), Qt::WindowNoState);
+        row("smaller than the box", QRect(300, 300, 90, 60), Qt::WindowNoState);
+        row("maximized", inside, Qt::WindowMaximized);
+        row("full screen", inside, Qt::WindowFullScreen);
+        row("minimized", inside, Qt::WindowMinimized);
     }
 
     void theBoxOpensWhereADialogOfTheMainWindowDoes()
@@ -230,22 +216,11 @@ private Q_SLOTS:
         });
     }
 
-    void theBoxIsCentredOnTheMainWindow()
-    {
-        QMainWindow window;
-        window.setGeometry(200, 150, 500, 400);
-        window.show();
-        lookAtBox([&](QMessageBox *box) {
-            const QPoint off = box->geometry().center() - window.geometry().center();
-            QVERIFY2(std::abs(off.x()) <= 10 && std::abs(off.y()) <= 40, "more than a frame off");
-        });
-    }
-
     void withoutAMainWindowTheBoxOpensAsBefore_data()
     {
-        QTest::addColumn<bool>("hidden");
-        QTest::newRow("there is none") << false;
-        QTest::newRow("it is hidden") << true;
+        const Rows<bool> row("hidden");
+        row("there is none", false);
+        row("it is hidden", true);
     }
 
     void withoutAMainWindowTheBoxOpensAsBefore()
@@ -276,9 +251,9 @@ private Q_SLOTS:
 
     void theBoxSurvivesItsMainWindow_data()
     {
-        QTest::addColumn<bool>("destroyed");
-        QTest::newRow("closed") << false;
-        QTest::newRow("destroyed") << true;
+        const Rows<bool> row("destroyed");
+        row("closed", false);
+        row("destroyed", true);
     }
 
     void theBoxSurvivesItsMainWindow()
@@ -296,7 +271,7 @@ private Q_SLOTS:
             dialog->show();
             pressing(QMessageBox::Ok)(dialog);
         });
-        const QMessageBox::StandardButton answer = askAbout(processNamed(QStringLiteral("sleep")));
+        const QMessageBox::StandardButton answer = askAbout(processNamed());
         QVERIFY(answer == QMessageBox::Ok || answer == QMessageBox::NoButton);
     }
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/process/support/control.h"
 #include "tests/process/support/menus.h"
+#include "tests/support/rows.h"
 
 #include <signal.h>
 
@@ -48,8 +49,7 @@ private Q_SLOTS:
 
     void whatIsNotConfirmedSendsNothing_data()
     {
-        QTest::addColumn<QByteArray>("action");
-        QTest::addColumn<ModalDriver::Handler>("answer");
+        const Rows<QByteArray, ModalDriver::Handler> row("action", "answer");
         for (const char *action : {"Stop process", "Continue process", "Terminate process", "Kill process"}) {
             QTest::addRow("%s, Cancel", action) << QByteArray(action) << pressing(QMessageBox::Cancel);
             QTest::addRow("%s, Escape", action) << QByteArray(action) << typing(Qt::Key_Escape);
@@ -83,9 +83,9 @@ private Q_SLOTS:
 
     void aProcessThatExitedGivesTheErrorBox_data()
     {
-        QTest::addColumn<bool>("duringTheQuestion");
-        QTest::newRow("before the question") << false;
-        QTest::newRow("during the question") << true;
+        const Rows<bool> row("duringTheQuestion");
+        row("before the question", false);
+        row("during the question", true);
     }
 
     void aProcessThatExitedGivesTheErrorBox()
@@ -111,21 +111,18 @@ private Q_SLOTS:
 
     void theErrorBoxNamesTheProcessThatWasAskedAbout_data()
     {
-        QTest::addColumn<Change>("duringTheQuestion");
-        QTest::newRow("listed") << Change([](const Desk &, pid_t) {});
-        QTest::newRow("it has left the list") << Change([](const Desk &desk, pid_t other) {
+        const Rows<Change> row("duringTheQuestion");
+        row("listed", [](const Desk &, pid_t) {});
+        row("it has left the list", [](const Desk &desk, pid_t other) {
             desk.list->refresh(makeSnapshot({{other, 0}}));
         });
-        QTest::newRow("its pid is another process's") << Change([](const Desk &desk, pid_t) {
-            Facts facts;
-            facts.pid = noSuchPid;
-            facts.name = QStringLiteral("another");
-            desk.list->refresh(makeSnapshot(FactsByPid{{noSuchPid, facts}}));
-            desk.list->refresh(makeSnapshot(FactsByPid{{noSuchPid, facts}}));
-            QCOMPARE(desk.list->processByPid(noSuchPid).getName(), facts.name);
+        row("its pid is another process's", [](const Desk &desk, pid_t) {
+            const FactsByPid another = {{noSuchPid, {noSuchPid, 0, "another"}}};
+            desk.list->refresh(makeSnapshot(another));
+            desk.list->refresh(makeSnapshot(another));
+            QCOMPARE(desk.list->processByPid(noSuchPid).getName(), QString("another"));
         });
-        QTest::newRow("another one is selected")
-            << Change([](const Desk &desk, pid_t other) { desk.select(other); });
+        row("another one is selected", [](const Desk &desk, pid_t other) { desk.select(other); });
     }
 
     void theErrorBoxNamesTheProcessThatWasAskedAbout()
@@ -135,42 +132,40 @@ private Q_SLOTS:
         const Desk desk;
         desk.list->refresh(makeSnapshot({{noSuchPid, 0}}));
         desk.actions->setProcess(desk.list->processAt(desk.list->index(0, 0)));
-        QStringList named;
+        SeenBox question;
+        SeenBox error;
         const auto confirm = [&](QWidget *dialog) {
             duringTheQuestion(desk, other.pid());
-            named << qobject_cast<QMessageBox *>(dialog)->informativeText();
-            pressing(QMessageBox::Ok)(dialog);
+            pressing(QMessageBox::Ok, &question)(dialog);
         };
-        const ModalDriver driver({confirm, confirm});
+        const ModalDriver driver({confirm, pressing(QMessageBox::Ok, &error)});
         desk.trigger("Terminate process");
         const QString label = QStringLiteral("p%1 (%1)").arg(noSuchPid);
-        QCOMPARE(named, (QStringList{label, label}));
+        QCOMPARE(question.informativeText, label);
+        QCOMPARE(error.informativeText, label);
     }
 
     void aPidAloneIsNamedAsTheListDoes_data()
     {
-        QTest::addColumn<bool>("listed");
-        QTest::newRow("listed") << true;
-        QTest::newRow("unknown") << false;
+        const Rows<int, QString> row("listedPid", "label");
+        row("listed", noSuchPid, "p2147483632 (2147483632)");
+        row("unknown", 1, "2147483632");
     }
 
     void aPidAloneIsNamedAsTheListDoes()
     {
-        QFETCH(bool, listed);
+        QFETCH(int, listedPid);
+        QFETCH(QString, label);
         const Desk desk;
-        if (listed) {
-            desk.list->refresh(makeSnapshot({{noSuchPid, 0}}));
-        }
-        QStringList named;
-        const auto read = [&](QWidget *dialog) {
-            named << qobject_cast<QMessageBox *>(dialog)->informativeText();
-            dialog->close();
-        };
-        const ModalDriver driver({read, read});
+        desk.list->refresh(makeSnapshot({{listedPid, 0}}));
+        SeenBox signalBox;
+        SeenBox priorityBox;
+        const ModalDriver driver(
+            {pressing(QMessageBox::Ok, &signalBox), pressing(QMessageBox::Ok, &priorityBox)});
         desk.list->sendSignal(noSuchPid, 0);
         desk.list->setPriority(noSuchPid, 1);
-        const QString label = QString::fromLatin1(listed ? "p%1 (%1)" : "%1").arg(noSuchPid);
-        QCOMPARE(named, (QStringList{label, label}));
+        QCOMPARE(signalBox.informativeText, label);
+        QCOMPARE(priorityBox.informativeText, label);
     }
 
     void anotherUsersProcessGivesTheErrorBox()
@@ -194,12 +189,12 @@ private Q_SLOTS:
 
     void noPidOfZeroOrBelowReachesTheKernel_data()
     {
-        QTest::addColumn<int>("pid");
-        QTest::newRow("0, the test's own group") << 0;
-        QTest::newRow("-1, everyone") << -1;
-        QTest::newRow("-5, a group") << -5;
-        QTest::newRow("the test's own group by its number") << -getpgrp();
-        QTest::newRow("the lowest number") << std::numeric_limits<int>::min();
+        const Rows<int> row("pid");
+        row("0, the test's own group", 0);
+        row("-1, everyone", -1);
+        row("-5, a group", -5);
+        row("the test's own group by its number", -getpgrp());
+        row("the lowest number", std::numeric_limits<int>::min());
     }
 
     void noPidOfZeroOrBelowReachesTheKernel()
@@ -244,16 +239,18 @@ private Q_SLOTS:
 
     void theProcessThatWasAskedAboutGetsTheSignal_data()
     {
-        QTest::addColumn<Change>("duringTheQuestion");
-        QTest::newRow("nothing changes") << Change([](const Desk &, pid_t) {});
-        QTest::newRow("another process is selected")
-            << Change([](const Desk &desk, pid_t other) { desk.select(other); });
-        QTest::newRow("the selection is lost")
-            << Change([](const Desk &desk, pid_t) { desk.actions->setProcess(gtop_wrappers::Process(-1)); });
-        QTest::newRow("another process takes its row") << Change([](const Desk &desk, pid_t other) {
+        const Rows<Change, Change> row("beforeTheQuestion", "duringTheQuestion");
+        const Change none = [](const Desk &, pid_t) {};
+        const Change anotherTakesItsRow = [](const Desk &desk, pid_t other) {
             desk.list->refresh(makeSnapshot({{other, 0}}));
-        });
-        QTest::newRow("the list is reset") << Change([](const Desk &desk, pid_t) {
+        };
+        row("nothing changes", none, none);
+        row("another process is selected", none, [](const Desk &desk, pid_t other) { desk.select(other); });
+        row("the selection is lost", none,
+            [](const Desk &desk, pid_t) { desk.actions->setProcess(gtop_wrappers::Process(-1)); });
+        row("another process takes its row", none, anotherTakesItsRow);
+        row("another process has taken its row before", anotherTakesItsRow, none);
+        row("the list is reset", none, [](const Desk &desk, pid_t) {
             desk.list->setFlat(false);
             desk.list->setColumnVisible(2, false);
         });
@@ -261,6 +258,7 @@ private Q_SLOTS:
 
     void theProcessThatWasAskedAboutGetsTheSignal()
     {
+        QFETCH(Change, beforeTheQuestion);
         QFETCH(Change, duringTheQuestion);
         Child before;
         Child asked;
@@ -268,6 +266,7 @@ private Q_SLOTS:
         const Desk desk;
         desk.list->refresh(makeSnapshot({{asked.pid(), 0}}));
         desk.actions->setProcess(desk.list->processAt(desk.list->index(0, 0)));
+        beforeTheQuestion(desk, after.pid());
         const ModalDriver driver([&](QWidget *dialog) {
             duringTheQuestion(desk, after.pid());
             pressing(QMessageBox::Ok)(dialog);
@@ -276,19 +275,6 @@ private Q_SLOTS:
         QCOMPARE(asked.waitForSignal(), SIGKILL);
         QCOMPARE(before.endAndTell(), SIGVTALRM);
         QCOMPARE(after.endAndTell(), SIGVTALRM);
-    }
-
-    void aStaleSelectionGetsTheSignal()
-    {
-        Child chosen;
-        Child shown;
-        const Desk desk;
-        desk.select(chosen.pid());
-        desk.list->refresh(makeSnapshot({{shown.pid(), 0}}));
-        const ModalDriver driver(pressing(QMessageBox::Ok));
-        desk.trigger("Kill process");
-        QCOMPARE(chosen.waitForSignal(), SIGKILL);
-        QCOMPARE(shown.endAndTell(), SIGVTALRM);
     }
 };
 

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/process/support/menus.h"
+#include "tests/support/modal.h"
+#include "tests/support/rows.h"
 
 #include <QActionGroup>
 #include <QtTest>
+
+#include <csignal>
 
 using gtop_wrappers::Process;
 
@@ -28,6 +32,25 @@ bool isEnabledWhenShown(QAction *action)
     return action->isEnabled();
 }
 
+constexpr int noSuchPid = 0x7ffffff0; ///< beyond the kernel's largest
+
+QStringList logged;
+
+void keepLine(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    logged.append(QStringLiteral("%1 %2: %3").arg(type).arg(QLatin1String(context.category), text));
+}
+
+/// The lines that `act` logs, with their type and category.
+QStringList linesOf(const std::function<void()> &act)
+{
+    logged.clear();
+    const QtMessageHandler before = qInstallMessageHandler(keepLine);
+    act();
+    qInstallMessageHandler(before);
+    return logged;
+}
+
 } // namespace
 
 class TestProcessMenu : public QObject
@@ -51,21 +74,18 @@ private Q_SLOTS:
 
     void actionsHaveTheirProperties_data()
     {
-        QTest::addColumn<QString>("shortcut");
-        QTest::addColumn<bool>("checkable");
-        QTest::addColumn<bool>("hasIcon");
-        QTest::addColumn<QVariantList>("data");
-        QTest::newRow("Tree view") << "Ctrl+F" << true << false << QVariantList{3};
-        QTest::newRow("Expand all") << "" << false << false << QVariantList{2, 1};
-        QTest::newRow("Collapse all") << "" << false << false << QVariantList{2, 0};
-        QTest::newRow("All processes") << "Ctrl+A" << true << false << QVariantList{0, 0};
-        QTest::newRow("My processes") << "Ctrl+M" << true << false << QVariantList{0, 1};
-        QTest::newRow("Stop process") << "Ctrl+S" << false << true << QVariantList{1, 19};
-        QTest::newRow("Continue process") << "Ctrl+C" << false << true << QVariantList{1, 18};
-        QTest::newRow("Terminate process") << "Ctrl+T" << false << false << QVariantList{1, 15};
-        QTest::newRow("Kill process") << "Ctrl+K" << false << false << QVariantList{1, 9};
-        QTest::newRow("Change priority...") << "" << false << false << QVariantList{4};
-        QTest::newRow("Find process...") << "" << false << false << QVariantList{5};
+        const Rows<QString, bool, bool, QVariantList> row("shortcut", "checkable", "hasIcon", "data");
+        row("Tree view", "Ctrl+F", true, false, QVariantList{3});
+        row("Expand all", "", false, false, QVariantList{2, 1});
+        row("Collapse all", "", false, false, QVariantList{2, 0});
+        row("All processes", "Ctrl+A", true, false, QVariantList{0, 0});
+        row("My processes", "Ctrl+M", true, false, QVariantList{0, 1});
+        row("Stop process", "Ctrl+S", false, true, QVariantList{1, 19});
+        row("Continue process", "Ctrl+C", false, true, QVariantList{1, 18});
+        row("Terminate process", "Ctrl+T", false, false, QVariantList{1, 15});
+        row("Kill process", "Ctrl+K", false, false, QVariantList{1, 9});
+        row("Change priority...", "", false, false, QVariantList{4});
+        row("Find process...", "", false, false, QVariantList{5});
     }
 
     void actionsHaveTheirProperties()
@@ -158,7 +178,7 @@ private Q_SLOTS:
 
     void onlyAStoppedProcessCanBeContinued_data()
     {
-        QTest::addColumn<int>("state");
+        const Rows<int> row("state");
         for (const int state : {0, 1, 2, 4, 8, stoppedState, 32, 64, 128, -1}) {
             QTest::addRow("state %d", state) << state;
         }
@@ -227,6 +247,124 @@ private Q_SLOTS:
         desk.actions->setActionsEnabled(true);
         QVERIFY(desk.action("Tree view")->isEnabled());
         QVERIFY(desk.action("Kill process")->isEnabled());
+    }
+
+    // What the actions do when they are triggered.
+    void treeViewSwitchesTheMode()
+    {
+        const Desk desk;
+        const QSignalSpy resets(desk.list, SIGNAL(modelReset()));
+        desk.trigger("Tree view");
+        QVERIFY(!desk.list->isFlat());
+        QCOMPARE(resets.count(), 3);
+        desk.trigger("Tree view");
+        QVERIFY(desk.list->isFlat());
+    }
+
+    void allProcessesResetsEvenWhenChecked()
+    {
+        const Desk desk;
+        desk.trigger("All processes");
+        QCOMPARE(desk.list->processTypes(), 0);
+        QVERIFY(desk.action("All processes")->isChecked());
+        const QSignalSpy resets(desk.list, SIGNAL(modelReset()));
+        desk.trigger("All processes");
+        QCOMPARE(desk.list->processTypes(), 0);
+        QCOMPARE(resets.count(), 2);
+    }
+
+    void myProcessesSetsTheTypes()
+    {
+        const Desk desk;
+        desk.list->setProcessTypes(0);
+        desk.trigger("My processes");
+        QCOMPARE(desk.list->processTypes(), 1);
+    }
+
+    void expandAndCollapseReachTheView()
+    {
+        const Desk desk;
+        desk.list->setFlat(false);
+        desk.list->refresh(makeSnapshot({{1, 0}, {2, 1}}));
+        const QModelIndex top = desk.list->index(0, 0);
+        desk.trigger("Collapse all");
+        QVERIFY(!desk.view.isExpanded(top));
+        desk.trigger("Expand all");
+        QVERIFY(desk.view.isExpanded(top));
+    }
+
+    void anUnknownKindDoesNothing()
+    {
+        const Desk desk;
+        const ModalDriver noDialog;
+        const QSignalSpy resets(desk.list, SIGNAL(modelReset()));
+        for (const QVariant &data :
+             {QVariant(QVariantList{5, 1}), QVariant(QVariantList{-1}), QVariant(QVariantList()), QVariant(),
+              QVariant(QStringLiteral("text"))}) {
+            desk.triggerForeign(data);
+        }
+        QCOMPARE(resets.count(), 0);
+        QVERIFY(desk.list->isFlat());
+    }
+
+    void withoutAnActionAsSenderOneCriticalLineIsLogged()
+    {
+        const Desk desk;
+        QObject sender;
+        connect(&sender, SIGNAL(objectNameChanged(QString)), desk.actions, SLOT(process()));
+        const QStringList expected{
+            QStringLiteral("%1 default: void ProcessMenu::process() call not by signal").arg(QtCriticalMsg)};
+        QCOMPARE(linesOf([&] { desk.actions->process(); }), expected);
+        QCOMPARE(linesOf([&] { sender.setObjectName(QStringLiteral("x")); }), expected);
+    }
+
+    void eachSignalAsksItsQuestion_data()
+    {
+        const Rows<int, QString, QString> row("signal", "title", "text");
+        row("Stop process", 19, "Process stopping",
+            "Are you really want to stop process?\n"
+            "You would be able to resume it later.");
+        row("Continue process", 18, "Process resuming", "Are you really want to resume process?");
+        row("Terminate process", 15, "Process terminating",
+            "Are you really want to terminate process?\n"
+            "Process will have ability to finish normally.");
+        row("Kill process", 9, "Process killing",
+            "Are you really want to kill process?\n"
+            "Process will no have ability to finish normally.\n"
+            "All process data can be lost.");
+        for (const int unknown : {1, 0, -1, 64}) {
+            QTest::addRow("signal %d", unknown) << unknown << "Unknown signal"
+                                                << "Unknown signal";
+        }
+    }
+
+    void eachSignalAsksItsQuestion()
+    {
+        QFETCH(int, signal);
+        const Desk desk; // nothing is selected at first: even a wrong answer would reach nobody
+        QList<SeenBox> boxes;
+        const auto cancel = [&](QWidget *dialog) {
+            boxes.append(SeenBox());
+            pressing(QMessageBox::Cancel, &boxes.last())(dialog);
+        };
+        const bool hasAction = desk.action(QTest::currentDataTag()) != nullptr;
+        const ModalDriver driver(std::vector<ModalDriver::Handler>(hasAction ? 3 : 1, cancel));
+        desk.triggerForeign(QVariantList{1, signal});
+        if (hasAction) {
+            desk.trigger(QTest::currentDataTag());
+            desk.actions->setProcess(
+                makeProcess({noSuchPid, 0, "<b>%1</b>", 100, signal == SIGCONT ? stoppedState : 1}));
+            desk.trigger(QTest::currentDataTag());
+            QCOMPARE(boxes.last().informativeText, QString("<b>%1</b> (2147483632)"));
+        }
+        for (const SeenBox &seen : boxes) {
+            QTEST(seen.title, "title");
+            QTEST(seen.text, "text");
+            QCOMPARE(seen.icon, QMessageBox::Question);
+            QCOMPARE(seen.buttons, QMessageBox::Ok | QMessageBox::Cancel);
+            QCOMPARE(seen.defaultButton, QMessageBox::Cancel);
+            QVERIFY(!seen.hasParent);
+        }
     }
 };
 

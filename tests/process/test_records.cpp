@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/record.h"
 
+#include "../support/rows.h"
+
 #include <QtTest>
 
 #include <glibtop.h>
@@ -103,13 +105,13 @@ private Q_SLOTS:
 
     void processThatExitedIsNoRecord_data()
     {
-        QTest::addColumn<unsigned>("failed");
-        QTest::newRow("before the state") << unsigned(ReadState);
-        QTest::newRow("before the user") << unsigned(ReadUid);
-        QTest::newRow("before the times") << unsigned(ReadTime);
-        QTest::newRow("before the memory") << unsigned(ReadMemory);
-        QTest::newRow("before the arguments") << unsigned(ReadArguments);
-        QTest::newRow("before all") << everything;
+        const Rows<unsigned> row("failed");
+        row("before the state", ReadState);
+        row("before the user", ReadUid);
+        row("before the times", ReadTime);
+        row("before the memory", ReadMemory);
+        row("before the arguments", ReadArguments);
+        row("before all", everything);
     }
 
     void processThatExitedIsNoRecord()

@@ -115,21 +115,12 @@ private Q_SLOTS:
     void aKnownUserWithoutAResult_data()
     {
         const Rows<int, QString> row("error", "text");
-        const QString name = QStringLiteral("ann");
-        const QString number = QStringLiteral("1000");
-        row("no such user", 0, number);
-        row("ENOENT", ENOENT, number);
-        row("ESRCH", ESRCH, number);
-        row("EBADF", EBADF, number);
-        row("EPERM", EPERM, number);
-        row("interrupted", EINTR, name);
-        row("input/output error", EIO, name);
-        row("no descriptor left", EMFILE, name);
-        row("too many open files", ENFILE, name);
-        row("no memory", ENOMEM, name);
-        row("try again", EAGAIN, name);
-        row("refused", ECONNREFUSED, name);
-        row("timed out", ETIMEDOUT, name);
+        for (const int noSuchUser : {0, ENOENT, ESRCH, EBADF, EPERM}) {
+            row(strerror(noSuchUser), noSuchUser, "1000");
+        }
+        for (const int failure : {EINTR, EIO, EMFILE, ENFILE, ENOMEM, EAGAIN, ECONNREFUSED, ETIMEDOUT}) {
+            row(strerror(failure), failure, "ann");
+        }
     }
 
     void aKnownUserWithoutAResult()

@@ -3,6 +3,7 @@
 #include "process/gtop_wrappers/starttime.h"
 #include "support.h"
 #include "tests/process/support/control.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -120,8 +121,7 @@ private Q_SLOTS:
 
     void aNewcomerGetsNothing_data()
     {
-        QTest::addColumn<Command>("command");
-        QTest::addColumn<Reuse>("reuse");
+        const Rows<Command, Reuse> row("command", "reuse");
         for (const Command &command : commands) {
             for (const Reuse &reuse : reuses) {
                 QTest::addRow("%s, %s", command.action, reuse.name) << command << reuse;
@@ -158,8 +158,7 @@ private Q_SLOTS:
 
     void aNewcomerOfTheSameSecondGetsNothing_data()
     {
-        QTest::addColumn<Command>("command");
-        QTest::addColumn<bool>("livesAtTheQuestion");
+        const Rows<Command, bool> row("command", "livesAtTheQuestion");
         for (const Command &command : commands) {
             QTest::addRow("%s, while the question is open", command.action) << command << true;
             QTest::addRow("%s, free at the question", command.action) << command << false;
@@ -219,9 +218,9 @@ private:
 
     static void addCommands()
     {
-        QTest::addColumn<Command>("command");
+        const Rows<Command> row("command");
         for (const Command &command : commands) {
-            QTest::newRow(command.action) << command;
+            row(command.action, command);
         }
     }
 
@@ -284,20 +283,15 @@ private:
     {
         const QString label = QStringLiteral("sleep (%1)").arg(chosen->pid());
         SeenBox seen;
-        QString named;
         const auto confirm = [&](QWidget *dialog) {
             change();
             answerTo(command)(dialog);
         };
-        const auto readError = [&](QWidget *dialog) {
-            named = qobject_cast<QMessageBox *>(dialog)->informativeText();
-            pressing(QMessageBox::Ok, &seen)(dialog);
-        };
-        const ModalDriver driver({confirm, readError});
+        const ModalDriver driver({confirm, pressing(QMessageBox::Ok, &seen)});
         action(command)->trigger();
         verifyErrorBox(seen, command.signal != 0 ? "Unable send signal to process. Reason - No such process"
                                                  : "Unable change priority. Reason - No such process");
-        QCOMPARE(named, label);
+        QCOMPARE(seen.informativeText, label);
     }
 
     void verifyNewcomerIsUntouched(const Command &command)

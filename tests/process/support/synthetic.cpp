@@ -9,12 +9,9 @@ using namespace gtop_wrappers;
 
 namespace {
 
-Facts namedFacts(int pid)
+QString nameOf(int pid)
 {
-    Facts facts;
-    facts.pid = pid;
-    facts.name = QStringLiteral("p%1").arg(pid);
-    return facts;
+    return QStringLiteral("p%1").arg(pid);
 }
 
 QString shapeUnder(const ProcModel &model, const QModelIndex &parent)
@@ -81,9 +78,8 @@ ProcModel::Snapshot makeSnapshot(const FactsByPid &facts)
 ProcModel::Snapshot makeSnapshot(std::initializer_list<std::pair<int, int>> pidsAndParents)
 {
     FactsByPid facts;
-    for (const auto &entry : pidsAndParents) {
-        facts[entry.first] = namedFacts(entry.first);
-        facts[entry.first].ppid = entry.second;
+    for (const auto &[pid, parent] : pidsAndParents) {
+        facts[pid] = {pid, parent, nameOf(pid)};
     }
     return makeSnapshot(facts);
 }
@@ -91,9 +87,8 @@ ProcModel::Snapshot makeSnapshot(std::initializer_list<std::pair<int, int>> pids
 ProcModel::Snapshot makeCpuSnapshot(std::initializer_list<std::pair<int, int>> pidsAndCounters)
 {
     FactsByPid facts;
-    for (const auto &entry : pidsAndCounters) {
-        facts[entry.first] = namedFacts(entry.first);
-        facts[entry.first].cpuCounter = entry.second;
+    for (const auto &[pid, counter] : pidsAndCounters) {
+        facts[pid] = {pid, 0, nameOf(pid), counter};
     }
     return makeSnapshot(facts);
 }
