@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "fs/chart.h"
 
 #include <QAccessible>
@@ -93,17 +94,15 @@ class TestChart : public QObject
 private Q_SLOTS:
     void thePieKeepsAMarginAndIsLeftOfTheCentre_data()
     {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<int>("x");
-        QTest::addColumn<int>("diameter");
-        QTest::newRow("240 x 200") << QSize(240, 200) << 30 << 160;
-        QTest::newRow("200 x 240") << QSize(200, 240) << 10 << 160;
-        QTest::newRow("241 x 200, truncated") << QSize(241, 200) << 30 << 160;
-        QTest::newRow("40 x 40") << QSize(40, 40) << 10 << 0;
-        QTest::newRow("39 x 200") << QSize(39, 200) << 10 << -1;
-        QTest::newRow("200 x 39") << QSize(200, 39) << 90 << -1;
-        QTest::newRow("20 x 20") << QSize(20, 20) << 10 << -20;
-        QTest::newRow("nothing") << QSize(0, 0) << 10 << -40;
+        const Rows<QSize, int, int> row("size", "x", "diameter");
+        row("240 x 200", QSize(240, 200), 30, 160);
+        row("200 x 240", QSize(200, 240), 10, 160);
+        row("241 x 200, truncated", QSize(241, 200), 30, 160);
+        row("40 x 40", QSize(40, 40), 10, 0);
+        row("39 x 200", QSize(39, 200), 10, -1);
+        row("200 x 39", QSize(200, 39), 90, -1);
+        row("20 x 20", QSize(20, 20), 10, -20);
+        row("nothing", QSize(0, 0), 10, -40);
     }
 
     void thePieKeepsAMarginAndIsLeftOfTheCentre()
@@ -115,19 +114,17 @@ private Q_SLOTS:
 
     void anglesAreTruncatedSeparately_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("usedSpan");
-        QTest::addColumn<int>("availSpan");
-        QTest::newRow("all available") << 100.0 << 0 << 5760;
-        QTest::newRow("full disk") << 0.0 << 5760 << 0;
-        QTest::newRow("a quarter") << 25.0 << 4320 << 1440;
-        QTest::newRow("one short of the circle") << 33.3 << 3841 << 1918;
-        QTest::newRow("toward zero below zero") << 100.01 << 0 << 5760;
-        QTest::newRow("more than all") << 150.0 << -2880 << 8640;
-        QTest::newRow("less than none") << -50.0 << 8640 << -2880;
-        QTest::newRow("more than an int holds") << 1e300 << lowestInt << highestInt;
-        QTest::newRow("less than an int holds") << -1e300 << highestInt << lowestInt;
-        QTest::newRow("the largest number") << largest << lowestInt << highestInt;
+        const Rows<double, int, int> row("value", "usedSpan", "availSpan");
+        row("all available", 100.0, 0, 5760);
+        row("full disk", 0.0, 5760, 0);
+        row("a quarter", 25.0, 4320, 1440);
+        row("one short of the circle", 33.3, 3841, 1918);
+        row("toward zero below zero", 100.01, 0, 5760);
+        row("more than all", 150.0, -2880, 8640);
+        row("less than none", -50.0, 8640, -2880);
+        row("more than an int holds", 1e300, lowestInt, highestInt);
+        row("less than an int holds", -1e300, highestInt, lowestInt);
+        row("the largest number", largest, lowestInt, highestInt);
     }
 
     void anglesAreTruncatedSeparately()
@@ -147,12 +144,12 @@ private Q_SLOTS:
 
     void noValueShowsTheEmptyCircle_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::newRow("-1") << -1.0;
-        QTest::newRow("not a number") << notANumber;
-        QTest::newRow("negative not a number") << -notANumber;
-        QTest::newRow("infinite") << infinite;
-        QTest::newRow("negative infinite") << -infinite;
+        const Rows<double> row("value");
+        row("-1", -1.0);
+        row("not a number", notANumber);
+        row("negative not a number", -notANumber);
+        row("infinite", infinite);
+        row("negative infinite", -infinite);
     }
 
     void noValueShowsTheEmptyCircle()
@@ -174,28 +171,26 @@ private Q_SLOTS:
 
     void sharesAreDrawnFromThreeOClock_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("usedUpTo"); // degrees
-        QTest::addColumn<QString>("accessibleText");
-        QTest::newRow("full disk") << 0.0 << 360 << "Disk usage: 0% available";
-        QTest::newRow("a quarter available") << 25.0 << 270 << "Disk usage: 25% available";
-        QTest::newRow("half available") << 50.0 << 180 << "Disk usage: 50% available";
-        QTest::newRow("rounded") << 66.6 << 120 << "Disk usage: 67% available";
-        QTest::newRow("all available") << 100.0 << 0 << "Disk usage: 100% available";
-        QTest::newRow("less than none") << -1.5 << 360 << "Disk usage: -2% available";
-        QTest::newRow("nearly no value") << std::nextafter(-1.0, 0.0) << 360 << "Disk usage: -1% available";
+        const Rows<double, int, QString> row("value", "usedUpToDegrees", "accessibleText");
+        row("full disk", 0.0, 360, "Disk usage: 0% available");
+        row("a quarter available", 25.0, 270, "Disk usage: 25% available");
+        row("half available", 50.0, 180, "Disk usage: 50% available");
+        row("rounded", 66.6, 120, "Disk usage: 67% available");
+        row("all available", 100.0, 0, "Disk usage: 100% available");
+        row("less than none", -1.5, 360, "Disk usage: -2% available");
+        row("nearly no value", std::nextafter(-1.0, 0.0), 360, "Disk usage: -1% available");
     }
 
     void sharesAreDrawnFromThreeOClock()
     {
         QFETCH(double, value);
-        QFETCH(int, usedUpTo);
+        QFETCH(int, usedUpToDegrees);
         Chart chart;
         QCOMPARE(accessibleTextOf(chart), QString("Disk usage: No file system selected"));
         chart.setValue(value);
         const QImage image = pictureOf(chart);
         for (int degrees = 15; degrees < 360; degrees += 20) {
-            QCOMPARE(colorAt(image, degrees), degrees < usedUpTo ? red : blue);
+            QCOMPARE(colorAt(image, degrees), degrees < usedUpToDegrees ? red : blue);
         }
         QVERIFY(outlineFillsTheSquare(image));
         QTEST(accessibleTextOf(chart), "accessibleText");

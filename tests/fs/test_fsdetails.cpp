@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "fs/fsdetails.h"
 
 #include "mounts.h"
@@ -30,11 +31,8 @@ class TestFsDetails : public QObject
 private Q_SLOTS:
     void detailsComeFromTheRecord_data()
     {
-        QTest::addColumn<FSInfo>("info");
-        QTest::addColumn<double>("percentAvailable");
-        QTest::addColumn<QString>("texts"); // device, type; total, used and available size
-        const auto row = [](const char *name, const FSInfo &info, double percentAvailable,
-                            const char *texts) { QTest::newRow(name) << info << percentAvailable << texts; };
+        // The texts: device, type; total, used and available size.
+        const Rows<FSInfo, double, QString> row("info", "percentAvailable", "texts");
         row("names", mount("/dev/sda1", "/home"), 30.0, "/dev/sda1, ext4; 3.91 MB, 2.73 MB, 1.17 MB");
         row("the reserve counts as used", blocks(1024, 1000, 256, 1024), 25.0,
             ", ; 1.00 MB, 768.00 KB, 256.00 KB");

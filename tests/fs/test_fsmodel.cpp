@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "mounts.h"
 
 #include "../support/brackettranslator.h"
@@ -53,14 +54,12 @@ private Q_SLOTS:
 
     void wrappedCountsMakeHugeSizeTexts_data()
     {
-        QTest::addColumn<int>("count");
-        QTest::addColumn<int>("blockSize");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("-1 of 1 byte") << -1 << 1 << "17179869184.00 GB";
-        QTest::newRow("-2^31 of 4096 bytes") << int{lowest} << 4096 << "17179860992.00 GB";
-        QTest::newRow("-1 of -1 byte") << -1 << -1 << "1.00 B";
-        QTest::newRow("-2^31 of -2^31 bytes") << int{lowest} << int{lowest} << "4294967296.00 GB";
-        QTest::newRow("none") << 0 << 4096 << "0.00 B";
+        const Rows<int, int, QString> row("count", "blockSize", "text");
+        row("-1 of 1 byte", -1, 1, "17179869184.00 GB");
+        row("-2^31 of 4096 bytes", int{lowest}, 4096, "17179860992.00 GB");
+        row("-1 of -1 byte", -1, -1, "1.00 B");
+        row("-2^31 of -2^31 bytes", int{lowest}, int{lowest}, "4294967296.00 GB");
+        row("none", 0, 4096, "0.00 B");
     }
 
     void wrappedCountsMakeHugeSizeTexts()
@@ -77,33 +76,31 @@ private Q_SLOTS:
         }
     }
 
-    void aNewModelIsEmpty()
+    void aNewModelIsEmptyAndRowsHaveTwoColumnsAndNoChildren()
     {
-        const FSModel model;
+        FSModel model;
         QCOMPARE(model.rowCount(), 0);
         QCOMPARE(model.columnCount(), 2);
         QCOMPARE(model.availableDevSpace(), qint64{0});
         QCOMPARE(model.totalDevSpace(), qint64{0});
         QVERIFY(!model.firstIndex().isValid());
-    }
-
-    void rowsHaveTwoColumnsAndNoChildren()
-    {
-        FSModel model;
         model.update(mounts("ab"));
         QCOMPARE(model.rowCount(), 2);
         QCOMPARE(model.rowCount(model.index(0, 0)), 0);
         QCOMPARE(model.columnCount(), 2);
         QCOMPARE(model.columnCount(model.index(0, 0)), 2);
         QVERIFY(!model.index(0, 2).isValid());
+        const QModelIndex first = model.firstIndex();
+        QCOMPARE(first.row(), 0);
+        QCOMPARE(first.column(), 0);
+        QVERIFY(first.internalPointer());
+        QVERIFY(first.model() == &model);
+        QCOMPARE(first.data().toString(), QStringLiteral("/a"));
     }
 
     void dataGivesCellTextsAndTheMountPoint_data()
     {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<int>("role");
-        QTest::addColumn<QVariant>("data");
+        const Rows<int, int, int, QVariant> row("row", "column", "role", "data");
         const QVariantList cells = {"/b", "ext4", "/dev/b", "3.91 MB", "1.56 MB", "1.17 MB", 50, QVariant()};
         for (int column = 0; column < 8; ++column) {
             QTest::addRow("text of column %d", column)
@@ -114,7 +111,7 @@ private Q_SLOTS:
         for (int role : {int{Qt::EditRole}, int{Qt::ToolTipRole}, int{Qt::FontRole}, Qt::UserRole + 1, -1}) {
             QTest::addRow("role %d", role) << 1 << 0 << role << QVariant();
         }
-        QTest::newRow("icon of column 1") << 1 << 1 << int{Qt::DecorationRole} << QVariant();
+        row("icon of column 1", 1, 1, int{Qt::DecorationRole}, QVariant());
         for (int role : {int{Qt::DisplayRole}, int{Qt::DecorationRole}, int{Qt::UserRole}}) {
             QTest::addRow("invalid index, role %d", role) << -1 << -1 << role << QVariant();
             QTest::addRow("negative row, role %d", role) << -1 << 0 << role << QVariant();
@@ -159,24 +156,18 @@ private Q_SLOTS:
         }
     }
 
-    void itemsAreFoundByMountPoint()
+    void itemsAreFoundByMountPointTheFirstOfTwo()
     {
         FSModel model;
-        model.update(mounts("abc"));
+        model.update(mounts("abu>mo>m"));
+        QCOMPARE(model.rowCount(), 4);
         QCOMPARE(model.itemByMountDir(QStringLiteral("/b")).device, QStringLiteral("/dev/b"));
+        QCOMPARE(model.itemByMountDir(QStringLiteral("/m")).device, QStringLiteral("/dev/u"));
         for (const char *unknown : {"/B", "/", "", "/dev/b"}) {
             const FSInfo none = model.itemByMountDir(QLatin1String(unknown));
             QCOMPARE(namesOf(none), QString(", , "));
             QCOMPARE(countsOf(none), QVector<qint32>(5, 0));
         }
-    }
-
-    void theFirstOfTwoRowsOnOneMountPointIsFound()
-    {
-        FSModel model;
-        model.update(mounts("u>mo>m"));
-        QCOMPARE(model.rowCount(), 2);
-        QCOMPARE(model.itemByMountDir("/m").device, QString("/dev/u"));
     }
 
     void spaceIsSummedOverDevicesOnly()
@@ -203,18 +194,6 @@ private Q_SLOTS:
         }
         model.update(list);
         QCOMPARE(model.totalDevSpace(), std::numeric_limits<qint64>::min() + (qint64{1} << 62));
-    }
-
-    void firstIndexNamesTheFirstRow()
-    {
-        FSModel model;
-        model.update(mounts("ab"));
-        const QModelIndex first = model.firstIndex();
-        QCOMPARE(first.row(), 0);
-        QCOMPARE(first.column(), 0);
-        QVERIFY(first.internalPointer());
-        QVERIFY(first.model() == &model);
-        QCOMPARE(first.data().toString(), QStringLiteral("/a"));
     }
 
     void noSignalsSlotsOrPropertiesOfItsOwn()

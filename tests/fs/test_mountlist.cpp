@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "fs/mountlist.h"
 
 #include "mounts.h"
@@ -35,13 +36,7 @@ class TestMountList : public QObject
 private Q_SLOTS:
     void entriesAreConverted_data()
     {
-        QTest::addColumn<MountEntry>("entry");
-        QTest::addColumn<QString>("names");
-        QTest::addColumn<QVector<qint32>>("counts");
-        const auto row = [](const char *title, const MountEntry &entry, const QString &names,
-                            const QVector<qint32> &counts) {
-            QTest::newRow(title) << entry << names << counts;
-        };
+        const Rows<MountEntry, QString, QVector<qint32>> row("entry", "names", "counts");
         row("all fields", {"/dev/sdb2", "/srv/d\xc3\xa4ta", "xfs", 11, 12, 13, 14, 15},
             QStringLiteral("/dev/sdb2, /srv/d\u00e4ta, xfs"), {11, 12, 13, 14, 15});
         row("the low 32 bits of the counts are read as signed",
@@ -66,12 +61,7 @@ private Q_SLOTS:
 
     void theStoredBlockCountAndTheExactTypeDecide_data()
     {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<qulonglong>("blocks");
-        QTest::addColumn<bool>("kept");
-        const auto row = [](const char *title, const char *type, qulonglong blocks, bool kept) {
-            QTest::newRow(title) << QByteArray(type) << blocks << kept;
-        };
+        const Rows<QByteArray, qulonglong, bool> row("type", "blocks", "kept");
         row("an ordinary disk", "ext4", 1000, true);
         row("one block", "ext4", 1, true);
         row("no blocks", "proc", 0, false);

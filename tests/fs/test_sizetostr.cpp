@@ -2,6 +2,7 @@
 #include "fs/sizetostr.h"
 
 #include "../support/brackettranslator.h"
+#include "../support/rows.h"
 
 #include <QLocale>
 #include <QtTest>
@@ -27,11 +28,8 @@ class TestSizeToStr : public QObject
 private Q_SLOTS:
     void unsignedCountsAreShownInUnitsUpToGigabytes_data()
     {
-        QTest::addColumn<qulonglong>("bytes");
-        QTest::addColumn<QString>("text");
-        const auto row = [](qulonglong bytes, const char *text) {
-            QTest::newRow(text) << bytes << QString::fromLatin1(text);
-        };
+        const Rows<qulonglong, QString> rows("bytes", "text");
+        const auto row = [&](qulonglong bytes, const char *text) { rows(text, bytes, text); };
         row(0, "0.00 B");
         row(512, "512.00 B");
         row(1023, "1023.00 B");
@@ -56,11 +54,8 @@ private Q_SLOTS:
 
     void doublesAreShownInTheSameUnitsAndOnlyTheUnitIsTranslated_data()
     {
-        QTest::addColumn<double>("bytes");
-        QTest::addColumn<QString>("text");
-        const auto row = [](double bytes, const char *text) {
-            QTest::newRow(text) << bytes << QString::fromLatin1(text);
-        };
+        const Rows<double, QString> rows("bytes", "text");
+        const auto row = [&](double bytes, const char *text) { rows(text, bytes, text); };
         row(0.0, "0.00 B");
         row(0.5, "0.50 B");
         row(1.25, "1.25 B");

@@ -77,14 +77,8 @@ private Q_SLOTS:
 
     void deltasAreSinceThePreviousSample_data()
     {
-        QTest::addColumn<Samples>("samples");
-        QTest::addColumn<Counters>("sums"); // one per sample
-        QTest::addColumn<QVector<Counters>>("records");
-
-        const auto row = [](const char *name, const Samples &samples, const Counters &sums,
-                            const QVector<Counters> &records) {
-            QTest::newRow(name) << samples << sums << records;
-        };
+        const Rows<Samples, Counters, QVector<Counters>> row("samples", "sums",
+                                                             "records"); // a sum per sample
         row("first sample: since zero", {{{1000, 3000}, {50, 60}}}, {3060},
             {{1000, 3000, 1000, 3000}, {50, 60, 50, 60}});
         row("second sample", {{{1000, 3000}, {50, 60}}, {{1010, 3040}, {50, 61}}}, {3060, 41},

@@ -131,14 +131,8 @@ private Q_SLOTS:
 
     void barAndSignalNeedAValueInsideTheRange_data()
     {
-        QTest::addColumn<QVector<double>>("valueMaxMinValue"); // in the order in which they are set
-        QTest::addColumn<QColor>("color");
-        QTest::addColumn<int>("signalCount");
-
-        const auto row = [](const char *name, const QVector<double> &valueMaxMinValue, const QColor &color,
-                            int signalCount) {
-            QTest::newRow(name) << valueMaxMinValue << color << signalCount;
-        };
+        // The numbers in the order in which they are set.
+        const Rows<QVector<double>, QColor, int> row("valueMaxMinValue", "color", "signalCount");
         row("value inside the range", {50, 100, 0}, bar, 1);
         row("value below a raised minimum", {40, 100, 50}, trough, 0);
         row("value below a raised minimum, set again", {40, 100, 50, 75}, bar, 1);

@@ -70,9 +70,7 @@ private Q_SLOTS:
 
     void descriptionAndModelAreFound_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("isCpuModel");
-        QTest::addColumn<QString>("found");
+        const Rows<QByteArray, bool, QString> row("content", "isCpuModel", "found");
 
         const auto os = [](const char *name, const QByteArray &content, const QString &found) {
             QTest::addRow("description: %s", name) << content << false << found;
@@ -148,13 +146,13 @@ private Q_SLOTS:
 
     void onlyTheFallbackOfTheDescriptionIsTranslated_data()
     {
-        QTest::addColumn<QString>("path");
+        const Rows<QString> row("path");
         const QString pipe = directory.filePath("pipe");
         QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-        QTest::newRow("missing file") << directory.filePath("missing");
-        QTest::newRow("pipe, which would block") << pipe;
-        QTest::newRow("directory") << directory.path();
-        QTest::newRow("no path") << QString();
+        row("missing file", directory.filePath("missing"));
+        row("pipe, which would block", pipe);
+        row("directory", directory.path());
+        row("no path", QString());
     }
 
     void onlyTheFallbackOfTheDescriptionIsTranslated()

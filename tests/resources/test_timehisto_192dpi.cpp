@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "resources/timehisto.h"
+#include "histopicture.h"
 
 #include "integration/dpi.h"
-#include "resources/histogeometry.h"
-
-#include <QApplication>
-#include <QImage>
-#include <QtTest>
 
 namespace {
 
@@ -28,15 +23,9 @@ QRect inkIn(const QImage &image, const QRect &part)
 QImage busyGraph()
 {
     TimeHisto histo(nullptr, 5);
-    histo.resize(640, 400);
-    for (int i = 0; i < 100; ++i) {
-        histo.addValueIn(1023U << 20);
-        histo.addValueOut(0);
-    }
-    QImage image(histo.size(), QImage::Format_RGB32);
-    histo.render(&image);
-    histo.render(&image); // the amounts lag one paint behind
-    return image;
+    histopicture::add(histo, 1023U << 20, 0, 100);
+    histopicture::paint(histo);
+    return histopicture::paint(histo); // the amounts lag one paint behind
 }
 
 } // namespace

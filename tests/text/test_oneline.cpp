@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "text/oneline.h"
 
 #include <QtTest>
@@ -10,11 +11,7 @@ class TestOneLine : public QObject
 private Q_SLOTS:
     void isHarmless_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("text");
-        const auto row = [](const char *name, const QByteArray &bytes, const QString &text) {
-            QTest::newRow(name) << bytes << text;
-        };
+        const Rows<QByteArray, QString> row("bytes", "text");
         row("empty", QByteArray(), QString());
         row("plain", "bash", "bash");
         row("UTF-8", "gr\u00fc\u00df", "gr\u00fc\u00df");
@@ -58,15 +55,13 @@ private Q_SLOTS:
 
     void isBounded_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("length");
-        QTest::addColumn<bool>("truncated");
-        QTest::newRow("at the limit") << QByteArray(longestText, 'x') << longestText << false;
-        QTest::newRow("one more") << QByteArray(longestText + 1, 'x') << longestText << true;
-        QTest::newRow("100 KB") << QByteArray(100 * 1024, 'x') << longestText << true;
-        QTest::newRow("100 KB of nothing") << QByteArray(100 * 1024, '\0') << 0 << false;
-        QTest::newRow("never within a pair")
-            << QByteArray("\xf0\x9f\x90\xa7").repeated(longestText) << longestText - 1 << true;
+        const Rows<QByteArray, int, bool> row("bytes", "length", "truncated");
+        row("at the limit", QByteArray(longestText, 'x'), longestText, false);
+        row("one more", QByteArray(longestText + 1, 'x'), longestText, true);
+        row("100 KB", QByteArray(100 * 1024, 'x'), longestText, true);
+        row("100 KB of nothing", QByteArray(100 * 1024, '\0'), 0, false);
+        row("never within a pair", QByteArray("\xf0\x9f\x90\xa7").repeated(longestText), longestText - 1,
+            true);
     }
 
     void isBounded()
