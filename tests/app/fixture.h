@@ -72,7 +72,7 @@ protected:
     static QTreeView *view() { return Fixture::find<QTreeView>("treeView"); }
     static ProxyProcModel *list() { return Fixture::processes(); }
     static standin::Process &made(int pid) { return standin::machine().processes->at(pid); }
-    /// Selects the row of a process, which must have one.
+    /// Selects the row of a process, which must have one; -1: none.
     static void select(int pid);
     /// The row of that process, and no other, is selected and the current one; -1: none is selected.
     static void verifySelected(int pid);

@@ -43,14 +43,11 @@ private Q_SLOTS:
 
     void loadsAndModelsAreLabelledByTheirCore_data()
     {
-        QTest::addColumn<QString>("grid");
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QString>("caption");
-        QTest::newRow("load of the first core") << "glState" << 3 << 2 << "CPU core 1 load";
-        QTest::newRow("load of the second core") << "glState" << 4 << 2 << "CPU core 2 load";
-        QTest::newRow("model of the first core") << "glGeneral" << 7 << 3 << "CPU 1";
-        QTest::newRow("model of the second core") << "glGeneral" << 8 << 3 << "CPU 2";
+        const Rows<QString, int, int, QString> row("grid", "row", "column", "caption");
+        row("load of the first core", "glState", 3, 2, "CPU core 1 load");
+        row("load of the second core", "glState", 4, 2, "CPU core 2 load");
+        row("model of the first core", "glGeneral", 7, 3, "CPU 1");
+        row("model of the second core", "glGeneral", 8, 3, "CPU 2");
     }
 
     void loadsAndModelsAreLabelledByTheirCore()

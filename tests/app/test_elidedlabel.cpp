@@ -79,10 +79,9 @@ private Q_SLOTS:
         }
     }
 
-    void aFittingTextIsPaintedAsALabelPaintsIt_data()
+    void whatIsShownIsPaintedAsALabelPaintsIt_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<Change>("change");
+        const Rows<QString, Change> row("text", "change");
         const QPair<const char *, Change> changes[] = {
             {"plain", [](QLabel &) {}},
             {"disabled", [](QLabel &label) { label.setEnabled(false); }},
@@ -115,7 +114,7 @@ private Q_SLOTS:
         }
     }
 
-    void aFittingTextIsPaintedAsALabelPaintsIt()
+    void whatIsShownIsPaintedAsALabelPaintsIt()
     {
         QFETCH(QString, text);
         QFETCH(Change, change);
@@ -130,33 +129,17 @@ private Q_SLOTS:
             }
             QCOMPARE(picture(*label), picture(*whole));
         }
-    }
-
-    void anElidedTextIsPaintedAsALabelPaintsTheElidedOne_data()
-    {
-        aFittingTextIsPaintedAsALabelPaintsIt_data();
-    }
-
-    void anElidedTextIsPaintedAsALabelPaintsTheElidedOne()
-    {
-        QFETCH(QString, text);
-        QFETCH(Change, change);
         if (text.isEmpty()) {
             return;
         }
         for (const Qt::TextElideMode mode : {Qt::ElideMiddle, Qt::ElideRight}) {
-            ElidedLabel label;
-            QLabel elided;
-            elided.setTextFormat(Qt::PlainText);
-            change(label);
-            change(elided);
-            label.setElideMode(mode);
-            label.setText(text);
-            label.resize(fullWidth(label) * 2 / 3, 30);
-            elided.setText(label.fontMetrics().elidedText(text, mode, label.width()));
-            elided.resize(label.size());
-            QVERIFY(elided.text() != text);
-            QCOMPARE(picture(label), picture(elided));
+            label->setElideMode(mode);
+            label->resize(fullWidth(*label) * 2 / 3, 30);
+            const QString elided = label->fontMetrics().elidedText(text, mode, label->width());
+            QVERIFY(elided != text);
+            whole->setText(elided);
+            whole->resize(label->size());
+            QCOMPARE(picture(*label), picture(*whole));
         }
     }
 
@@ -283,9 +266,9 @@ private:
     }
     static void addTexts()
     {
-        QTest::addColumn<QString>("text");
+        const Rows<QString> row("text");
         for (const auto &text : texts()) {
-            QTest::newRow(text.first) << text.second;
+            row(text.first, text.second);
         }
     }
 };

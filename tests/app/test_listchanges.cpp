@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Changes of the process list by the user: types, mode and columns.
+#include "../support/rows.h"
 #include "fixture.h"
 
 #include "process/gtop_wrappers/filler.h"
@@ -75,11 +76,11 @@ private Q_SLOTS:
 
     void theActionsOfTheMenusCompleteTheList_data()
     {
-        QTest::addColumn<QString>("action");
-        QTest::newRow("mode") << QStringLiteral("Tree view");
-        QTest::newRow("types") << QStringLiteral("All processes");
-        QTest::newRow("types that are chosen already") << QStringLiteral("My processes");
-        QTest::newRow("column") << QString();
+        const Rows<QString> row("action");
+        row("mode", QStringLiteral("Tree view"));
+        row("types", QStringLiteral("All processes"));
+        row("types that are chosen already", QStringLiteral("My processes"));
+        row("column", QString());
     }
 
     void theActionsOfTheMenusCompleteTheList()
@@ -156,6 +157,9 @@ private Q_SLOTS:
     {
         QFETCH(Change, change);
         startOnProcesses();
+        change(); // without a selection nothing is selected
+        verifySelected(-1);
+        QVERIFY(!view()->currentIndex().isValid());
         for (int round = 0; round < 4; ++round) {
             for (const int pid : {100, 300}) {
                 select(pid);
@@ -196,17 +200,6 @@ private Q_SLOTS:
         verifySelected(-1);
     }
 
-    void withoutASelectionNothingIsSelected_data() { changes(); }
-
-    void withoutASelectionNothingIsSelected()
-    {
-        QFETCH(Change, change);
-        startOnProcesses();
-        change();
-        verifySelected(-1);
-        QVERIFY(!view()->currentIndex().isValid());
-    }
-
     void theCurrentCellStaysInItsColumn()
     {
         startOnProcesses();
@@ -238,17 +231,7 @@ private Q_SLOTS:
         }
     }
 
-    void theSelectedRowStaysInView()
-    {
-        startWithMany();
-        select(1003);
-        QCOMPARE(view()->verticalScrollBar()->value(), 0);
-        list()->setProcessTypes(AllProcesses); // inserts many before it
-        verifySelected(1003);
-        QVERIFY(view()->viewport()->rect().contains(view()->visualRect(list()->rowOfPid(1003))));
-    }
-
-    void aSelectedRowOutOfViewIsNotScrolledTo()
+    void aSelectedRowStaysInViewAndOneOutOfViewIsNotScrolledTo()
     {
         startWithMany();
         select(1290);
@@ -256,6 +239,12 @@ private Q_SLOTS:
         list()->setFlat(false);
         verifySelected(1290);
         QCOMPARE(view()->verticalScrollBar()->value(), 0);
+
+        select(1003);
+        QCOMPARE(view()->verticalScrollBar()->value(), 0);
+        list()->setProcessTypes(AllProcesses); // inserts many before it
+        verifySelected(1003);
+        QVERIFY(view()->viewport()->rect().contains(view()->visualRect(list()->rowOfPid(1003))));
     }
 
     void aWideListStaysWhereItWasScrolledTo()
@@ -311,11 +300,7 @@ private:
     /// Changes that keep the rows, each made of so many actions.
     static void changes()
     {
-        QTest::addColumn<Change>("change");
-        QTest::addColumn<unsigned>("actions");
-        const auto row = [](const char *name, unsigned actions, const Change &change) {
-            QTest::newRow(name) << change << actions;
-        };
+        const Rows<unsigned, Change> row("actions", "change");
         row("types", 1, [] { list()->setProcessTypes(list()->processTypes()); });
         row("mode", 1, [] { list()->setFlat(!list()->isFlat()); });
         row("column", 1, [] { toggle(CpuColumn); });

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Which process is selected: over the refreshes of a tree, and when the context menu opens.
 #include "fixture.h"
+#include "tests/support/rows.h"
 
 #include "process/proxyprocmodel.h"
 #include "tests/support/modal.h"
@@ -15,9 +16,9 @@ class TestListMenu : public ControllerTest
 private Q_SLOTS:
     void aSelectedProcessThatForksStaysSelected_data()
     {
-        QTest::addColumn<int>("selected");
-        QTest::newRow("a leaf") << 300;
-        QTest::newRow("a parent") << 100;
+        const Rows<int> row("selected");
+        row("a leaf", 300);
+        row("a parent", 100);
     }
 
     void aSelectedProcessThatForksStaysSelected()
@@ -65,12 +66,11 @@ private Q_SLOTS:
 
     void aSelectionWithoutARowComesBackWithTheRow_data()
     {
-        QTest::addColumn<bool>("flat");
-        QTest::addColumn<bool>("execs");
-        QTest::newRow("reparented in the list") << true << false;
-        QTest::newRow("reparented in the tree") << false << false;
-        QTest::newRow("exec in the list") << true << true;
-        QTest::newRow("exec in the tree") << false << true;
+        const Rows<bool, bool> row("flat", "execs");
+        row("reparented in the list", true, false);
+        row("reparented in the tree", false, false);
+        row("exec in the list", true, true);
+        row("exec in the tree", false, true);
     }
 
     void aSelectionWithoutARowComesBackWithTheRow()
@@ -96,42 +96,37 @@ private Q_SLOTS:
         }
     }
 
-    void aSelectionWithoutARowGivesWay_data()
+    void aSelectionWithoutARowGivesWayToAnotherOneAndToTheContextMenu()
     {
-        QTest::addColumn<bool>("byMenu");
-        QTest::newRow("to another one") << false;
-        QTest::newRow("to the context menu") << true;
-    }
-
-    void aSelectionWithoutARowGivesWay()
-    {
-        QFETCH(bool, byMenu);
         startWithTree();
         list()->setFlat(true);
-        select(400);
-        made(400).name = "exec";
+        const auto loseRow = [this](const char *name) {
+            select(400);
+            made(400).name = name;
+            fixture->refresh(1);
+            verifySelected(-1);
+        };
+        loseRow("exec");
+        select(200);
+        fixture->refresh(1);
+        verifySelected(200);
+
+        loseRow("exec again");
+        askForMenu(QContextMenuEvent::Mouse, view()->viewport(), [this](QMenu *) {
+            fixture->refresh(1);
+            QVERIFY(!killAction()->isVisible());
+        });
         fixture->refresh(1);
         verifySelected(-1);
-        if (byMenu) {
-            askForMenu(QContextMenuEvent::Mouse, view()->viewport(), [this](QMenu *) {
-                fixture->refresh(1);
-                QVERIFY(!killAction()->isVisible());
-            });
-        } else {
-            select(200);
-        }
-        fixture->refresh(1);
-        verifySelected(byMenu ? -1 : 200);
     }
 
     void theSelectionEndsWithTheProcess_data()
     {
-        QTest::addColumn<bool>("flat");
-        QTest::addColumn<bool>("reused");
-        QTest::newRow("gone from the list") << true << false;
-        QTest::newRow("pid reused in the list") << true << true;
-        QTest::newRow("gone from the tree") << false << false;
-        QTest::newRow("pid reused in the tree") << false << true;
+        const Rows<bool, bool> row("flat", "reused");
+        row("gone from the list", true, false);
+        row("pid reused in the list", true, true);
+        row("gone from the tree", false, false);
+        row("pid reused in the tree", false, true);
     }
 
     void theSelectionEndsWithTheProcess()
@@ -168,14 +163,12 @@ private Q_SLOTS:
 
     void pressesClearTheSelectionOnlyOnEmptySpaceByTheRightButton_data()
     {
-        QTest::addColumn<int>("button");
-        QTest::addColumn<bool>("onRow");
-        QTest::addColumn<int>("selected");
-        QTest::newRow("right, empty space") << int(Qt::RightButton) << false << -1;
-        QTest::newRow("right, another row") << int(Qt::RightButton) << true << 400;
-        QTest::newRow("left, empty space") << int(Qt::LeftButton) << false << 300;
-        QTest::newRow("left, another row") << int(Qt::LeftButton) << true << 400;
-        QTest::newRow("middle, empty space") << int(Qt::MiddleButton) << false << 300;
+        const Rows<int, bool, int> row("button", "onRow", "selected");
+        row("right, empty space", int(Qt::RightButton), false, -1);
+        row("right, another row", int(Qt::RightButton), true, 400);
+        row("left, empty space", int(Qt::LeftButton), false, 300);
+        row("left, another row", int(Qt::LeftButton), true, 400);
+        row("middle, empty space", int(Qt::MiddleButton), false, 300);
     }
 
     void pressesClearTheSelectionOnlyOnEmptySpaceByTheRightButton()
@@ -196,32 +189,30 @@ private Q_SLOTS:
         startWithTree();
         select(300);
         QTest::mousePress(view()->viewport(), Qt::RightButton, Qt::NoModifier, emptySpace());
-        QMenu *open = nullptr;
-        askForMenu(QContextMenuEvent::Mouse, view()->viewport(), [&](QMenu *menu) {
-            open = menu;
+        askForMenu(QContextMenuEvent::Mouse, view()->viewport(), [](QMenu *menu) {
             for (const QAction *action : menu->actions()) {
                 QVERIFY2(!action->isVisible() || action->text() != QStringLiteral("Kill process"), "offered");
             }
         });
-        QVERIFY(open);
     }
 
-    void theMenuOpensAtTheMouse()
+    void theMenuOpensAtTheMouseAlsoByItsKeyWithoutASelection()
     {
         startWithTree();
-        select(300);
         QCursor::setPos(view()->viewport()->mapToGlobal(QPoint(90, 40)));
-        askForMenu(QContextMenuEvent::Mouse, view()->viewport(),
-                   [](QMenu *menu) { QCOMPARE(menu->pos(), QCursor::pos()); });
+        const auto isAtTheMouse = [](QMenu *menu) { QCOMPARE(menu->pos(), QCursor::pos()); };
+        askForMenu(QContextMenuEvent::Keyboard, view(), isAtTheMouse);
+        select(300);
+        askForMenu(QContextMenuEvent::Mouse, view()->viewport(), isAtTheMouse);
         verifySelected(300);
     }
 
     void theMenuKeyOpensAtTheSelectedRow_data()
     {
-        QTest::addColumn<int>("selected");
-        QTest::newRow("selected") << 300;
-        QTest::newRow("scrolled out of view") << 1150;
-        QTest::newRow("collapsed") << 600;
+        const Rows<int> row("selected");
+        row("selected", 300);
+        row("scrolled out of view", 1150);
+        row("collapsed", 600);
     }
 
     void theMenuKeyOpensAtTheSelectedRow()
@@ -255,19 +246,11 @@ private Q_SLOTS:
                    [](QMenu *menu) { QCOMPARE(menu->pos(), QCursor::pos()); });
     }
 
-    void theMenuKeyWithoutASelectionOpensAtTheMouse()
-    {
-        startWithTree();
-        QCursor::setPos(view()->viewport()->mapToGlobal(QPoint(90, 40)));
-        askForMenu(QContextMenuEvent::Keyboard, view(),
-                   [](QMenu *menu) { QCOMPARE(menu->pos(), QCursor::pos()); });
-    }
-
     void theSelectedRowCountsWhereAnotherIsCurrent_data()
     {
-        QTest::addColumn<bool>("byAssistiveTechnology");
-        QTest::newRow("assistive technology") << true;
-        QTest::newRow("selection model") << false;
+        const Rows<bool> row("byAssistiveTechnology");
+        row("assistive technology", true);
+        row("selection model", false);
     }
 
     void theSelectedRowCountsWhereAnotherIsCurrent()
@@ -320,13 +303,10 @@ private:
     static void verifyActsOn(int pid, int current)
     {
         QCOMPARE(list()->processAt(view()->currentIndex()).pid(), current);
-        QString named;
-        const ModalDriver driver([&](QWidget *dialog) {
-            named = qobject_cast<QMessageBox *>(dialog)->informativeText();
-            dialog->close();
-        });
+        SeenBox seen;
+        const ModalDriver driver(pressing(QMessageBox::Cancel, &seen));
         killAction()->trigger();
-        QCOMPARE(named, QStringLiteral("made-up%1 (%1)").arg(pid));
+        QCOMPARE(seen.informativeText, QStringLiteral("made-up%1 (%1)").arg(pid));
     }
 
     static QAction *killAction()

@@ -59,7 +59,7 @@ private Q_SLOTS:
 
     void processActionsAreDisabledOnOtherPagesEvenByARefresh()
     {
-        startOnProcesses(0);
+        startOnProcesses(100);
         QVERIFY(processAction("Kill process")->isEnabled());
         QVERIFY(processAction("Tree view")->isEnabled());
         Fixture::choosePage(0);
@@ -79,7 +79,7 @@ private Q_SLOTS:
 
     void aboutToShowUpdatesTheMenus()
     {
-        startOnProcesses(0);
+        startOnProcesses(100);
         QAction *kill = processAction("Kill process");
         kill->setVisible(false);
         QMetaObject::invokeMethod(menuAt(1), "aboutToShow");
@@ -91,34 +91,34 @@ private Q_SLOTS:
 
     void selectionAndResetReachTheActionsAtOnce()
     {
-        (*standin::machine().processes)[300].state = 16;
+        made(300).state = 16;
         startOnProcesses();
         QVERIFY(!processAction("Kill process")->isVisible());
-        select(1);
+        select(200);
         QVERIFY(processAction("Kill process")->isVisible());
         QVERIFY(processAction("Stop process")->isEnabled());
         QVERIFY(!processAction("Continue process")->isEnabled());
-        select(2);
+        select(300);
         QVERIFY(!processAction("Stop process")->isEnabled());
         QVERIFY(processAction("Continue process")->isEnabled());
-        tree()->selectionModel()->clearSelection();
+        view()->selectionModel()->clearSelection();
         QVERIFY(!processAction("Kill process")->isVisible());
         QVERIFY(!processAction("Stop process")->isEnabled());
         QVERIFY(!processAction("Continue process")->isEnabled());
-        select(1);
+        select(200);
         QVERIFY(processAction("Kill process")->isVisible());
-        Fixture::processes()->setColumnVisible(3, false); // resets the model
+        list()->setColumnVisible(3, false); // resets the model
         QVERIFY(processAction("Kill process")->isVisible());
         standin::machine().processes->erase(200); // the selected one
-        Fixture::processes()->setColumnVisible(3, true);
+        list()->setColumnVisible(3, true);
         QVERIFY(!processAction("Kill process")->isVisible());
     }
 
     void changedProcessStateReachesTheActionsOnRefresh()
     {
-        startOnProcesses(2);
+        startOnProcesses(300);
         QVERIFY(processAction("Stop process")->isEnabled());
-        (*standin::machine().processes)[300].state = 16;
+        made(300).state = 16;
         for (int i = 0; i < 3; ++i) {
             fixture->updater().update();
         }
@@ -136,7 +136,7 @@ private Q_SLOTS:
     void contextMenuHasTheActionsAndTheColumns()
     {
         QFETCH(bool, selected);
-        startOnProcesses(selected ? 0 : -1);
+        startOnProcesses(selected ? 100 : -1);
         withContextMenu([selected](QMenu *menu) {
             QCOMPARE(menu->parent(), Fixture::find<QWidget>("centralwidget"));
             QCOMPARE(texts(menu), texts(processEntry()) << QStringLiteral("Visible columns"));
@@ -159,7 +159,7 @@ private Q_SLOTS:
     void aColumnIsToggledFromTheContextMenu()
     {
         fixture->start(1);
-        auto *proxy = Fixture::processes();
+        auto *proxy = list();
         QVERIFY(proxy->isColumnVisible(3));
         withContextMenu([](QMenu *menu) { menu->actions().last()->menu()->actions().at(3)->trigger(); });
         QVERIFY(!proxy->isColumnVisible(3));
@@ -193,7 +193,7 @@ private Q_SLOTS:
     {
         static QStringList logged;
         fixture->start(1);
-        QSignalSpy resets(Fixture::processes(), SIGNAL(modelReset()));
+        QSignalSpy resets(list(), SIGNAL(modelReset()));
         const QtMessageHandler before = qInstallMessageHandler(
             [](QtMsgType type, const QMessageLogContext &context, const QString &text) {
                 if (type == QtCriticalMsg) {
@@ -297,17 +297,13 @@ private:
         }
         return result;
     }
-    static QTreeView *tree() { return Fixture::find<QTreeView>("treeView"); }
     /// The tick is 1 afterwards.
-    void startOnProcesses(int selectedRow = -1)
+    void startOnProcesses(int selectedPid = -1)
     {
         fixture->start(1);
         fixture->refresh(1);
-        if (selectedRow >= 0) {
-            select(selectedRow);
-        }
+        select(selectedPid);
     }
-    static void select(int row) { tree()->setCurrentIndex(tree()->model()->index(row, 0)); }
     /// Opens the context menu, calls `act` and closes the menu.
     void withContextMenu(const std::function<void(QMenu *)> &act)
     {

@@ -20,14 +20,14 @@ class TestProcessReading : public ControllerTest
 private Q_SLOTS:
     void init()
     {
-        fixture = std::make_unique<Fixture>();
+        ControllerTest::init();
         made(200).startTime = made(300).startTime = 1600000000;
         made(100).startTime = made(400).startTime = 1500000000;
         standin::Process newest = made(100);
         newest.startTime = 1700000000;
         standin::machine().processes->emplace(500, newest);
         fixture->start(GeneralPage); // the list is filled but not painted
-        Fixture::processes()->setProcessTypes(AllProcesses);
+        list()->setProcessTypes(AllProcesses);
         fixture->updater().update(true);
     }
 
@@ -80,22 +80,22 @@ private Q_SLOTS:
     void sortedMemoryIsReadWithEachRefresh()
     {
         const int memory = MemoryColumn; // no earlier column is hidden
-        Fixture::find<QTreeView>("treeView")->sortByColumn(memory, Qt::DescendingOrder);
-        QCOMPARE(Fixture::processes()->sortedProcessColumn(), int(MemoryColumn));
+        view()->sortByColumn(memory, Qt::DescendingOrder);
+        QCOMPARE(list()->sortedProcessColumn(), int(MemoryColumn));
         QCOMPARE(callsOfRefresh(), 5U * 3 + 2 + 3 + 2); // and the first row's command line
         made(200).resident = std::uint64_t(1) << 40;
         fixture->updater().update(true);
-        QCOMPARE(Fixture::processes()->processAt(Fixture::processes()->index(0, 0)).pid(), 200);
+        QCOMPARE(list()->processAt(list()->index(0, 0)).pid(), 200);
     }
 
     void myProcessesFollowTheUserColumn()
     {
-        Fixture::processes()->setProcessTypes(MyProcesses);
+        list()->setProcessTypes(MyProcesses);
         fixture->updater().update(true);
-        QCOMPARE(Fixture::processes()->processByPid(300).pid(), 300);
+        QCOMPARE(list()->processByPid(300).pid(), 300);
         made(300).uid = 65534;
         fixture->updater().update(true);
-        QCOMPARE(Fixture::processes()->processByPid(300).pid(), -1);
+        QCOMPARE(list()->processByPid(300).pid(), -1);
     }
 
     void valuesInViewAreReadWithTheRefresh_data()
@@ -121,9 +121,9 @@ private Q_SLOTS:
         standin::resetCalls();
         view()->viewport()->grab();
         QCOMPARE(standin::calls().processData, 0U);
-        const QModelIndex memory = Fixture::processes()->index(0, MemoryColumn);
-        const QModelIndex commandLine = memory.siblingAtColumn(Fixture::processes()->columnCount() - 2);
-        QCOMPARE(Fixture::processes()->headerData(commandLine.column(), Qt::Horizontal).toString(),
+        const QModelIndex memory = list()->index(0, MemoryColumn);
+        const QModelIndex commandLine = memory.siblingAtColumn(list()->columnCount() - 2);
+        QCOMPARE(list()->headerData(commandLine.column(), Qt::Horizontal).toString(),
                  QStringLiteral("Command line"));
         for (int row = first.row(); row <= last.row(); ++row) {
             QVERIFY(memory.sibling(row, memory.column()).data().toString().endsWith(QStringLiteral(" MB")));
@@ -152,7 +152,7 @@ private Q_SLOTS:
         showMany();
         standin::machine().processes->at(1300).name = "longer than the others";
         standin::resetCalls();
-        Fixture::processes()->setProcessTypes(AllProcesses); // reads state and time, and fits again
+        list()->setProcessTypes(AllProcesses); // reads state and time, and fits again
         const unsigned costly = standin::calls().processData - 400 * 2;
         QVERIFY2(costly >= 100 * 4 && costly < 300 * 4, qPrintable(QString::number(costly)));
         const QFontMetrics metrics(view()->font());
@@ -169,8 +169,6 @@ private Q_SLOTS:
     }
 
 private:
-    static QTreeView *view() { return Fixture::find<QTreeView>("treeView"); }
-
     /// 400 processes in a list that shows a part of them, and of their columns.
     void showMany()
     {
@@ -187,10 +185,9 @@ private:
         QCoreApplication::processEvents();
     }
 
-    standin::Process &made(int pid) { return standin::machine().processes->at(pid); }
     QString shown(int pid, ProcessColumn column)
     {
-        const ParamPtr value = Fixture::processes()->processByPid(pid).getParam(column);
+        const ParamPtr value = list()->processByPid(pid).getParam(column);
         return value ? value->displayValue().toString() : QStringLiteral("none");
     }
 

@@ -33,19 +33,15 @@ private Q_SLOTS:
 
     void theDefaultGeometryFitsSmallScreens_data()
     {
-        QTest::addColumn<QRect>("available");
-        QTest::addColumn<int>("neededHeight");
-        QTest::addColumn<QRect>("expected");
-        QTest::newRow("large") << QRect(0, 0, 1920, 1080) << 300 << QRect(0, 0, 640, 480);
-        QTest::newRow("800 x 500") << QRect(0, 0, 800, 500) << 300 << QRect(0, 0, 640, 460);
-        QTest::newRow("just fits") << QRect(0, 0, 660, 520) << 480 << QRect(0, 0, 640, 480);
-        QTest::newRow("narrow") << QRect(0, 0, 659, 519) << 300 << QRect(0, 0, 639, 479);
-        QTest::newRow("with a panel") << QRect(50, 30, 1230, 690) << 300 << QRect(0, 0, 640, 480);
-        QTest::newRow("a higher page") << QRect(0, 0, 1920, 1080) << 481 << QRect(0, 0, 640, 481);
-        QTest::newRow("a page higher than the screen")
-            << QRect(0, 0, 1920, 1080) << 5000 << QRect(0, 0, 640, 1040);
-        QTest::newRow("a higher page on a low screen")
-            << QRect(0, 0, 800, 500) << 5000 << QRect(0, 0, 640, 460);
+        const Rows<QRect, int, QRect> row("available", "neededHeight", "expected");
+        row("large", QRect(0, 0, 1920, 1080), 300, QRect(0, 0, 640, 480));
+        row("800 x 500", QRect(0, 0, 800, 500), 300, QRect(0, 0, 640, 460));
+        row("just fits", QRect(0, 0, 660, 520), 480, QRect(0, 0, 640, 480));
+        row("narrow", QRect(0, 0, 659, 519), 300, QRect(0, 0, 639, 479));
+        row("with a panel", QRect(50, 30, 1230, 690), 300, QRect(0, 0, 640, 480));
+        row("a higher page", QRect(0, 0, 1920, 1080), 481, QRect(0, 0, 640, 481));
+        row("a page higher than the screen", QRect(0, 0, 1920, 1080), 5000, QRect(0, 0, 640, 1040));
+        row("a higher page on a low screen", QRect(0, 0, 800, 500), 5000, QRect(0, 0, 640, 460));
     }
 
     void theDefaultGeometryFitsSmallScreens()
@@ -77,13 +73,12 @@ private Q_SLOTS:
 
     void storedGeneralIntervalHoldsAndLasts_data()
     {
-        QTest::addColumn<int>("interval");
-        QTest::addColumn<int>("refreshes");
-        QTest::newRow("1") << 1 << 20;
-        QTest::newRow("4") << 4 << 5;
-        QTest::newRow("5") << 5 << 4;
-        QTest::newRow("0 is due on every tick") << 0 << 20;
-        QTest::newRow("-3 is due on every tick") << -3 << 20;
+        const Rows<int, int> row("interval", "refreshes");
+        row("1", 1, 20);
+        row("4", 4, 5);
+        row("5", 5, 4);
+        row("0 is due on every tick", 0, 20);
+        row("-3 is due on every tick", -3, 20);
     }
 
     void storedGeneralIntervalHoldsAndLasts()
@@ -112,10 +107,9 @@ private Q_SLOTS:
 
     void columnVisibilityLasts_data()
     {
-        QTest::addColumn<int>("column");
-        QTest::addColumn<bool>("visible");
-        QTest::newRow("hidden") << 3 << false;
-        QTest::newRow("shown") << 8 << true;
+        const Rows<int, bool> row("column", "visible");
+        row("hidden", 3, false);
+        row("shown", 8, true);
     }
 
     void columnVisibilityLasts()
@@ -124,9 +118,9 @@ private Q_SLOTS:
         QFETCH(bool, visible);
         const auto number = static_cast<unsigned long>(column);
         fixture->start(1);
-        Fixture::processes()->setColumnVisible(number, visible);
+        list()->setColumnVisible(number, visible);
         fixture->start(1);
-        QCOMPARE(Fixture::processes()->isColumnVisible(number), visible);
+        QCOMPARE(list()->isColumnVisible(number), visible);
         const auto *filler = gtop_wrappers::ProcessFiller::instance();
         QCOMPARE(QSettings().value(QStringLiteral("column/") + filler->name(number)),
                  QVariant(visible ? QStringLiteral("true") : QStringLiteral("false")));
@@ -135,11 +129,11 @@ private Q_SLOTS:
     void theSortColumnAndOrderLast()
     {
         fixture->start(1);
-        Fixture::find<QTreeView>("treeView")->sortByColumn(2, Qt::DescendingOrder);
+        view()->sortByColumn(2, Qt::DescendingOrder);
         fixture->start(1);
-        QCOMPARE(Fixture::processes()->sortColumn(), 2);
-        QCOMPARE(Fixture::processes()->sortOrder(), Qt::DescendingOrder);
-        QCOMPARE(Fixture::find<QTreeView>("treeView")->header()->sortIndicatorSection(), 2);
+        QCOMPARE(list()->sortColumn(), 2);
+        QCOMPARE(list()->sortOrder(), Qt::DescendingOrder);
+        QCOMPARE(view()->header()->sortIndicatorSection(), 2);
         fixture->stop();
         QCOMPARE(stored("proc_sort_column").toInt(), 2);
         QCOMPARE(stored("proc_sort_order").toInt(), 1);
@@ -173,8 +167,7 @@ private Q_SLOTS:
 
     void badFileGivesTheDefaultsAndNoMessage_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        const auto row = [](const char *name, const QByteArray &content) { QTest::newRow(name) << content; };
+        const Rows<QByteArray> row("content");
         row("a directory", QByteArray());
         row("empty", "");
         row("no settings", "<html>\nnot a settings file\n");
@@ -208,14 +201,14 @@ private Q_SLOTS:
 
     void wrongTypesAreSurvived_data()
     {
-        QTest::addColumn<QVariant>("value");
-        QTest::newRow("text") << QVariant(QStringLiteral("x"));
-        QTest::newRow("bytes") << QVariant(QByteArray("\0\1\2", 3));
-        QTest::newRow("list") << QVariant(QVariantList{1, 2});
-        QTest::newRow("point") << QVariant(QPoint(3, 4));
-        QTest::newRow("empty text") << QVariant(QString());
-        QTest::newRow("-1") << QVariant(-1);
-        QTest::newRow("1e300") << QVariant(1e300);
+        const Rows<QVariant> row("value");
+        row("text", QVariant(QStringLiteral("x")));
+        row("bytes", QVariant(QByteArray("\0\1\2", 3)));
+        row("list", QVariant(QVariantList{1, 2}));
+        row("point", QVariant(QPoint(3, 4)));
+        row("empty text", QVariant(QString()));
+        row("-1", QVariant(-1));
+        row("1e300", QVariant(1e300));
     }
 
     void wrongTypesAreSurvived()
@@ -257,7 +250,7 @@ private Q_SLOTS:
         store("proc_sort_order", 7);
         fixture->start(1);
         fixture->refresh(1);
-        QCOMPARE(Fixture::processes()->rowCount(), 4);
+        QCOMPARE(list()->rowCount(), 4);
         fixture->stop();
     }
 
@@ -271,10 +264,10 @@ private:
     {
         QCOMPARE(generalRefreshesOf(12), 4);
         for (unsigned long i = 0; i < gtop_wrappers::ProcessFiller::instance()->size(); ++i) {
-            QCOMPARE(Fixture::processes()->isColumnVisible(i), i < 6 || i > 9);
+            QCOMPARE(list()->isColumnVisible(i), i < 6 || i > 9);
         }
-        QCOMPARE(Fixture::processes()->sortColumn(), 0);
-        QCOMPARE(Fixture::processes()->sortOrder(), Qt::AscendingOrder);
+        QCOMPARE(list()->sortColumn(), 0);
+        QCOMPARE(list()->sortOrder(), Qt::AscendingOrder);
         const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
         QCOMPARE(Fixture::window()->width(),
                  qMax(defaultGeometry(available, 0).width(), Fixture::window()->minimumSizeHint().width()));

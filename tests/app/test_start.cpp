@@ -38,8 +38,7 @@ private Q_SLOTS:
 
     void theGraphHasOneSample_data()
     {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<int>("interval"); // of the Network page
+        const Rows<int, int> row("page", "interval"); // of the Network page
         for (const int page : {-1, 0, 1, 2, 3}) {
             for (const int interval : {1, 3, 5}) {
                 QTest::addRow("page %d, interval %d", page, interval) << page << interval;
@@ -61,8 +60,7 @@ private Q_SLOTS:
 
     void theListIsFilledWhateverIsStored_data()
     {
-        QTest::addColumn<int>("interval");
-        QTest::addColumn<int>("hidden"); // number of columns
+        const Rows<int, int> row("interval", "hidden"); // number of columns
         for (const int interval : {1, 2, 3, 4, 5}) {
             for (const int hidden : {0, 1, 2, 3, 4, 8}) {
                 QTest::addRow("interval %d, %d columns hidden", interval, hidden) << interval << hidden;
@@ -87,8 +85,7 @@ private Q_SLOTS:
 
     void everyResetOfTheLoadingIsATick_data()
     {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<int>("interval"); // of all pages
+        const Rows<int, int> row("page", "interval"); // of all pages
         for (const int page : {0, 1, 2, 3}) {
             for (const int interval : {2, 3, 4, 5, 7, 11}) {
                 QTest::addRow("page %d, interval %d", page, interval) << page << interval;

@@ -2,6 +2,7 @@
 #include "app/pagescroll.h"
 #include "app/storedsettings.h"
 #include "support.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -113,21 +114,18 @@ int savedInterval()
 
 } // namespace
 
-class TestDamagedSettings : public QObject
+class TestDamagedSettings : public ControllerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { fixture = std::make_unique<Fixture>(); }
-    void cleanup() { fixture.reset(); }
-
     void anUnsafeFileIsSetAsideAndTheDefaultsAreSaved_data()
     {
-        QTest::addColumn<QByteArray>("damage");
+        const Rows<QByteArray> row("damage");
         for (const char *key : {"geometry", "proc_sort_column", "fsSplitter", "unknown"}) {
-            QTest::newRow(key) << "[General]\n" + QByteArray(key) + "=" + hugeList;
+            row(key, "[General]\n" + QByteArray(key) + "=" + hugeList);
         }
-        QTest::newRow("too large") << QByteArray(70000, ';');
+        row("too large", QByteArray(70000, ';'));
     }
 
     void anUnsafeFileIsSetAsideAndTheDefaultsAreSaved()
@@ -146,25 +144,24 @@ private Q_SLOTS:
 
     void aSerializedObjectIsFoundHoweverItIsEscaped_data()
     {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("found");
-        QTest::newRow("plain") << QByteArray("a=@Variant(\\0)") << true;
-        QTest::newRow("date") << QByteArray("a=@DateTime(\\0)") << true;
-        QTest::newRow("in a list") << QByteArray("a=1, @Variant(x), 2") << true;
-        QTest::newRow("quoted") << QByteArray("a=\"@Va\"riant(x)") << true;
-        QTest::newRow("hexadecimal") << QByteArray("a=\\x40V\\x61riant(") << true;
-        QTest::newRow("many digits") << QByteArray("a=\\x100000040Variant(") << true;
-        QTest::newRow("octal") << QByteArray("a=\\100Variant(") << true;
-        QTest::newRow("over two lines") << QByteArray("a=@Vari\\\nant(") << true;
-        QTest::newRow("skipped escape") << QByteArray("a=@Vari\\qant(") << true;
-        QTest::newRow("blanks after a quote") << QByteArray("a=\"@Vari\" \t ant(") << true;
-        QTest::newRow("over two lines with CRLF") << QByteArray("a=@Vari\\\r\nant(") << true;
-        QTest::newRow("bytes") << QByteArray("a=@ByteArray(\\0\\xff)") << false;
-        QTest::newRow("another word") << QByteArray("a=Variant(") << false;
-        QTest::newRow("truncated") << QByteArray("a=@Variant") << false;
-        QTest::newRow("a lone backslash") << QByteArray("\\") << false;
-        QTest::newRow("an empty number") << QByteArray("\\x") << false;
-        QTest::newRow("empty") << QByteArray() << false;
+        const Rows<QByteArray, bool> row("content", "found");
+        row("plain", QByteArray("a=@Variant(\\0)"), true);
+        row("date", QByteArray("a=@DateTime(\\0)"), true);
+        row("in a list", QByteArray("a=1, @Variant(x), 2"), true);
+        row("quoted", QByteArray("a=\"@Va\"riant(x)"), true);
+        row("hexadecimal", QByteArray("a=\\x40V\\x61riant("), true);
+        row("many digits", QByteArray("a=\\x100000040Variant("), true);
+        row("octal", QByteArray("a=\\100Variant("), true);
+        row("over two lines", QByteArray("a=@Vari\\\nant("), true);
+        row("skipped escape", QByteArray("a=@Vari\\qant("), true);
+        row("blanks after a quote", QByteArray("a=\"@Vari\" \t ant("), true);
+        row("over two lines with CRLF", QByteArray("a=@Vari\\\r\nant("), true);
+        row("bytes", QByteArray("a=@ByteArray(\\0\\xff)"), false);
+        row("another word", QByteArray("a=Variant("), false);
+        row("truncated", QByteArray("a=@Variant"), false);
+        row("a lone backslash", QByteArray("\\"), false);
+        row("an empty number", QByteArray("\\x"), false);
+        row("empty", QByteArray(), false);
     }
 
     void aSerializedObjectIsFoundHoweverItIsEscaped()
@@ -185,12 +182,11 @@ private Q_SLOTS:
     {
         const QByteArray sizes =
             "@ByteArray(\\0\\0\\0\\xff\\0\\0\\0\\x1\\0\\0\\0\\x2\\0\\0\\0\\x64\\0\\0\\0\\x64";
-        QTest::addColumn<QByteArray>("state");
-        QTest::newRow("no end") << endlessSplitter;
-        QTest::newRow("a handle wider than any screen")
-            << sizes + "\\x1\\x7f\\xff\\xff\\xff\\x1\\0\\0\\0\\x1\\0)";
-        QTest::newRow("vertical") << sizes + "\\x1\\0\\0\\0\\x5\\x1\\0\\0\\0\\x2\\0)";
-        QTest::newRow("truncated after the sizes") << sizes + ")";
+        const Rows<QByteArray> row("state");
+        row("no end", endlessSplitter);
+        row("a handle wider than any screen", sizes + "\\x1\\x7f\\xff\\xff\\xff\\x1\\0\\0\\0\\x1\\0)");
+        row("vertical", sizes + "\\x1\\0\\0\\0\\x5\\x1\\0\\0\\0\\x2\\0)");
+        row("truncated after the sizes", sizes + ")");
     }
 
     void anUnusableSplitterStateIsIgnored()
@@ -230,9 +226,6 @@ private Q_SLOTS:
         }
         qInfo("settings files: %d from seed %u, all survived", files, firstSeed);
     }
-
-private:
-    std::unique_ptr<Fixture> fixture;
 };
 
 QTEST_MAIN(TestDamagedSettings)

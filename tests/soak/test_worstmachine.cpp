@@ -126,14 +126,11 @@ std::vector<std::pair<QByteArray, standin::Machine>> machinesByName()
 } // namespace
 
 /// The whole controller on the worst machines.
-class TestWorstMachine : public QObject
+class TestWorstMachine : public ControllerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { fixture = std::make_unique<Fixture>(); }
-    void cleanup() { fixture.reset(); }
-
     void everyPageSurvivesEveryChangeOfMachine_data()
     {
         QTest::addColumn<standin::Machine>("first");
@@ -254,8 +251,6 @@ private:
         Fixture::choosePage(3);
         return Fixture::find<QComboBox>("comboNet")->count();
     }
-
-    std::unique_ptr<Fixture> fixture;
 };
 
 QTEST_MAIN(TestWorstMachine)

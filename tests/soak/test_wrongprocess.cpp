@@ -2,6 +2,7 @@
 #include "support.h"
 #include "tests/process/support/child.h"
 #include "tests/support/modal.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -15,14 +16,14 @@ Q_DECLARE_METATYPE(Change)
 
 /// Who gets the signal if the list changes while the user makes up their mind. The list shows two real
 /// children of this test and nothing else.
-class TestWrongProcess : public QObject
+class TestWrongProcess : public ControllerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        fixture = std::make_unique<Fixture>();
+        ControllerTest::init();
         asked = std::make_unique<Child>();
         other = std::make_unique<Child>();
         standin::machine().processes->clear();
@@ -97,7 +98,6 @@ private Q_SLOTS:
     }
 
 private:
-    static QTreeView *view() { return Fixture::find<QTreeView>("treeView"); }
     QAction *killAction() { return findAction(*fixture, "Kill process"); }
     static std::map<int, standin::Process> &processes() { return *standin::machine().processes; }
 
@@ -121,9 +121,7 @@ private:
 
     void changesOfTheList()
     {
-        QTest::addColumn<Change>("change");
-        QTest::addColumn<bool>("keepsItsRow");
-        QTest::addColumn<bool>("lives");
+        const Rows<Change, bool, bool> row("change", "keepsItsRow", "lives");
         addEnd("pid reused by another program", [this] {
             processes()[asked->pid()].startTime += 100;
             runProgram("newcomer");
@@ -193,7 +191,6 @@ private:
         refresh(*fixture);
     }
 
-    std::unique_ptr<Fixture> fixture;
     std::unique_ptr<Child> asked;
     std::unique_ptr<Child> other;
 };

@@ -48,7 +48,7 @@ private Q_SLOTS:
 
     void thePriorityDialogIsLegible()
     {
-        select(0);
+        select(100);
         checkDialogOf(processAction({4}), [](QWidget *dialog) {
             const QString title = QCoreApplication::translate("DlgNice", "Change priority");
             QCOMPARE(title == QLatin1String("Change priority"), isEnglish());
@@ -65,7 +65,7 @@ private Q_SLOTS:
     void theQuestionsBeforeASignalAreLegible()
     {
         for (int signal : {SIGSTOP, SIGCONT, SIGTERM, SIGKILL}) {
-            select(signal == SIGCONT ? 2 : 0);
+            select(signal == SIGCONT ? stopped : 100);
             checkDialogOf(processAction({1, signal}), [](QWidget *dialog) {
                 QCOMPARE(qobject_cast<QMessageBox *>(dialog)->informativeText(), selectedProcess());
             });
@@ -74,13 +74,12 @@ private Q_SLOTS:
 
     void theWarningsAreLegible()
     {
-        auto *model = qobject_cast<ProxyProcModel *>(tree()->model());
         static constexpr int nobody = 0x7fffffff; // beyond the kernel's largest pid
         const auto look = [](QWidget *dialog) {
             QCOMPARE(qobject_cast<QMessageBox *>(dialog)->informativeText(), QString::number(nobody));
         };
-        checkDialog([&] { model->sendSignal(nobody, 15); }, look);
-        checkDialog([&] { model->setPriority(nobody, 1); }, look);
+        checkDialog([] { list()->sendSignal(nobody, 15); }, look);
+        checkDialog([] { list()->setPriority(nobody, 1); }, look);
     }
 
     void theAboutBoxIsLegible()
@@ -95,14 +94,8 @@ private:
 
     static constexpr int stopped = 300;
 
-    static QTreeView *tree() { return Fixture::find<QTreeView>("treeView"); }
-    static void select(int row) { tree()->setCurrentIndex(tree()->model()->index(row, 0)); }
     /// As dialogs name it.
-    static QString selectedProcess()
-    {
-        const auto *model = qobject_cast<ProxyProcModel *>(tree()->model());
-        return processLabel(model->processAt(tree()->currentIndex()));
-    }
+    static QString selectedProcess() { return processLabel(list()->processAt(view()->currentIndex())); }
     static bool isEnglish()
     {
         QFETCH_GLOBAL(QString, language);
