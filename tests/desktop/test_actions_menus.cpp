@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/programtest.h"
+#include "tests/support/rows.h"
 
 #include <csignal>
 
@@ -13,14 +14,12 @@ private Q_SLOTS:
     void cleanupTestCase() { verifyQuitsCleanly(); }
     void menuBarHasItsEntries_data()
     {
-        QTest::addColumn<QStringList>("way");
-        QTest::addColumn<QStringList>("entries");
-        QTest::newRow("File") << QStringList{"File"} << QStringList{"Exit"};
-        QTest::newRow("Edit") << QStringList{"Edit"} << QStringList{"Update interval", "Process"};
-        QTest::newRow("Update interval")
-            << QStringList{"Edit", "Update interval"}
-            << QStringList{"General interval", "Process interval", "Filesystem interval", "Network interval"};
-        QTest::newRow("Help") << QStringList{"Help"} << QStringList{"About", "About Qt"};
+        const Rows<QStringList, QStringList> row("way", "entries");
+        row("File", QStringList{"File"}, QStringList{"Exit"});
+        row("Edit", QStringList{"Edit"}, QStringList{"Update interval", "Process"});
+        row("Update interval", QStringList{"Edit", "Update interval"},
+            QStringList{"General interval", "Process interval", "Filesystem interval", "Network interval"});
+        row("Help", QStringList{"Help"}, QStringList{"About", "About Qt"});
     }
 
     void menuBarHasItsEntries()
@@ -84,19 +83,6 @@ private Q_SLOTS:
             QVERIFY(isEnabled("Terminate process") && isEnabled("Kill process"));
             QVERIFY(page->closeMenus());
         }
-    }
-
-    void contextMenuOnEmptySpaceHasNoProcessActions()
-    {
-        const SampleProcess process = sample("emp");
-        QVERIFY(isListed(process));
-        QVERIFY(page->select(process.pid()));
-        if (page->list().rowRect(page->list().rows.size() - 1).isEmpty()) {
-            return; // the rows fill the view: there is no empty space
-        }
-        QVERIFY(page->openContextMenuOnEmptySpace());
-        QCOMPARE(session->menuTexts(), (QStringList{"Tree view", "My processes", "All processes",
-                                                    "Find process...", "Visible columns"}));
     }
 
     void ctrlFTogglesTheTreeAndItsActions()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/programtest.h"
+#include "tests/support/rows.h"
 
 #include <unistd.h>
 
@@ -30,25 +31,19 @@ private Q_SLOTS:
 
     void everyPageHasItsDialog_data()
     {
-        QTest::addColumn<QString>("entry");
-        QTest::addColumn<QString>("pageName");
-        QTest::addColumn<QString>("shown");
-        const auto addRow = [](const char *entry, const char *pageName, const char *shown) {
-            QTest::newRow(entry) << QString(entry) << QString(pageName) << QString(shown);
-        };
-        addRow("General interval", "General page", "100000");
-        addRow("Process interval", "Processes page", "3");
-        addRow("Filesystem interval", "Filesystems page", "3");
-        addRow("Network interval", "Network page", "100000");
+        const Rows<QString, QString> row("pageName", "shown");
+        row("General interval", "General page", "100000");
+        row("Process interval", "Processes page", "3");
+        row("Filesystem interval", "Filesystems page", "3");
+        row("Network interval", "Network page", "100000");
     }
 
     /// A stored value outside of the slider's range is shown unchanged; the slider is at its end.
     void everyPageHasItsDialog()
     {
-        QFETCH(QString, entry);
         QFETCH(QString, pageName);
         QFETCH(QString, shown);
-        QVERIFY(open(entry));
+        QVERIFY(open(QTest::currentDataTag()));
         QVERIFY(
             labels().contains("You can set time interval (in secs)\n between updates for page " + pageName));
         QVERIFY(labels().contains(shown));

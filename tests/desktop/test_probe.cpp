@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/session.h"
+#include "tests/support/rows.h"
 
 #include <QJsonArray>
 #include <QtTest>
@@ -55,7 +56,7 @@ private Q_SLOTS:
         QVERIFY2(session->start({"one", "two"}), qPrintable(session->error()));
     }
 
-    void windowIsDescribed()
+    void windowIsDescribedAndOnTheScreen()
     {
         const QJsonObject window = session->mainWindow();
         QCOMPARE(window.value("title").toString(), QString("Sample"));
@@ -63,6 +64,9 @@ private Q_SLOTS:
         QVERIFY(!window.value("modal").toBool());
         QCOMPARE(session->standardOutput(), QByteArray("one\ntwo\n"));
         QCOMPARE(session->exitCode(), -1);
+        const QImage screen = session->screenshot();
+        QCOMPARE(screen.size(), QSize(1280, 1024));
+        QVERIFY(screen.pixel(session->windowRect().center()) != screen.pixel(1279, 1023));
     }
 
     void widgetsAreFoundByNameAndByClass()
@@ -82,11 +86,8 @@ private Q_SLOTS:
 
     void badCommandGivesAnError_data()
     {
-        QTest::addColumn<QString>("command");
-        for (const char *command :
-             {"widget nobody", "table ask", "selected ask", "palette none", "font none", "dance"}) {
-            QTest::newRow(command) << command;
-        }
+        addTextRows("command",
+                    {"widget nobody", "table ask", "selected ask", "palette none", "font none", "dance"});
     }
 
     void badCommandGivesAnError()
@@ -146,7 +147,7 @@ private Q_SLOTS:
         QVERIFY(session->waitFor([&] { return !session->table("tree").sortDescending; }));
     }
 
-    void rowFarDownIsScrolledToAndClicked()
+    void rowFarDownIsScrolledToAndClickedAndHasItsId()
     {
         QVERIFY2(showTree(), qPrintable(session->error()));
         for (const char *name : {"row 150", "row 005"}) {
@@ -157,6 +158,7 @@ private Q_SLOTS:
                 return row.selected && row.current;
             };
             QVERIFY2(session->waitFor(isClicked), name);
+            QVERIFY(session->probe("selected tree").contains("id"));
         }
     }
 
@@ -227,19 +229,18 @@ private Q_SLOTS:
     void windowIsResizedAndMaximised()
     {
         QVERIFY(session->resizeMainWindow({777, 555}));
-        QCOMPARE(windowRect().size(), QSize(777, 555));
+        QCOMPARE(session->windowRect().size(), QSize(777, 555));
         QVERIFY(session->resizeMainWindow({1, 1}));
         const auto toggle = [&] {
-            const QRect before = windowRect();
-            session->x().toggleMaximized(
-                static_cast<unsigned long>(session->mainWindow().value("id").toDouble()));
-            return session->waitFor([&] { return windowRect() != before; });
+            const QRect before = session->windowRect();
+            session->x().toggleMaximized(session->windowId());
+            return session->waitFor([&] { return session->windowRect() != before; });
         };
-        const QRect normal = windowRect();
+        const QRect normal = session->windowRect();
         QVERIFY(toggle());
-        QCOMPARE(windowRect().right(), 1279);
+        QCOMPARE(session->windowRect().right(), 1279);
         QVERIFY(toggle());
-        QCOMPARE(windowRect(), normal);
+        QCOMPARE(session->windowRect(), normal);
     }
 
     void stateIsASummary()
@@ -275,13 +276,6 @@ private Q_SLOTS:
         }
     }
 
-    void selectedRowHasItsId()
-    {
-        QVERIFY2(showTree(), qPrintable(session->error()));
-        QVERIFY(session->clickRow("tree", "Name", "row 003"));
-        QVERIFY(session->waitFor([&] { return session->probe("selected tree").contains("id"); }));
-    }
-
     void paletteAndFontChange()
     {
         QVERIFY(session->clickTab("First"));
@@ -292,17 +286,10 @@ private Q_SLOTS:
         QCOMPARE(session->probe("font 9"), QJsonObject());
         QCOMPARE(session->probe("palette #102040"), QJsonObject());
         QVERIFY(session->waitFor([&] {
-            const QPoint inCorner = windowRect().bottomRight() - QPoint(3, 3);
+            const QPoint inCorner = session->windowRect().bottomRight() - QPoint(3, 3);
             return session->screenshot().pixel(inCorner) == qRgb(0x10, 0x20, 0x40);
         }));
         QCOMPARE(session->probe("palette #efefef"), QJsonObject());
-    }
-
-    void screenshotHasTheWholeScreen()
-    {
-        const QImage picture = session->screenshot();
-        QCOMPARE(picture.size(), QSize(1280, 1024));
-        QVERIFY(picture.pixel(windowRect().center()) != picture.pixel(1279, 1023));
     }
 
     void anotherSessionHasItsOwnScreenAndTheRealMachine()
@@ -366,7 +353,6 @@ private:
                session->waitFor([&] { return session->widget("tree").value("visible").toBool(); });
     }
 
-    QRect windowRect() { return rectOf(session->mainWindow().value("rect")); }
     QJsonObject state() { return session->probe("state"); }
     int tabAfterInput() { return session->stateAfterInput().value("tab").toInt(-1); }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/session.h"
+#include "tests/support/rows.h"
 
 #include <QJsonArray>
 #include <QtTest>
@@ -28,20 +29,18 @@ private Q_SLOTS:
     void cleanup() { QVERIFY(session->endsCleanly()); }
     void theFirstArgumentChoosesThePage_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("page");
-        QTest::addColumn<QByteArray>("output");
-        QTest::newRow("none") << QStringList() << 0 << QByteArray();
+        const Rows<QStringList, int, QByteArray> row("arguments", "page", "output");
+        row("none", QStringList(), 0, QByteArray());
         for (int page = 0; page < pages.size(); ++page) {
             for (const QString &argument : {pages[page], QString("-tab=%1").arg(page + 1)}) {
-                QTest::newRow(qPrintable(argument)) << QStringList{argument} << page << QByteArray();
+                row(qPrintable(argument), QStringList{argument}, page, QByteArray());
             }
         }
         for (const char *unknown : {"Network", "-tab=5", "-tab=0", "--help", "general ", ""}) {
             QTest::addRow("unknown: \"%s\"", unknown) << QStringList{unknown} << 0 << usage;
         }
-        QTest::newRow("second unknown") << QStringList{"general", "foo"} << 0 << QByteArray();
-        QTest::newRow("first unknown") << QStringList{"foo", "network"} << 0 << usage;
+        row("second unknown", QStringList{"general", "foo"}, 0, QByteArray());
+        row("first unknown", QStringList{"foo", "network"}, 0, usage);
     }
 
     void theFirstArgumentChoosesThePage()
@@ -71,9 +70,9 @@ private Q_SLOTS:
 
     void ctrlQQuitsFromEveryPage_data()
     {
-        QTest::addColumn<QString>("page");
+        const Rows<QString> row("page");
         for (const QString &page : pages) {
-            QTest::newRow(qPrintable(page)) << page;
+            row(qPrintable(page), page);
         }
     }
 
@@ -102,10 +101,9 @@ private Q_SLOTS:
 
     void aClickOnATabShowsItsPage_data()
     {
-        QTest::addColumn<int>("dpi");
-        QTest::addColumn<QSize>("screen");
-        QTest::newRow("96 dpi") << 96 << QSize(1280, 1024);
-        QTest::newRow("192 dpi") << 192 << QSize(2560, 2048);
+        const Rows<int, QSize> row("dpi", "screen");
+        row("96 dpi", 96, QSize(1280, 1024));
+        row("192 dpi", 192, QSize(2560, 2048));
     }
 
     void aClickOnATabShowsItsPage()
