@@ -3,11 +3,8 @@
 #define TESTS_SUPPORT_MODAL_H
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
-#include <QTimerEvent>
 #include <QtTest>
 
 #include <algorithm>
