@@ -2,7 +2,6 @@
 #include "../support/rows.h"
 #include "mounts.h"
 
-#include <QAbstractItemModelTester>
 #include <QtTest>
 
 #include <memory>

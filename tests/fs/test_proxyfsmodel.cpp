@@ -4,10 +4,7 @@
 #include "../support/rows.h"
 #include "mounts.h"
 
-#include <QAbstractItemModelTester>
 #include <QHeaderView>
-#include <QSet>
-#include <QSignalSpy>
 #include <QtTest>
 
 #include <memory>

@@ -4,7 +4,6 @@
 #include "../support/brackettranslator.h"
 #include "../support/rows.h"
 
-#include <QLocale>
 #include <QtTest>
 
 #include <limits>

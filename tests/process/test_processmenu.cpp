@@ -129,18 +129,7 @@ private Q_SLOTS:
         QVERIFY(looksLike(desk.action("Continue process"), ":/images/continue"));
     }
 
-    void fillMenuChecksTheTreeViewByTheMode()
-    {
-        const Desk desk;
-        QMenu menu;
-        desk.actions->fillMenu(&menu);
-        QVERIFY(!desk.action("Tree view")->isChecked());
-        desk.list->setFlat(false);
-        desk.actions->fillMenu(&menu);
-        QVERIFY(desk.action("Tree view")->isChecked());
-    }
-
-    void severalMenusShareTheActionsInOrder()
+    void severalMenusShareTheActionsInOrderAndCheckTheTreeViewByTheMode()
     {
         const Desk desk;
         const QString texts =
@@ -149,9 +138,12 @@ private Q_SLOTS:
                            "Find process...");
         QMenu lasting;
         desk.actions->fillMenu(&lasting);
+        QVERIFY(!desk.action("Tree view")->isChecked());
         {
             QMenu passing;
+            desk.list->setFlat(false);
             desk.actions->fillMenu(&passing);
+            QVERIFY(desk.action("Tree view")->isChecked());
             QCOMPARE(textsOf(passing), texts);
             QCOMPARE(passing.actions().first(), lasting.actions().first());
         }

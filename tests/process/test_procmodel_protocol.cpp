@@ -5,7 +5,6 @@
 #include "tests/process/support/synthetic.h"
 #include "tests/process/support/world.h"
 
-#include <QAbstractItemModelTester>
 #include <QtTest>
 
 namespace {

@@ -3,7 +3,6 @@
 #include "tests/process/support/referencetree.h"
 #include "tests/process/support/synthetic.h"
 
-#include <QSignalSpy>
 #include <QtTest>
 
 using gtop_wrappers::IntProcessParam;

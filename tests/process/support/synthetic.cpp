@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/process/support/synthetic.h"
 
-#include <QRegularExpression>
-#include <QStringList>
 #include <QtTest>
 
 using namespace gtop_wrappers;
