@@ -3,7 +3,6 @@
 #include "../support/rows.h"
 #include "fixture.h"
 
-#include <QAccessible>
 #include <QtTest>
 #include <QtWidgets>
 

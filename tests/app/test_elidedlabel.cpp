@@ -2,7 +2,6 @@
 #include "../support/rows.h"
 #include "app/elidedlabel.h"
 
-#include <QAccessible>
 #include <QtTest>
 #include <QtWidgets>
 

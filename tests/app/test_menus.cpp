@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fixture.h"
-#include "rows.h"
 
 #include "../support/rows.h"
 #include "process/gtop_wrappers/filler.h"

@@ -2,7 +2,6 @@
 // The Network page of the whole controller on made-up interfaces.
 #include "../support/rows.h"
 #include "fixture.h"
-#include "rows.h"
 
 #include <QtTest>
 #include <QtWidgets>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../support/rows.h"
 #include "app/pageintervals.h"
-#include "rows.h"
 #include "tests/support/modal.h"
 
 #include <QtTest>

@@ -2,7 +2,6 @@
 // Values of the pages are selected and copied by mouse and keyboard.
 #include "fixture.h"
 
-#include <QClipboard>
 #include <QtTest>
 #include <QtWidgets>
 

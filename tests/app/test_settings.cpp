@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is kept from one run to the next, in the real settings file.
+#include "../support/rows.h"
 #include "fixture.h"
-#include "rows.h"
 
 #include "app/defaultgeometry.h"
 #include "app/pagescroll.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the controller adds to the form, and the General page as a whole.
 #include "fixture.h"
-#include "rows.h"
 
 #include "../support/rows.h"
 #include "fs/chart.h"

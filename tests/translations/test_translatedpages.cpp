@@ -44,7 +44,7 @@ private Q_SLOTS:
         }
     }
 
-    void theMenusAreLegible()
+    void theMenusAndTheContextMenuAreLegible()
     {
         QMetaObject::invokeMethod(&fixture->updater(), "slotTabChanged", Q_ARG(int, 1));
         auto *tree = Fixture::find<QTreeView>("treeView");
@@ -52,10 +52,6 @@ private Q_SLOTS:
         for (const QAction *title : Fixture::window()->menuBar()->actions()) {
             checkMenu(title->menu());
         }
-    }
-
-    void theContextMenuIsLegible()
-    {
         const ModalDriver driver([](QWidget *widget) {
             auto *menu = qobject_cast<QMenu *>(widget);
             checkMenu(menu); // with the choice of columns, its last entry
