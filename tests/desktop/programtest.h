@@ -5,7 +5,6 @@
 #include "tests/desktop/processespage.h"
 #include "tests/desktop/sampleprocess.h"
 
-#include <QJsonArray>
 #include <QtTest>
 
 #include <algorithm>

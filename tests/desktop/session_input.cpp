@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/session.h"
 
-#include <QJsonArray>
 #include <QtTest>
 
 namespace {

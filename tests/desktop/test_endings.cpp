@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/programtest.h"
+#include "tests/support/rows.h"
 
 #include <sys/resource.h>
 
@@ -33,10 +34,7 @@ private Q_SLOTS:
 
     void aSignalClosesOpenBoxesAndMenus_data()
     {
-        QTest::addColumn<QString>("opened");
-        for (const char *opened : {"question", "priority", "context menu", "menu bar"}) {
-            QTest::newRow(opened) << QString(opened);
-        }
+        addTextRows("opened", {"question", "priority", "context menu", "menu bar"});
     }
 
     /// The process that a question is about gets nothing.

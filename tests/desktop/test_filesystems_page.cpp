@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/pagesession.h"
 
-#include <QtMath>
 #include <QtTest>
 
 namespace {

@@ -2,7 +2,6 @@
 #include "tests/desktop/session.h"
 #include "tests/support/rows.h"
 
-#include <QJsonArray>
 #include <QtTest>
 
 #include <csignal>

@@ -24,6 +24,8 @@ private Q_SLOTS:
         QVERIFY(session->clickHeader("treeView", "User"));
         QVERIFY(session->waitFor([&] { return page->list().sortSection > 0; }));
         QCOMPARE(session->settings(), QByteArray());
+        manager->askToSave();
+        QVERIFY(session->waitFor([&] { return manager->hasSaved(); }));
     }
 
     void cleanup()
@@ -35,8 +37,6 @@ private Q_SLOTS:
 
     void theSettingsAreSavedEvenIfTheProgramIsKilledThen()
     {
-        manager->askToSave();
-        QVERIFY(session->waitFor([&] { return manager->hasSaved(); }));
         verifySaved();
         kill(static_cast<pid_t>(session->pid()), SIGKILL);
         QVERIFY(session->waitForExit());
@@ -45,8 +45,6 @@ private Q_SLOTS:
 
     void theProgramEndsWithTheSession()
     {
-        manager->askToSave();
-        QVERIFY(session->waitFor([&] { return manager->hasSaved(); }));
         manager->end();
         QVERIFY(session->waitFor([&] { return manager->hasSaved() && !session->isRunning(); }));
         QVERIFY(session->exitsCleanly());
@@ -55,8 +53,6 @@ private Q_SLOTS:
 
     void anEndThatIsCancelledLeavesTheWindow()
     {
-        manager->askToSave();
-        QVERIFY(session->waitFor([&] { return manager->hasSaved(); }));
         manager->cancel();
         QVERIFY2(waitForRefresh(), qPrintable(session->error()));
         QVERIFY(page->showPage("System"));

@@ -2,7 +2,6 @@
 #include "tests/desktop/session.h"
 #include "tests/support/rows.h"
 
-#include <QJsonArray>
 #include <QtTest>
 
 namespace {
@@ -84,16 +83,12 @@ private Q_SLOTS:
         QVERIFY(session->exitsCleanly());
     }
 
-    void exitInTheFileMenuQuits()
+    void exitInTheFileMenuAndClosingTheWindowQuit()
     {
         QVERIFY(session->start());
         QVERIFY(session->clickMenu("File"));
         QVERIFY(session->clickMenu("Exit"));
         QVERIFY(session->exitsCleanly());
-    }
-
-    void closingTheWindowQuits()
-    {
         QVERIFY(session->start());
         session->closeMainWindow();
         QVERIFY(session->exitsCleanly());
