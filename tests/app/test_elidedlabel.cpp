@@ -142,12 +142,16 @@ private Q_SLOTS:
         }
     }
 
-    void itIsElidedAtTheEndUnlessToldOtherwise()
+    void itHasFourCharactersAndIsElidedAtTheEndUnlessToldOtherwise()
     {
         QCOMPARE(ElidedLabel().elideMode(), Qt::ElideRight);
         ElidedLabel label;
         QVERIFY(label.setProperty("elideMode", QVariant::fromValue(Qt::ElideMiddle)));
         QCOMPARE(label.elideMode(), Qt::ElideMiddle);
+        QCOMPARE(label.property("leastCharacters"), QVariant(4));
+        QVERIFY(label.setProperty("leastCharacters", 12));
+        QCOMPARE(label.leastCharacters(), 12);
+        QVERIFY(label.minimumSizeHint().width() > ElidedLabel().minimumSizeHint().width());
     }
 
     void theToolTipIsTheWholeTextAndOnlyThereWhenElided_data() { addTexts(); }
