@@ -168,6 +168,17 @@ private Q_SLOTS:
         QVERIFY(callsOfRefresh() > hidden + 10);
     }
 
+    void aFilterReadsTheCommandLinesOutOfView()
+    {
+        showMany();
+        made(1390).arguments = std::string("needle\0", 7);
+        fixture->updater().update(true);
+        QTest::keyClick(view(), Qt::Key_N);
+        Fixture::find<QLineEdit>("filterText")->setText(QStringLiteral("needle"));
+        QTRY_COMPARE(list()->rowCount(), 1);
+        QCOMPARE(list()->processAt(list()->index(0, 0)).pid(), 1390);
+    }
+
 private:
     /// 400 processes in a list that shows a part of them, and of their columns.
     void showMany()
