@@ -77,14 +77,14 @@ private Q_SLOTS:
     {
         QFETCH(bool, flat);
         QFETCH(bool, execs);
-        startWithTree();
+        startWithTree(1); // not listed, so the parent is read in every refresh
         list()->setFlat(flat);
         for (int round = 0; round < 3; ++round) {
             select(400);
             if (execs) {
                 made(400).name = "exec" + std::to_string(round);
             } else {
-                made(400).parent = made(400).parent == 1 ? 300 : 1;
+                made(400).parent = made(400).parent == 1 ? 2 : 1;
             }
             fixture->refresh(1);
             QVERIFY(!list()->rowOfPid(400).isValid());
@@ -320,11 +320,11 @@ private:
     }
 
     /// A tree in which each process of the fixture is the parent of the next. Only the test refreshes.
-    void startWithTree()
+    void startWithTree(int parentOfTheLast = 300)
     {
-        for (const int pid : {200, 300, 400}) {
-            made(pid).parent = pid - 100;
-        }
+        made(200).parent = 100;
+        made(300).parent = 200;
+        made(400).parent = parentOfTheLast;
         fixture->start(1);
         Fixture::window()->findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly)->stop();
         Fixture::window()->resize(700, 500);
