@@ -10,7 +10,8 @@ void ListFilter::close()
     current = ShownRows();
 }
 
-void ListFilter::decideBefore(const ProcModel::Snapshot &snapshot, bool isFlat)
+void ListFilter::decideBefore(const ProcModel::Snapshot &snapshot, bool isFlat,
+                              const std::vector<ProcModel::Row> &rows)
 {
     FilterTexts::Processes processes;
     processes.reserve(snapshot.size());
@@ -19,6 +20,7 @@ void ListFilter::decideBefore(const ProcModel::Snapshot &snapshot, bool isFlat)
     }
     texts.update(processes);
     current = shownRows(snapshot, isFlat, [this](int pid) { return accepts(pid); });
+    addAncestors(current, rows);
 }
 
 ShownRows ListFilter::decide(const std::vector<ProcModel::Row> &rows) const

@@ -19,8 +19,11 @@ public:
     /// Forgets what was read.
     void close();
 
-    /// Before the rows change: decides by the snapshot, so that rows which are inserted are judged right.
-    void decideBefore(const ProcModel::Snapshot &snapshot, bool isFlat);
+    /// Before the rows change: decides by the snapshot, so that rows which are inserted are judged right. Of
+    /// the rows that there are, none is shown without those above it: the proxy would keep it in a mapping
+    /// that it frees when a hidden row above is removed.
+    void decideBefore(const ProcModel::Snapshot &snapshot, bool isFlat,
+                      const std::vector<ProcModel::Row> &rows);
     /// What is to be shown of these rows.
     ShownRows decide(const std::vector<ProcModel::Row> &rows) const;
     /// Takes over what decide() gave.

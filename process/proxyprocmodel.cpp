@@ -54,7 +54,7 @@ void ProxyProcModel::setTotalCpuTime(unsigned long total)
 void ProxyProcModel::refresh(const ProcModel::Snapshot &snapshot, int)
 {
     if (isFiltered()) {
-        filter.decideBefore(snapshot, isFlat());
+        filter.decideBefore(snapshot, isFlat(), isFlat() ? std::vector<ProcModel::Row>() : source->rows());
     }
     source->update(snapshot, currentCpuTotal - previousCpuTotal, 0);
     if (isFiltered()) {

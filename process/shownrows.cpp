@@ -54,6 +54,15 @@ ShownRows shownRows(const ProcModel::Snapshot &snapshot, bool isFlat, const Matc
     return shown;
 }
 
+void addAncestors(ShownRows &shown, const std::vector<ProcModel::Row> &rows)
+{
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) { // children before their parents
+        if (row->parent >= 0 && shown.contains(row->process->pid())) {
+            addAncestor(shown, rows[static_cast<std::size_t>(row->parent)].process->pid());
+        }
+    }
+}
+
 ShownRows shownRows(const std::vector<ProcModel::Row> &rows, const Matches &matches)
 {
     ShownRows shown;
@@ -65,10 +74,6 @@ ShownRows shownRows(const std::vector<ProcModel::Row> &rows, const Matches &matc
             ++shown.matches;
         }
     }
-    for (auto row = rows.rbegin(); row != rows.rend(); ++row) { // children before their parents
-        if (row->parent >= 0 && shown.contains(row->process->pid())) {
-            addAncestor(shown, rows[static_cast<std::size_t>(row->parent)].process->pid());
-        }
-    }
+    addAncestors(shown, rows);
     return shown;
 }

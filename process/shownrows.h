@@ -30,6 +30,8 @@ using Matches = std::function<bool(int pid)>;
 
 /// Before the rows are there: of each matching process all ancestors in the snapshot count.
 ShownRows shownRows(const ProcModel::Snapshot &snapshot, bool isFlat, const Matches &matches);
+/// Adds what is above the shown ones of these rows.
+void addAncestors(ShownRows &shown, const std::vector<ProcModel::Row> &rows);
 /// Of the rows that there are. In tree mode not every process has one.
 ShownRows shownRows(const std::vector<ProcModel::Row> &rows, const Matches &matches);
 

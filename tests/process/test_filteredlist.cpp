@@ -282,6 +282,19 @@ private Q_SLOTS:
         QVERIFY(!list.view.selectionModel()->hasSelection());
     }
 
+    /// The view's index of the match would otherwise outlive its row.
+    void aMatchLeavesWithItsParent()
+    {
+        FilteredList list(false);
+        list.refresh(makeSnapshot({{1, 0}, {2, 1}, {3, 2}}));
+        list.proxy->setFilter(QStringLiteral("p3"));
+        const QPersistentModelIndex match(list.row(3));
+        QVERIFY(match.isValid());
+        list.refresh(makeSnapshot({{1, 0}, {3, 2}})); // read before the kernel reparented it
+        QVERIFY(!match.isValid());
+        QCOMPARE(list.shown(), QString());
+    }
+
     void aProcessThatBeginsOrEndsToMatchComesAndGoes()
     {
         FilteredList list(true);
