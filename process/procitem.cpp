@@ -51,6 +51,21 @@ void ProcItem::leaveParent()
     parentItem = nullptr;
 }
 
+void ProcItem::moveTo(ProcItem *parent)
+{
+    parentItem = parent;
+    if (parent) {
+        parent->append(this);
+    }
+}
+
+void ProcItem::forgetMovedChildren()
+{
+    children.erase(std::remove_if(children.begin(), children.end(),
+                                  [this](const ProcItem *child) { return child->parentItem != this; }),
+                   children.end());
+}
+
 void ProcItem::forgetRelatives()
 {
     children.clear();

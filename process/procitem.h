@@ -34,9 +34,15 @@ public:
     void append(ProcItem *child) { children.push_back(child); }
     /// Removes itself from the parent's children and clears the parent.
     void leaveParent();
+    /// Appends itself to another parent's children. The one before keeps it until forgetMovedChildren().
+    void moveTo(ProcItem *parent);
+    /// Drops the children that have another parent by now.
+    void forgetMovedChildren();
     /// Clears parent and children without updating them; only for destroying all items at once.
     void forgetRelatives();
 
+    /// Another process has the pid: its CPU load begins anew.
+    void restart() { previousCpu = 0; }
     /// Begins a refresh: update() works once until the next call.
     void startPass() { updated = false; }
     /// Copies the values of `fresh` and computes the CPU load relative to `totalDelta`, the CPU time of the

@@ -10,7 +10,7 @@ using gtop_wrappers::Process;
 using gtop_wrappers::ProcessFiller;
 
 ProcModel::ProcModel(QObject *parent)
-    : QAbstractItemModel(parent), root(new ProcItem(QList<QVariant>(), nullptr)), flat(true),
+    : QAbstractItemModel(parent), root(new ProcItem(QList<QVariant>(), nullptr)), flat(true), complete(false),
       columnVisibility(ProcessFiller::instance()->size())
 {
     for (unsigned long i = 0; i < columnVisibility.size(); ++i) {
@@ -93,6 +93,17 @@ void ProcModel::setFlat(bool on)
     }
     clear();
     flat = on;
+}
+
+void ProcModel::setComplete(bool on)
+{
+    if (on == complete) {
+        return;
+    }
+    if (!flat) {
+        clear();
+    }
+    complete = on;
 }
 
 bool ProcModel::isColumnVisible(unsigned long i) const

@@ -2,6 +2,7 @@
 #ifndef PROCESS_PROCMODEL_H
 #define PROCESS_PROCMODEL_H
 
+#include "process/completetree.h"
 #include "process/gtop_wrappers/process.h"
 #include "process/processcontrol.h"
 #include "process/procitem.h"
@@ -10,6 +11,7 @@
 
 #include <map>
 #include <tr1/memory>
+#include <unordered_set>
 #include <vector>
 
 struct InsertedLine;
@@ -40,6 +42,12 @@ public:
     bool isFlat() const { return flat; }
     /// A change of mode empties the model.
     void setFlat(bool on);
+
+    /// Whether the tree has every process once, under its parent. Off at first, and without effect on a flat
+    /// list.
+    bool isComplete() const { return complete; }
+    /// A change empties a tree.
+    void setComplete(bool on);
 
     /// Throws std::out_of_range past the last process column.
     bool isColumnVisible(unsigned long i) const;
@@ -102,12 +110,23 @@ private:
     void removeReplaced(int pid);
     void removeSubtrees(const std::vector<int> &pids);
     void removeSubtree(ProcItem *top);
+    // The same for the complete tree: procmodel_complete.cpp
+    void updateComplete(const Snapshot &snapshot, quint64 totalDelta);
+    TreePlaces currentPlaces() const;
+    ProcItem *parentAt(const TreePlace &place) const;
+    void insertAt(const TreePlaces &places, const Snapshot &snapshot, quint64 totalDelta);
+    void updateAll(const Snapshot &snapshot, quint64 totalDelta);
+    void moveTo(const TreePlaces &places);
+    void followMoved(const std::vector<const ProcItem *> &parents);
+    void removeItems(const std::vector<int> &pids);
+    void removeChildren(ProcItem *parent, const std::unordered_set<const ProcItem *> &leaving);
     void destroyItems();
     void rebuildVisibleColumns();
 
     ItemPtr root;
     std::map<int, ItemPtr> items;
     bool flat;
+    bool complete;
     std::vector<bool> columnVisibility;
     std::vector<unsigned long> visibleColumns;
 };

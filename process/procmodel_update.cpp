@@ -59,6 +59,10 @@ std::vector<ProcItem *> branchOf(ProcItem *top, const ItemSet &excluded = {})
 
 void ProcModel::update(const Snapshot &snapshot, unsigned long totalDelta, int)
 {
+    if (!flat && complete) {
+        updateComplete(snapshot, totalDelta);
+        return;
+    }
     // QSortFilterProxyModel and QTreeView keep stale mappings if rows are inserted or removed between the two
     // layout signals, so mismatched rows are removed before them.
     const Matches matches = matchSnapshot(snapshot);

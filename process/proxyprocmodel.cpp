@@ -54,7 +54,10 @@ void ProxyProcModel::setTotalCpuTime(unsigned long total)
 void ProxyProcModel::refresh(const ProcModel::Snapshot &snapshot, int)
 {
     if (isFiltered()) {
-        filter.decideBefore(snapshot, isFlat(), isFlat() ? std::vector<ProcModel::Row>() : source->rows());
+        // In the complete tree rows move, so what is above them in the snapshot counts.
+        const bool isRequiredTree = !isFlat() && !isComplete();
+        filter.decideBefore(snapshot, isFlat(),
+                            isRequiredTree ? source->rows() : std::vector<ProcModel::Row>());
     }
     source->update(snapshot, currentCpuTotal - previousCpuTotal, 0);
     if (isFiltered()) {
@@ -111,6 +114,23 @@ void ProxyProcModel::setFlat(bool on)
 {
     Q_EMIT aboutToEmptyList();
     source->setFlat(on);
+    reset();
+    Q_EMIT listEmptied();
+}
+
+bool ProxyProcModel::isComplete() const
+{
+    return source->isComplete();
+}
+
+void ProxyProcModel::setComplete(bool on)
+{
+    if (isFlat()) {
+        source->setComplete(on);
+        return;
+    }
+    Q_EMIT aboutToEmptyList();
+    source->setComplete(on);
     reset();
     Q_EMIT listEmptied();
 }

@@ -41,6 +41,9 @@ public:
     void setProcessTypes(int processTypes);
     bool isFlat() const;
     void setFlat(bool on);
+    /// Whether the tree is complete (see ProcModel). A flat list stays as it is.
+    bool isComplete() const;
+    void setComplete(bool on);
     /// Both throw std::out_of_range past the last process column.
     bool isColumnVisible(unsigned long i) const;
     /// The list stays sorted by the same process column; by name, ascending, if that one is hidden.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/proxyprocmodel.h"
+#include "tests/process/support/firstcellonly.h"
 #include "tests/process/support/world.h"
 
 #include <QAbstractItemModelTester>
@@ -293,6 +294,21 @@ private Q_SLOTS:
         list.refresh(makeSnapshot({{1, 0}, {3, 2}})); // read before the kernel reparented it
         QVERIFY(!match.isValid());
         QCOMPARE(list.shown(), QString());
+    }
+
+    void aRowThatMovesUnderAHiddenOneIsHidden()
+    {
+        FilteredList list(false);
+        list.proxy->setComplete(true);
+        FirstCellOnly firstCellOnly;
+        firstCellOnly.setSourceModel(list.proxy);
+        const QAbstractItemModelTester tester(&firstCellOnly,
+                                              QAbstractItemModelTester::FailureReportingMode::QtTest);
+        list.refresh(makeSnapshot({{2, 0}, {3, 2}, {4, 0}}));
+        list.proxy->setFilter(QStringLiteral("p3"));
+        QCOMPARE(list.shown(), QStringLiteral("2-(3)"));
+        list.refresh(makeSnapshot({{2, 4}, {3, 0}, {4, 0}}));
+        QCOMPARE(list.shown(), QStringLiteral("3"));
     }
 
     void aProcessThatBeginsOrEndsToMatchComesAndGoes()

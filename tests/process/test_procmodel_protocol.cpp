@@ -48,6 +48,23 @@ private Q_SLOTS:
                  QStringLiteral("-2 < > +2 +4 -2 -3"));
     }
 
+    /// Rows come before the layout change and leave after it. Those under one parent do so at once, the first
+    /// standing for all of them, and what moves is part of the layout change.
+    void signalsInTheCompleteTree()
+    {
+        ProcModel model;
+        model.setFlat(false);
+        model.setComplete(true);
+        QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}, {3, 2}})), QStringLiteral("+1 < >"));
+        QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {2, 1}, {3, 2}, {4, 3}, {5, 1}, {6, 1}})),
+                 QStringLiteral("+5 +4 < >"));
+        QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}, {3, 1}, {4, 3}, {5, 1}, {6, 1}})),
+                 QStringLiteral("< > -2"));
+        QCOMPARE(shapeOf(model), QStringLiteral("1(5 6 3(4))"));
+        QCOMPARE(signalsOf(&model, makeSnapshot({{1, 0}})), QStringLiteral("< > -5"));
+        QCOMPARE(shapeOf(model), QStringLiteral("1"));
+    }
+
     void signalsInTreeMode()
     {
         ProcModel model;

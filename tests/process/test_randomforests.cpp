@@ -1,92 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/proxyprocmodel.h"
 #include "tests/process/support/firstcellonly.h"
+#include "tests/process/support/forest.h"
 #include "tests/process/support/referencetree.h"
 
 #include <QAbstractItemModelTester>
 #include <QTreeView>
 #include <QtTest>
 
-#include <iterator>
-#include <random>
 #include <vector>
 
 namespace {
-
-/// How the parent of a process is chosen.
-enum Shape {
-    Bushes,
-    ChainsDown, ///< parents mostly have the next smaller pid
-    ChainsUp,   ///< or the next greater one
-    Rings,
-};
-
-/// A few processes with many changes between two refreshes.
-class Forest
-{
-public:
-    Forest(Shape parents, int processes, unsigned int seed) : random(seed), shape(parents), size(processes)
-    {
-        for (int i = 0; i < size; ++i) {
-            change(shape == ChainsUp ? 2 * (size - i) : 2 * i + 1);
-        }
-    }
-
-    void step()
-    {
-        for (int changes = pick(pick(4) == 0 ? size : 4); changes > 0; --changes) {
-            change(1 + pick(2 * size));
-        }
-        for (auto &entry : alive) {
-            entry.second.cpuCounter += pick(3);
-        }
-    }
-    int pick(int end) { return static_cast<int>(random() % static_cast<unsigned int>(end)); }
-
-    FactsByPid alive;
-
-private:
-    void change(int pid)
-    {
-        const auto found = alive.find(pid);
-        if (found == alive.end() && static_cast<int>(alive.size()) < size) {
-            alive[pid] = Facts{pid, parentFor(pid), QString::number(pick(3)), pick(100)};
-        } else if (found == alive.end()) {
-            return;
-        } else if (const int what = pick(8); what == 0) {
-            found->second.ppid = parentFor(pid);
-        } else if (what == 1) {
-            found->second.name = QString::number(pick(3));
-        } else if (what == 2) { // children notice that their parent is gone, or are read too early
-            alive.erase(found);
-            for (auto &entry : alive) {
-                entry.second.ppid = entry.second.ppid == pid && pick(2) == 0 ? 0 : entry.second.ppid;
-            }
-        }
-    }
-    int parentFor(int pid)
-    {
-        const auto self = alive.lower_bound(pid);
-        if (alive.empty() || pick(20) == 0) {
-            return pick(3) * pid; // none, itself, or somewhere beyond
-        }
-        if (shape == ChainsDown && pick(20) != 0) {
-            return self != alive.begin() ? std::prev(self)->first : 0;
-        }
-        if (shape == ChainsUp && pick(20) != 0) {
-            return self != alive.end() ? self->first : 0;
-        }
-        const auto any = std::next(alive.begin(), pick(static_cast<int>(alive.size())));
-        if (shape == Rings && pick(3) == 0) {
-            any->second.ppid = pid;
-        }
-        return any->first;
-    }
-
-    std::mt19937 random;
-    Shape shape;
-    int size;
-};
 
 /// All rows of the view, and whether they are expanded.
 std::vector<std::pair<QPersistentModelIndex, bool>> rowsOf(const QTreeView &view)
@@ -105,8 +29,6 @@ std::vector<std::pair<QPersistentModelIndex, bool>> rowsOf(const QTreeView &view
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(Shape)
 
 /// The model after random changes, with everything attached, against the literal rules.
 class TestRandomForests : public QObject

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/process/support/synthetic.h"
 
+#include "process/gtop_wrappers/textondemand.h"
+
+#include <QRegularExpression>
+#include <QStringList>
 #include <QtTest>
 
 using namespace gtop_wrappers;
@@ -61,6 +65,9 @@ Process makeProcess(const Facts &facts)
     // The counter is one more than the time.
     const auto time = static_cast<int>(static_cast<unsigned>(facts.cpuCounter) - 1U);
     process.params[CpuTimeColumn].reset(new IntProcessParam(time));
+    if (facts.start != 0) {
+        process.params[StartedColumn].reset(new StartedProcessParam(facts.start));
+    }
     return process;
 }
 

@@ -18,6 +18,7 @@ struct Facts
     int cpuCounter = 100;
     int state = 1;
     int nice = 0;
+    quint64 start = 0; ///< seconds since the epoch
 };
 
 using FactsByPid = std::map<int, Facts>;

@@ -73,6 +73,7 @@ void World::reusePid()
     reused.ppid = pick(3) == 0 ? reused.ppid : anyPid();
     reused.name = QStringLiteral("reused %1").arg(++execs);
     reused.cpuCounter = pick(3);
+    ++reused.start;
 }
 
 void World::reparent()
