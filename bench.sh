@@ -26,7 +26,7 @@ trap 'exec 8>&-; stop_desktop' EXIT # the spawner of bench processes exits at th
 # start_monitor <page> <interval of all pages> [<preloaded library>]: sets `monitor` and `window`.
 start_monitor() {
     mkdir -p "$work/config/Telmorra"
-    printf '[interval]\ngeneral=%s\nprocs=%s\nfs=%s\n' "$2" "$2" "$2" >"$work/config/Telmorra/zarn-system-monitor.conf"
+    printf '[interval]\ngeneral=%s\nprocs=%s\nfs=%s\n[General]\ncomplete_tree=true\n' "$2" "$2" "$2" >"$work/config/Telmorra/zarn-system-monitor.conf"
     rm -f "$work/refreshes"
     LD_PRELOAD=${3:-} ZSM_REFRESHES=$work/refreshes ZSM_STANDIN=$work/machine "$program" "$1" &
     monitor=$!
@@ -62,12 +62,12 @@ note() { # note <what> <file of numbers> [<file of reference numbers>]
     line "$1" "$(spread <"$2")" "$ratio"
 }
 
-# measure_refresh <file> [<typed into the list>]: CPU time of a refresh of the process page (all processes, flat, default
+# measure_refresh <file> [<key>...]: CPU time of a refresh of the process page (all processes, flat, default
 # columns), µs per process.
 measure_refresh() {
     start_monitor processes 1 "$bin/libbench_refreshcounter.so"
     xdotool windowactivate --sync "$window" key --clearmodifiers ctrl+a
-    [ -z "${2:-}" ] || xdotool key Tab type "$2" # Tab leads from the tabs to the list
+    [ $# -eq 1 ] || xdotool key "${@:2}"
     wait_refreshes 4
     local cpu count refreshed
     wait_refreshes 1 # measures from the end of a refresh to the end of another
@@ -81,7 +81,7 @@ measure_refresh() {
 }
 
 measure_size() { # <additional processes>
-    rm -f "$work"/{calls,page,filtered,rss.page,rss.filtered,read,show,keystroke,reading}
+    rm -f "$work"/{calls,page,filtered,tree,rss.page,rss.filtered,rss.tree,read,show,showtree,keystroke,reading}
     mkfifo "$work/load.$1"
     "$bin/bench_spawner" "$1" <"$work/load.$1" >"$work/spawned" &
     local spawner=$!
@@ -93,10 +93,12 @@ measure_size() { # <additional processes>
     for _ in $(seq "$repeats"); do
         "$bin/bench_calls" 5 | median >>"$work/calls"; echo >>"$work/calls"
         measure_refresh page
-        measure_refresh filtered b # which nearly all match: the spawner's name
+        measure_refresh filtered Tab b # Tab leads from the tabs to the list; nearly all match: the spawner's name
+        measure_refresh tree ctrl+f
         "$bin/bench_list" 5 >"$work/list"
         cut -d ' ' -f 1 "$work/list" | median >>"$work/read"; echo >>"$work/read"
         cut -d ' ' -f 2 "$work/list" | median >>"$work/show"; echo >>"$work/show"
+        cut -d ' ' -f 3 "$work/list" | median >>"$work/showtree"; echo >>"$work/showtree"
         "$bin/bench_filter" 5 >"$work/filter"
         cut -d ' ' -f 1 "$work/filter" | median >>"$work/keystroke"; echo >>"$work/keystroke"
         cut -d ' ' -f 4 "$work/filter" | median >>"$work/reading"; echo >>"$work/reading"
@@ -104,10 +106,12 @@ measure_size() { # <additional processes>
     note "four libgtop calls, $count processes, µs per process" "$work/calls"
     note "one refresh of the process page, $count processes, µs per process" "$work/page" "$work/calls"
     note "the same with the filter line open, $count processes, µs per process" "$work/filtered" "$work/calls"
+    note "the same as a complete tree, $count processes, µs per process" "$work/tree" "$work/calls"
     note "a keystroke in the filter line (library), $count processes, ms" "$work/keystroke"
     note "reading all command lines for the filter (library), $count processes, ms" "$work/reading"
     note "snapshot alone (library), $count processes, µs per process" "$work/read" "$work/calls"
     note "model, proxy and view alone, $count processes, µs per process" "$work/show" "$work/calls"
+    note "model, proxy and view alone, complete tree, $count processes, µs per process" "$work/showtree" "$work/calls"
     note "resident memory of the process page, $count processes, MB" "$work/rss.page"
     measure_start processes "$count"
     exec 8>&-
