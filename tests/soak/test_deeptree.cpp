@@ -49,27 +49,27 @@ private Q_SLOTS:
     void noRefreshOfADeepTreeTakesLong_data()
     {
         QTest::addColumn<bool>("shuffled");
-        QTest::newRow("pids in their order") << false;
-        QTest::newRow("pids in any order") << true;
+        QTest::addColumn<bool>("complete");
+        QTest::newRow("pids in their order") << false << false;
+        QTest::newRow("pids in any order") << true << false;
+        QTest::newRow("complete, pids in their order") << false << true;
+        QTest::newRow("complete, pids in any order") << true << true;
     }
 
     void noRefreshOfADeepTreeTakesLong()
     {
         QFETCH(bool, shuffled);
+        QFETCH(bool, complete);
         const int depth = runSize("ZSM_SOAK_DEPTH", 1000);
         const std::vector<int> pids = pidsOf(depth, shuffled);
         Fixture fixture;
         auto &processes = *standin::machine().processes;
         const standin::Process any = processes.begin()->second;
-        processes.clear();
-        int parent = 1;
-        for (const int pid : pids) {
-            processes[pid] = any;
-            processes[pid].parent = std::exchange(parent, pid);
-        }
+        makeChain(pids);
         const auto refreshed = [&](const char *what) { verifyTime(what, [&] { refresh(fixture); }); };
 
         fixture.start(1);
+        processList()->setComplete(complete);
         verifyTime("to the tree", [&] { findAction(fixture, "Tree view")->trigger(); });
         QCOMPARE(shownDepth(), depth);
         refreshed("nothing changes");
@@ -101,7 +101,63 @@ private Q_SLOTS:
         QCOMPARE(shownDepth(), 0);
     }
 
+    void noRefreshOfAFilteredDeepTreeTakesLong_data() { noRefreshOfADeepTreeTakesLong_data(); }
+
+    void noRefreshOfAFilteredDeepTreeTakesLong()
+    {
+        QFETCH(bool, shuffled);
+        QFETCH(bool, complete);
+        const int depth = runSize("ZSM_SOAK_DEPTH", 1000);
+        const std::vector<int> pids = pidsOf(depth, shuffled);
+        Fixture fixture;
+        auto &processes = *standin::machine().processes;
+        makeChain(pids);
+        fixture.start(1);
+        processList()->setComplete(complete);
+        processList()->setFlat(false);
+        const auto typed = [&](const QString &text, int rows) {
+            verifyTime(qPrintable(text), [&] {
+                processList()->setFilter(text);
+                QCoreApplication::processEvents();
+            });
+            QCOMPARE(shownDepth(), rows);
+        };
+        const auto refreshed = [&](const char *what, int rows) {
+            verifyTime(what, [&] { refresh(fixture); });
+            QCOMPARE(shownDepth(), rows);
+        };
+        const int half = depth / 2;
+        typed(QString::number(pids.back()), depth);
+        refreshed("the last one is found", depth);
+        typed(QStringLiteral("none"), 0);
+        refreshed("nothing is found", 0);
+        typed(QStringLiteral("made"), depth);
+        refreshed("all are found", depth);
+        const int exited = pids[static_cast<std::size_t>(half)];
+        processes.at(pids[static_cast<std::size_t>(half + 1)]).parent = processes.at(exited).parent;
+        processes.erase(exited);
+        refreshed("one in the middle exits", complete ? depth - 1 : half);
+        refreshed("the refresh after it", depth - 1);
+        refreshed("another one", depth - 1);
+        verifyTime("the line closes", [] { processList()->closeFilter(); });
+        QCOMPARE(shownDepth(), depth - 1);
+        processes.clear();
+        refreshed("all exit", 0); // the next test has the same pids
+    }
+
 private:
+    static void makeChain(const std::vector<int> &pids)
+    {
+        auto &processes = *standin::machine().processes;
+        const standin::Process any = processes.begin()->second;
+        processes.clear();
+        int parent = 1;
+        for (const int pid : pids) {
+            processes[pid] = any;
+            processes[pid].parent = std::exchange(parent, pid);
+        }
+    }
+
     /// From the first process downward. The last one, which brings the whole line, has the greatest pid.
     static std::vector<int> pidsOf(int depth, bool shuffled)
     {
