@@ -29,6 +29,7 @@ constexpr int defaultInterval = 3;
 
 constexpr char sortColumn[] = "proc_sort_column";
 constexpr char sortOrder[] = "proc_sort_order";
+constexpr char completeTree[] = "complete_tree"; ///< only stored while it is on
 constexpr char splitter[] = "fsSplitter";
 
 /// Key for the visibility of a process column.

@@ -48,6 +48,7 @@ void Updater::loadSettings()
         const QString key = settings::columnKey(filler->name(i));
         procModel->setColumnVisible(i, stored.value(key, procModel->isColumnVisible(i)).toBool());
     }
+    procModel->setComplete(stored.value(QLatin1String(settings::completeTree)).toBool());
     const int order = stored.value(QLatin1String(settings::sortOrder)).toInt();
     const int column = stored.value(QLatin1String(settings::sortColumn)).toInt();
     ui.treeView->sortByColumn(column,
@@ -74,5 +75,10 @@ void Updater::saveSettings()
     }
     stored.setValue(QLatin1String(settings::sortColumn), procModel->sortColumn());
     stored.setValue(QLatin1String(settings::sortOrder), static_cast<int>(procModel->sortOrder()));
+    if (procModel->isComplete()) {
+        stored.setValue(QLatin1String(settings::completeTree), true);
+    } else {
+        stored.remove(QLatin1String(settings::completeTree));
+    }
     stored.setValue(QLatin1String(settings::splitter), ui.splitter->saveState());
 }

@@ -61,15 +61,16 @@ void ListPlace::restoreSelection(const ProxyProcModel &model, QTreeView &view) c
 {
     QItemSelectionModel *selection = view.selectionModel();
     const QModelIndex row = rowOf(model, selected);
+    if (isExpandedTo) {
+        expandAncestors(view,
+                        row); // also of a row that has moved, so that no action reaches one out of sight
+    }
     if (row == selectedRow(view)) {
         return;
     }
     if (!row.isValid()) {
         selection->clear();
         return;
-    }
-    if (isExpandedTo) {
-        expandAncestors(view, row);
     }
     const bool scrollsToCurrent = view.hasAutoScroll();
     view.setAutoScroll(false);

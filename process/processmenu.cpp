@@ -30,6 +30,7 @@ enum CommandKind {
     SendSignal = 1,       ///< argument: signal number
     ExpandOrCollapse = 2, ///< argument: 1 expands all rows, 0 collapses them
     ToggleTree = 3,       ///< no argument
+    ToggleComplete = 7,   ///< no argument
     ChangePriority = 4,   ///< no argument
     FindProcess = 5       ///< no argument
 };
@@ -122,6 +123,8 @@ const ProcessMenu::ActionRow ProcessMenu::actionRows[] = {
                                        "All process data can be lost.")}},
     {&ProcessMenu::changePriority, QT_TRANSLATE_NOOP("ProcessMenu", "Change priority..."),
      "", "", "", Plain, ChangePriority, noArgument},
+    {&ProcessMenu::completeTree, QT_TRANSLATE_NOOP("ProcessMenu", "Complete tree"),
+     "", "", "", Checkable, ToggleComplete, noArgument},
     {&ProcessMenu::findProcess, QT_TRANSLATE_NOOP("ProcessMenu", "Find process..."),
      "", "", "", Plain, FindProcess, noArgument},
 };
@@ -132,6 +135,7 @@ QAction *ProcessMenu::*const ProcessMenu::menuOrder[] = {
     &ProcessMenu::treeView,
     &ProcessMenu::expandAll,
     &ProcessMenu::collapseAll,
+    &ProcessMenu::completeTree,
     nullptr,
     &ProcessMenu::myProcesses,
     &ProcessMenu::allProcesses,
@@ -204,6 +208,8 @@ void ProcessMenu::updateListActions()
     treeView->setChecked(!model->isFlat());
     expandAll->setVisible(!model->isFlat());
     collapseAll->setVisible(!model->isFlat());
+    completeTree->setVisible(!model->isFlat());
+    completeTree->setChecked(model->isComplete());
     myProcesses->setChecked(model->processTypes() == gtop_wrappers::MyProcesses);
     allProcesses->setChecked(model->processTypes() == gtop_wrappers::AllProcesses);
 }
@@ -261,6 +267,9 @@ void ProcessMenu::process()
         break;
     case ToggleTree:
         model->setFlat(!model->isFlat());
+        break;
+    case ToggleComplete:
+        model->setComplete(!model->isComplete());
         break;
     case ChangePriority:
         changePriorityOfSelected();

@@ -51,6 +51,7 @@ private:
     QAction *treeView;
     QAction *expandAll;
     QAction *collapseAll;
+    QAction *completeTree;
     QAction *myProcesses;
     QAction *allProcesses;
     QAction *stopProcess;

@@ -33,6 +33,7 @@ private Q_SLOTS:
             row("other types", 2, [] { list()->setProcessTypes(1 - list()->processTypes()); });
             row("same types", 2, [] { list()->setProcessTypes(list()->processTypes()); });
             row("other mode", 3, [] { list()->setFlat(!list()->isFlat()); });
+            row("complete or required tree", 3, [] { list()->setComplete(!list()->isComplete()); });
             row("same mode", 2, [] { list()->setFlat(list()->isFlat()); });
             for (unsigned long column = 0; column < ProcessFiller::instance()->size(); ++column) {
                 row(qPrintable(ProcessFiller::instance()->name(column)), 2, [column] { toggle(column); });

@@ -139,6 +139,27 @@ private Q_SLOTS:
         QCOMPARE(stored("proc_sort_order").toInt(), 1);
     }
 
+    void theCompleteTreeIsOnlyStoredWhileItIsOn()
+    {
+        const auto restart = [this] {
+            fixture->stop();
+            fixture->start(1);
+        };
+        const QString key = QStringLiteral("complete_tree");
+        fixture->start(1);
+        QVERIFY(!Fixture::processes()->isComplete());
+        Fixture::processes()->setComplete(true);
+        restart();
+        QVERIFY(QSettings().value(key).toBool());
+        QVERIFY(Fixture::processes()->isComplete() && Fixture::processes()->isFlat());
+        restart();
+        QVERIFY(Fixture::processes()->isComplete());
+        Fixture::processes()->setComplete(false);
+        restart();
+        QVERIFY(!QSettings().contains(key));
+        QVERIFY(!Fixture::processes()->isComplete());
+    }
+
     void splitterLastsOrIsLeftAlone()
     {
         const auto splitter = [] { return Fixture::find<QSplitter>("splitter"); };

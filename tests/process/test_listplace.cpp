@@ -158,6 +158,26 @@ private Q_SLOTS:
         }
     }
 
+    /// In the complete tree it is the same row wherever it moves.
+    void aSelectedRowThatMovesStaysInSight()
+    {
+        Processes list;
+        list.proxy->setFlat(false);
+        list.proxy->setComplete(true);
+        list.refresh({{1, 0}, {2, 1}, {3, 0}, {4, 3}});
+        list.select(2);
+        list.view.collapse(list.proxy->rowOfPid(3));
+        const ListPlace place = list.place();
+        const QPersistentModelIndex row(list.proxy->rowOfPid(2));
+        list.refresh({{1, 0}, {2, 3}, {3, 0}, {4, 3}});
+        QCOMPARE(row.parent(), list.proxy->rowOfPid(3));
+        QCOMPARE(list.selected(), 2);
+        QVERIFY(!list.view.isExpanded(row.parent()));
+        place.restoreSelection(*list.proxy, list.view);
+        QCOMPARE(list.selected(), 2);
+        QVERIFY(list.view.isExpanded(row.parent()));
+    }
+
     void aProcessWithoutARowIsNotSelected()
     {
         Processes list;

@@ -69,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(made.join(QLatin1Char('|')),
                  QStringLiteral("Tree view|Expand all|Collapse all|QActionGroup|All processes|My processes|"
                                 "Stop process|Continue process|Terminate process|Kill process|"
-                                "Change priority...|Find process..."));
+                                "Change priority...|Complete tree|Find process..."));
     }
 
     void actionsHaveTheirProperties_data()
@@ -85,6 +85,7 @@ private Q_SLOTS:
         row("Terminate process", "Ctrl+T", false, false, QVariantList{1, 15});
         row("Kill process", "Ctrl+K", false, false, QVariantList{1, 9});
         row("Change priority...", "", false, false, QVariantList{4});
+        row("Complete tree", "", true, false, QVariantList{7});
         row("Find process...", "", false, false, QVariantList{5});
     }
 
@@ -132,10 +133,10 @@ private Q_SLOTS:
     void severalMenusShareTheActionsInOrderAndCheckTheTreeViewByTheMode()
     {
         const Desk desk;
-        const QString texts =
-            QStringLiteral("Tree view|Expand all|Collapse all|-|My processes|All processes|-|Stop process|"
-                           "Continue process|Terminate process|Kill process|Change priority...|-|"
-                           "Find process...");
+        const QString texts = QStringLiteral(
+            "Tree view|Expand all|Collapse all|Complete tree|-|My processes|All processes|-|Stop process|"
+            "Continue process|Terminate process|Kill process|Change priority...|-|"
+            "Find process...");
         QMenu lasting;
         desk.actions->fillMenu(&lasting);
         QVERIFY(!desk.action("Tree view")->isChecked());
@@ -203,7 +204,7 @@ private Q_SLOTS:
         }
     }
 
-    void expandAndCollapseShowInTreeModeOnly()
+    void actionsOnTheTreeShowInTreeModeOnly()
     {
         const Desk desk;
         for (const bool flat : {true, false, true}) {
@@ -212,6 +213,17 @@ private Q_SLOTS:
             QCOMPARE(desk.action("Tree view")->isChecked(), !flat);
             QCOMPARE(desk.action("Expand all")->isVisible(), !flat);
             QCOMPARE(desk.action("Collapse all")->isVisible(), !flat);
+            QCOMPARE(desk.action("Complete tree")->isVisible(), !flat);
+        }
+    }
+
+    void theCompleteTreeIsCheckedByTheList()
+    {
+        const Desk desk;
+        for (const bool complete : {false, true, false}) {
+            desk.list->setComplete(complete);
+            desk.actions->setProcess(Process(-1));
+            QCOMPARE(desk.action("Complete tree")->isChecked(), complete);
         }
     }
 
@@ -251,6 +263,30 @@ private Q_SLOTS:
         QCOMPARE(resets.count(), 3);
         desk.trigger("Tree view");
         QVERIFY(desk.list->isFlat());
+    }
+
+    void completeTreeSwitchesTheModeOfTheTree()
+    {
+        const Desk desk;
+        desk.trigger("Tree view");
+        const QSignalSpy resets(desk.list, SIGNAL(modelReset()));
+        const QSignalSpy emptied(desk.list, SIGNAL(listEmptied()));
+        desk.trigger("Complete tree");
+        QVERIFY(desk.list->isComplete() && !desk.list->isFlat());
+        QCOMPARE(resets.count(), 3);
+        QCOMPARE(emptied.count(), 1);
+        desk.trigger("Complete tree");
+        QVERIFY(!desk.list->isComplete());
+    }
+
+    void aFlatListStaysAsItIsWhenTheTreeBecomesComplete()
+    {
+        const Desk desk;
+        desk.list->refresh(makeSnapshot({{1, 0}, {2, 1}}));
+        const QSignalSpy resets(desk.list, SIGNAL(modelReset()));
+        desk.list->setComplete(true);
+        QCOMPARE(resets.count(), 0);
+        QCOMPARE(desk.list->rowCount(), 2);
     }
 
     void allProcessesResetsEvenWhenChecked()
