@@ -427,6 +427,10 @@ Všechna data procesu mohou být ztracena.</translation>
         <source>Find process...</source>
         <translation>Najít proces...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Úplný strom</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -427,6 +427,10 @@ Alle Daten des Prozesses können verloren gehen.</translation>
         <source>Find process...</source>
         <translation>Prozess suchen...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Vollständiger Baum</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

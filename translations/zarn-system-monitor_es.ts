@@ -427,6 +427,10 @@ Se pueden perder todos los datos del proceso.</translation>
         <source>Find process...</source>
         <translation>Buscar proceso...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Árbol completo</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

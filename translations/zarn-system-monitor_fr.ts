@@ -427,6 +427,10 @@ Toutes les données du processus peuvent être perdues.</translation>
         <source>Find process...</source>
         <translation>Rechercher un processus...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Arbre complet</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -427,6 +427,10 @@ Tutti i dati del processo potrebbero andare persi.</translation>
         <source>Find process...</source>
         <translation>Trova processo...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Albero completo</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -427,6 +427,10 @@ All process data can be lost.</source>
         <source>Find process...</source>
         <translation>プロセスを検索...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>完全なツリー</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

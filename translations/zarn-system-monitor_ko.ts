@@ -427,6 +427,10 @@ All process data can be lost.</source>
         <source>Find process...</source>
         <translation>프로세스 찾기...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>전체 트리</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -427,6 +427,10 @@ Alle gegevens van het proces kunnen verloren gaan.</translation>
         <source>Find process...</source>
         <translation>Proces zoeken...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Volledige boom</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

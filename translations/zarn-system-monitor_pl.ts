@@ -427,6 +427,10 @@ Wszystkie dane procesu mogą zostać utracone.</translation>
         <source>Find process...</source>
         <translation>Znajdź proces...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Pełne drzewo</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

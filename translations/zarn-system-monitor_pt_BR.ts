@@ -427,6 +427,10 @@ Todos os dados do processo podem ser perdidos.</translation>
         <source>Find process...</source>
         <translation>Localizar processo...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Árvore completa</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -427,6 +427,10 @@ All process data can be lost.</source>
         <source>Find process...</source>
         <translation>Найти процесс...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Полное дерево</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

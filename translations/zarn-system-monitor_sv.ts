@@ -427,6 +427,10 @@ Alla processens data kan gå förlorade.</translation>
         <source>Find process...</source>
         <translation>Sök process...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Fullständigt träd</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -427,6 +427,10 @@ Sürecin tüm verileri kaybolabilir.</translation>
         <source>Find process...</source>
         <translation>Süreç bul...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Tam ağaç</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

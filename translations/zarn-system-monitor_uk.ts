@@ -427,6 +427,10 @@ All process data can be lost.</source>
         <source>Find process...</source>
         <translation>Знайти процес...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>Повне дерево</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -427,6 +427,10 @@ All process data can be lost.</source>
         <source>Find process...</source>
         <translation>查找进程...</translation>
     </message>
+    <message>
+        <source>Complete tree</source>
+        <translation>完整树</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
