@@ -24,8 +24,7 @@ void Updater::buildMenus()
 void Updater::buildFileMenu()
 {
     fileMenu = ui.menubar->addMenu(tr("&File"));
-    const QIcon fallback = embeddedIcon(QStringLiteral(":/images/exit"));
-    const QIcon icon = QIcon::fromTheme(QStringLiteral("application-exit"), fallback);
+    const QIcon icon = themedIcon(QStringLiteral("application-exit"), QStringLiteral(":/images/exit"));
     fileMenu->addAction(icon, tr("Exit"), qApp, SLOT(quit()), QKeySequence(QStringLiteral("Ctrl+Q")));
 }
 

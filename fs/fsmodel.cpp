@@ -26,7 +26,10 @@ bool isOpticalType(const QString &type)
 
 } // namespace
 
-FSModel::FSModel(QObject *parent) : QAbstractTableModel(parent)
+FSModel::FSModel(QObject *parent)
+    : QAbstractTableModel(parent),
+      opticalIcon(themedIcon(QStringLiteral("drive-optical"), QStringLiteral(":/images/cd"))),
+      diskIcon(themedIcon(QStringLiteral("drive-harddisk"), QStringLiteral(":/images/hard")))
 {}
 
 FSModel::~FSModel() = default;
@@ -149,12 +152,7 @@ QModelIndex FSModel::firstIndex() const
 
 QIcon FSModel::icon(const FSInfo &info) const
 {
-    if (diskFallback.isNull()) {
-        opticalFallback = embeddedIcon(QStringLiteral(":/images/cd"));
-        diskFallback = embeddedIcon(QStringLiteral(":/images/hard"));
-    }
-    return isOpticalType(info.type) ? QIcon::fromTheme(QStringLiteral("drive-optical"), opticalFallback)
-                                    : QIcon::fromTheme(QStringLiteral("drive-harddisk"), diskFallback);
+    return isOpticalType(info.type) ? opticalIcon : diskIcon;
 }
 
 qint64 FSModel::sumOverDevices(qint32 FSInfo::*count) const

@@ -45,9 +45,8 @@ private:
     qint64 sumOverDevices(qint32 FSInfo::*count) const;
 
     std::vector<std::tr1::shared_ptr<FSItem>> rows;
-    // Made for the first cell that is painted, since that takes a while, and kept.
-    mutable QIcon opticalFallback;
-    mutable QIcon diskFallback;
+    QIcon opticalIcon;
+    QIcon diskIcon;
 };
 
 #endif

@@ -167,8 +167,7 @@ void ProcessMenu::createAction(const ActionRow &row, QActionGroup *&group)
     auto *action = new QAction(tr(row.text), this);
     action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
     if (*row.themeIcon) {
-        const QIcon fallback = embeddedIcon(QLatin1String(row.fallbackIcon));
-        action->setIcon(QIcon::fromTheme(QLatin1String(row.themeIcon), fallback));
+        action->setIcon(themedIcon(QLatin1String(row.themeIcon), QLatin1String(row.fallbackIcon)));
     }
     action->setCheckable(row.checking != Plain);
     if (isExclusive) {
