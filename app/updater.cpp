@@ -98,6 +98,9 @@ Pages Updater::duePages(bool _updateAll) const
 
 void Updater::refresh(const Pages &pages)
 {
+    if (pages.none()) {
+        return; // most ticks: renewing the descriptors would be all they cost
+    }
     const ReleasedDescriptors released(descriptors);
     if (!released.enough() || fileMissingForRefresh()) {
         return;
