@@ -106,7 +106,8 @@ private:
     // updater_processes.cpp
     void refreshProcesses();
     void restoreSelection(const ListPlace &place);
-    double readProcesses();
+    double sampleTotalCpuTime();
+    void readProcesses();
     void chooseEagerColumns();
     // updater_filesystems.cpp
     void refreshFileSystems();
@@ -152,10 +153,10 @@ private:
     ListMenuTrigger *listMenuTrigger;
     ProcessFinder *finder;
     DeferredRefreshes deferred;
-    /// How far the start is. The list of processes is filled once the settings are loaded, since that empties
-    /// it.
+    /// How far the start is. The list of processes is read and filled once the settings are loaded, since
+    /// that empties it, and only if its page is shown.
     enum class Stage { Building, SettingsLoaded, WindowShown } stage;
-    ProcModel::Snapshot reading; ///< serves all refreshes until the window is shown; empty afterwards
+    ProcModel::Snapshot reading;               ///< serves all refreshes until the window is shown; then empty
     std::optional<ListPlace> placeBeforeReset; ///< until the emptied list is refilled
     std::optional<ListPlace> rowlessSelection; ///< until the process has a row again, or another is selected
     quint64 lastBytesIn;

@@ -12,10 +12,13 @@
 
 void Updater::refreshProcesses()
 {
-    const double seconds = readProcesses();
-    // This program is in every list, so an empty reading has failed, and the last list stays.
-    if (stage == Stage::Building || reading.empty()) {
+    const double seconds = sampleTotalCpuTime();
+    if (stage == Stage::Building) {
         return;
+    }
+    readProcesses();
+    if (reading.empty()) {
+        return; // It has failed, since this program is in every list. The last list stays.
     }
     const bool wasEmptied = placeBeforeReset.has_value();
     const ListPlace place = wasEmptied ? *placeBeforeReset : ListPlace(*procModel, *ui.treeView);
@@ -47,20 +50,27 @@ void Updater::restoreSelection(const ListPlace &place)
     }
 }
 
-/// Reads the processes, with the machine's CPU time to compute their load from. Returns the seconds between
-/// this sample and the one before. Until the window is shown, a reading is made once and stands for all that
-/// follow.
-double Updater::readProcesses()
+/// Reads the machine's CPU time to compute the load of the processes from. Returns the seconds between this
+/// sample and the one before. Until the window is shown, one sample stands for all that follow.
+double Updater::sampleTotalCpuTime()
 {
-    static auto *filler = gtop_wrappers::ProcessFiller::instance();
-    if (stage != Stage::WindowShown && !reading.empty()) {
+    if (stage == Stage::SettingsLoaded && lastCpuTotal != 0) {
         return 0.0;
     }
     const quint64 total = totalCpuTime();
     procModel->setTotalCpuTime(total);
+    return machineSeconds(total - std::exchange(lastCpuTotal, total), cpuCount);
+}
+
+/// Until the window is shown, one reading stands for all that follow.
+void Updater::readProcesses()
+{
+    static auto *filler = gtop_wrappers::ProcessFiller::instance();
+    if (stage != Stage::WindowShown && !reading.empty()) {
+        return;
+    }
     chooseEagerColumns();
     reading = filler->getProcesses(static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes()));
-    return machineSeconds(total - std::exchange(lastCpuTotal, total), cpuCount);
 }
 
 /// The column that is sorted by is read for all rows, the others where they are shown.

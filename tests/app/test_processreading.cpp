@@ -29,6 +29,7 @@ private Q_SLOTS:
         fixture->start(GeneralPage); // the list is filled but not painted
         list()->setProcessTypes(AllProcesses);
         fixture->updater().update(true);
+        fixture->updater().update(true); // the first snapshots read more
     }
 
     void costlyValuesAreNotReadUntilLookedAt()
