@@ -2,6 +2,7 @@
 #include "app/quitsignals.h"
 #include "app/savedends.h"
 #include "app/startpage.h"
+#include "app/startpages.h"
 #include "app/systemfiles.h"
 #include "app/translations.h"
 #include "app/updater.h"
@@ -10,6 +11,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
 
 #include <fcntl.h>
 #include <malloc.h>
@@ -61,6 +63,9 @@ void returnLargeBlocksToSystem()
     mallopt(M_TRIM_THRESHOLD, keptForTheNextRefresh);
 }
 
+/// By then the page has been painted and followed up, so what its refreshes use is not released in vain.
+constexpr int startIsOver = 2000; // milliseconds
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -87,5 +92,6 @@ int main(int argc, char **argv)
     Updater updater(startPage);
     const SavedEnds savedEnds(&updater);
     quitOnSignals(&application);
+    QTimer::singleShot(startIsOver, releaseReadOnlyPages);
     return QApplication::exec();
 }
