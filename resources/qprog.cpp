@@ -190,10 +190,22 @@ void QProg::setBarColor(const QColor &color)
 
 void QProg::rangeOrValueChanged()
 {
-    update();
+    updateThroughParent();
     const QString share = qprog::shareText(lowest, highest, currentValue);
     if (share != accessibleDescription()) { // setting even the same text sends an event
         setAccessibleDescription(share);
+    }
+}
+
+/// Has the parent repaint the gauge's place, which it must paint anyway, as it shines through. For each
+/// widget that is updated by itself Qt searches all its siblings for those above it, and there are three per
+/// core.
+void QProg::updateThroughParent()
+{
+    if (isVisible() && parentWidget()) {
+        parentWidget()->update(geometry());
+    } else {
+        update();
     }
 }
 

@@ -59,6 +59,7 @@ protected:
 private:
     void setRange(double min, double max);
     void rangeOrValueChanged();
+    void updateThroughParent();
     void paintFrame();
     void paintBar();
     void paintTicks();
