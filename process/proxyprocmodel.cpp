@@ -2,28 +2,12 @@
 #include "process/proxyprocmodel.h"
 
 #include "process/deeprows.h"
-#include "process/fittingdelegate.h"
 #include "process/gtop_wrappers/filler.h"
+#include "process/processdelegate.h"
 #include "process/treeexpansion.h"
 
-#include <QHeaderView>
-
-namespace {
-
-/// How many rows decide on the width of a column. Measuring a value that is read on demand reads it.
-int rowsToFit(int processColumn)
-{
-    constexpr int expensiveRows = 100;
-    constexpr int rows = 1000;
-    const bool isExpensive =
-        gtop_wrappers::ProcessFiller::instance()->isExpensive(static_cast<unsigned long>(processColumn));
-    return isExpensive ? expensiveRows : rows;
-}
-
-} // namespace
-
 ProxyProcModel::ProxyProcModel(QObject *parent)
-    : QSortFilterProxyModel(parent), source(new ProcModel(parent)), delegate(new FittingDelegate(this)),
+    : QSortFilterProxyModel(parent), source(new ProcModel(parent)), delegate(new ProcessDelegate(this)),
       deepRows(nullptr), expandAndFit(true), types(gtop_wrappers::MyProcesses), currentCpuTotal(1),
       previousCpuTotal(0), expansion(new TreeExpansion(this)), fitUnfiltered(false)
 {
@@ -76,25 +60,17 @@ void ProxyProcModel::layOutView()
         expandAndFitView();
         expandAndFit = false;
     }
+    delegate->startRefresh();
     // The view on its own would lay out on a zero timer, and a scroll before that would read freed mappings.
     view->doItemsLayout();
 }
 
 void ProxyProcModel::expandAndFitView()
 {
+    view->setRootIsDecorated(!isFlat()); // no space for an expander that never comes
     expandAll();
     fitColumns();
     fitUnfiltered = isFiltered();
-}
-
-void ProxyProcModel::fitColumns()
-{
-    for (int column = 0; column < columnCount(); ++column) {
-        view->header()->setResizeContentsPrecision(rowsToFit(source->processColumn(column)));
-        delegate->beginColumn();
-        view->resizeColumnToContents(column);
-        delegate->endColumn();
-    }
 }
 
 void ProxyProcModel::setProcessTypes(int processTypes)

@@ -12,7 +12,7 @@
 #include <functional>
 
 class DeepRows;
-class FittingDelegate;
+class ProcessDelegate;
 class TreeExpansion;
 
 /// The sorted process list that the view shows, and the only access to the processes for the rest of the
@@ -69,6 +69,10 @@ public:
     void expandAll();
     void collapseAll();
 
+    /// Of the cells and the title of a column in the view. Numbers stand right in right-to-left layouts too.
+    Qt::Alignment alignment(int column) const;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
     /// Of a row that is shown only because one of its descendants matches the filter: true. Otherwise
     /// invalid.
     static constexpr int AncestorOnlyRole = Qt::UserRole + 1;
@@ -115,7 +119,7 @@ private:
 
     ProcModel *source;
     QPointer<QTreeView> view;
-    FittingDelegate *delegate; ///< of the view
+    ProcessDelegate *delegate; ///< of the view
     DeepRows *deepRows;        ///< of the view, which owns it
     bool expandAndFit;         ///< in the next layout, as it is the first one or the first after a reset
     int types;

@@ -15,11 +15,15 @@ namespace gtop_wrappers {
 /// Whether a column is shown until the user chooses otherwise.
 enum DefaultVisibility { ShownByDefault, HiddenByDefault };
 
+/// Numbers are aligned at their last digit, texts at their first letter.
+enum Content { Text, Number };
+
 /// One process column.
 struct Column
 {
     const char *name; ///< untranslated; the translation context is ProcessFiller
     DefaultVisibility visibility;
+    Content content;
     unsigned reads; ///< Reads, or-ed, that the value is made from
     ParamPtr (*make)(const ProcessRecord &record, SharedParams &shared);
     /// Whether both records give the same value, so that the one made from the first can be kept.

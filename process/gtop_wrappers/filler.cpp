@@ -44,6 +44,11 @@ bool ProcessFiller::isShownByDefault(unsigned long i) const
     return i < size() && columns()[i].visibility == ShownByDefault;
 }
 
+bool ProcessFiller::isNumeric(unsigned long i) const
+{
+    return i < size() && columns()[i].content == Number;
+}
+
 bool ProcessFiller::isExpensive(unsigned long i) const
 {
     return i < size() && columns()[i].makeOnDemand;

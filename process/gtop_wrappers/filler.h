@@ -33,6 +33,8 @@ public:
     QString title(unsigned long i) const;
     /// Whether column i is shown until the user chooses otherwise. False past the end.
     bool isShownByDefault(unsigned long i) const;
+    /// Whether column i holds numbers, which are aligned right. False past the end.
+    bool isNumeric(unsigned long i) const;
     /// Whether values of column i are expensive and can be read on demand. False past the end.
     bool isExpensive(unsigned long i) const;
     /// A snapshot keyed by pid, without processes that exit while being read. Values that did not change

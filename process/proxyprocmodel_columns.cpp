@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How the columns of the process list are shown.
+#include "process/gtop_wrappers/filler.h"
+#include "process/processdelegate.h"
+#include "process/proxyprocmodel.h"
+
+#include <QHeaderView>
+
+using gtop_wrappers::ProcessFiller;
+
+namespace {
+
+/// How many rows decide on the width of a column. Measuring a value that is read on demand reads it.
+int rowsToFit(int processColumn)
+{
+    constexpr int expensiveRows = 100;
+    constexpr int rows = 1000;
+    const bool isExpensive =
+        ProcessFiller::instance()->isExpensive(static_cast<unsigned long>(processColumn));
+    return isExpensive ? expensiveRows : rows;
+}
+
+} // namespace
+
+Qt::Alignment ProxyProcModel::alignment(int column) const
+{
+    static const auto *filler = ProcessFiller::instance();
+    const int processColumn = source->processColumn(column);
+    return processColumn >= 0 && filler->isNumeric(static_cast<unsigned long>(processColumn))
+               ? Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter
+               : Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+QVariant ProxyProcModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal) {
+        return static_cast<int>(alignment(section));
+    }
+    return QSortFilterProxyModel::headerData(section, orientation, role);
+}
+
+void ProxyProcModel::fitColumns()
+{
+    for (int column = 0; column < columnCount(); ++column) {
+        view->header()->setResizeContentsPrecision(rowsToFit(source->processColumn(column)));
+        delegate->beginColumn();
+        view->resizeColumnToContents(column);
+        delegate->endColumn();
+    }
+}
