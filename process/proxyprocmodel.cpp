@@ -2,15 +2,22 @@
 #include "process/proxyprocmodel.h"
 
 #include "process/deeprows.h"
+#include "process/fittedcolumns.h"
 #include "process/gtop_wrappers/filler.h"
 #include "process/processdelegate.h"
 #include "process/treeexpansion.h"
 
 ProxyProcModel::ProxyProcModel(QObject *parent)
     : QSortFilterProxyModel(parent), source(new ProcModel(parent)), delegate(new ProcessDelegate(this)),
-      deepRows(nullptr), expandAndFit(true), types(gtop_wrappers::MyProcesses), currentCpuTotal(1),
-      previousCpuTotal(0), expansion(new TreeExpansion(this)), fitUnfiltered(false)
+      deepRows(nullptr), fittedColumns(nullptr), expandAndFit(true), types(gtop_wrappers::MyProcesses),
+      currentCpuTotal(1), previousCpuTotal(0), expansion(new TreeExpansion(this)), fitUnfiltered(false)
 {
+    // Before the base class makes its own connections: it sorts when the same signals reach it.
+    connect(source, SIGNAL(layoutAboutToBeChanged()), this, SLOT(forgetRanks()));
+    connect(source, SIGNAL(layoutChanged()), this, SLOT(rankRows()));
+    connect(source, SIGNAL(rowsInserted(QModelIndex, int, int)), this, SLOT(forgetRanks()));
+    connect(source, SIGNAL(rowsRemoved(QModelIndex, int, int)), this, SLOT(forgetRanks()));
+    connect(source, SIGNAL(modelAboutToBeReset()), this, SLOT(forgetRanks()));
     setSortRole(Qt::UserRole);
     setDynamicSortFilter(true);
 }
@@ -25,6 +32,7 @@ void ProxyProcModel::setView(QTreeView *treeView)
         view->setModel(this);
         view->setItemDelegate(delegate);
         deepRows = new DeepRows(this, view);
+        fittedColumns = new FittedColumns(view);
         expansion->follow(view);
     }
 }

@@ -4,6 +4,7 @@
 
 #include "process/listfilter.h"
 #include "process/procmodel.h"
+#include "process/sortkeys.h"
 
 #include <QPointer>
 #include <QSortFilterProxyModel>
@@ -12,6 +13,7 @@
 #include <functional>
 
 class DeepRows;
+class FittedColumns;
 class ProcessDelegate;
 class TreeExpansion;
 
@@ -51,6 +53,8 @@ public:
 
     /// The process column that the list is sorted by; -1 if it is not sorted.
     int sortedProcessColumn() const { return source->processColumn(sortColumn()); }
+
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
     /// The flags of the source model; rows of a flat list also have Qt::ItemNeverHasChildren.
     Qt::ItemFlags flags(const QModelIndex &index) const override;
@@ -106,8 +110,15 @@ Q_SIGNALS:
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+    /// Texts by the rules of the user's language, everything else by its value.
+    bool lessThan(const QModelIndex &left, const QModelIndex &right) const override;
+
+private Q_SLOTS:
+    void rankRows() { rankRows(sortColumn()); }
+    void forgetRanks() { ranks.clear(); }
 
 private:
+    void rankRows(int column);
     void reset();
     void settleFilter();
     void showRows(const std::function<void()> &change);
@@ -119,12 +130,16 @@ private:
 
     ProcModel *source;
     QPointer<QTreeView> view;
-    ProcessDelegate *delegate; ///< of the view
-    DeepRows *deepRows;        ///< of the view, which owns it
-    bool expandAndFit;         ///< in the next layout, as it is the first one or the first after a reset
+    ProcessDelegate *delegate;    ///< of the view
+    DeepRows *deepRows;           ///< of the view, which owns it
+    FittedColumns *fittedColumns; ///< of the view, which owns it
+    bool expandAndFit;            ///< in the next layout, as it is the first one or the first after a reset
     int types;
     quint64 currentCpuTotal;
     quint64 previousCpuTotal;
+    mutable SortKeys sortKeys;
+    SortRanks ranks; ///< of the source's rows by rankedColumn, until values or rows change
+    int rankedColumn = -1;
     ListFilter filter;
     TreeExpansion *expansion;
     bool fitUnfiltered; ///< the columns were fitted to filtered rows only

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How the columns of the process list are shown.
+#include "process/fittedcolumns.h"
 #include "process/gtop_wrappers/filler.h"
 #include "process/processdelegate.h"
 #include "process/proxyprocmodel.h"
@@ -41,10 +42,12 @@ QVariant ProxyProcModel::headerData(int section, Qt::Orientation orientation, in
 
 void ProxyProcModel::fitColumns()
 {
-    for (int column = 0; column < columnCount(); ++column) {
+    const QAbstractItemView *measuring = view; // where sizeHintForColumn() is public
+    fittedColumns->fit([&](int column) {
         view->header()->setResizeContentsPrecision(rowsToFit(source->processColumn(column)));
         delegate->beginColumn();
-        view->resizeColumnToContents(column);
+        const int width = measuring->sizeHintForColumn(column);
         delegate->endColumn();
-    }
+        return width;
+    });
 }

@@ -71,21 +71,43 @@ private Q_SLOTS:
 
     void theListsColumnsFitTheirContents()
     {
-        QObject owner; // of the source model too
-        ProxyProcModel &list = *new ProxyProcModel(&owner);
-        QTreeView view;
-        list.setView(&view);
+        List list;
         FactsByPid facts = factsUpTo(200);
-        facts.at(150).name = QStringLiteral("longer than all the others in the list");
-        list.refresh(makeSnapshot(facts));
+        facts.at(150).name = QStringLiteral("longer than all the others");
+        list.proxy->refresh(makeSnapshot(facts));
         QStyledItemDelegate plain;
-        view.setItemDelegate(&plain);
-        for (int column = 0; column < list.columnCount(); ++column) {
-            const int fitted = view.columnWidth(column);
-            view.resizeColumnToContents(column);
-            QCOMPARE(fitted, view.columnWidth(column));
+        list.view.setItemDelegate(&plain);
+        for (int column = 0; column < list.proxy->columnCount() - 1; ++column) {
+            const int fitted = list.view.columnWidth(column);
+            list.view.resizeColumnToContents(column);
+            QCOMPARE(fitted, list.view.columnWidth(column));
         }
-        view.setModel(nullptr);
+    }
+
+    void noColumnIsFittedWiderThanFortyCharacters()
+    {
+        List list;
+        FactsByPid facts = factsUpTo(2);
+        facts.at(1).name = QString(200, QLatin1Char('x'));
+        list.proxy->refresh(makeSnapshot(facts));
+        QCOMPARE(list.view.columnWidth(0), list.view.fontMetrics().averageCharWidth() * 40);
+    }
+
+    void theLastColumnTakesWhatIsLeft()
+    {
+        List list;
+        list.view.resize(3000, 200);
+        list.view.show();
+        const int last = list.proxy->columnCount() - 1;
+        for (int fit = 0; fit < 2; ++fit) {
+            list.proxy->setFlat(fit > 0); // fits again
+            list.proxy->refresh(makeSnapshot(factsUpTo(2)));
+            const int end = list.view.columnViewportPosition(last) + list.view.columnWidth(last);
+            QCOMPARE(end, list.view.viewport()->width());
+        }
+        list.view.resize(200, 200); // in which the last one is out of view
+        list.proxy->refresh(makeSnapshot(factsUpTo(2)));
+        QCOMPARE(list.view.columnWidth(last), list.view.header()->sectionSizeHint(last));
     }
 
     void numbersStandRightAndTextsLeft_data()
