@@ -81,6 +81,8 @@ private Q_SLOTS:
     /// Before and after the list of processes is emptied by a change of types, mode or columns.
     void deferRefreshes();
     void refillProcesses();
+    /// Runs "Visible columns" at the pointer.
+    void popupColumns();
     /// The filter may have hidden the selected process.
     void processesFiltered();
 

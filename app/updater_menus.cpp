@@ -71,6 +71,13 @@ void Updater::popup()
     update(false);
 }
 
+void Updater::popupColumns()
+{
+    const std::unique_ptr<QMenu> columns(menuVisibleColumns());
+    columns->setParent(ui.centralwidget, columns->windowFlags());
+    columns->exec(QCursor::pos());
+}
+
 void Updater::slotIntervalGeneral()
 {
     intervals->exec(GeneralPage, tr("General page"));

@@ -11,6 +11,7 @@
 #include "process/proxyprocmodel.h"
 #include "resources/qprog.h"
 
+#include <QHeaderView>
 #include <QPainter>
 #include <QPixmap>
 #include <QVBoxLayout>
@@ -140,6 +141,8 @@ void Updater::followProcessSelection()
     connect(procModel, SIGNAL(aboutToEmptyList()), this, SLOT(deferRefreshes()));
     connect(procModel, SIGNAL(listEmptied()), this, SLOT(refillProcesses()));
     listMenuTrigger = new ListMenuTrigger(ui.treeView);
+    ui.treeView->header()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(ui.treeView->header(), SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(popupColumns()));
     finder = new ProcessFinder(ui.treeView, procModel, descriptors);
     connect(finder, SIGNAL(filterChanged()), this, SLOT(processesFiltered()));
     connect(processMenu, SIGNAL(findRequested()), finder, SLOT(open()));

@@ -6,10 +6,12 @@
 #include "process/gtop_wrappers/filler.h"
 #include "process/processbox.h"
 #include "process/proxyprocmodel.h"
+#include "process/sortmenu.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
+#include <QClipboard>
 #include <QDebug>
 
 #include <signal.h>
@@ -30,9 +32,10 @@ enum CommandKind {
     SendSignal = 1,       ///< argument: signal number
     ExpandOrCollapse = 2, ///< argument: 1 expands all rows, 0 collapses them
     ToggleTree = 3,       ///< no argument
-    ToggleComplete = 7,   ///< no argument
     ChangePriority = 4,   ///< no argument
-    FindProcess = 5       ///< no argument
+    FindProcess = 5,      ///< no argument
+    CopyRow = 6,          ///< no argument
+    ToggleComplete = 7    ///< no argument
 };
 constexpr int noArgument = -1;
 constexpr int unknownKind = -1;
@@ -123,6 +126,8 @@ const ProcessMenu::ActionRow ProcessMenu::actionRows[] = {
                                        "All process data can be lost.")}},
     {&ProcessMenu::changePriority, QT_TRANSLATE_NOOP("ProcessMenu", "Change priority..."),
      "", "", "", Plain, ChangePriority, noArgument},
+    {&ProcessMenu::copyRow, QT_TRANSLATE_NOOP("ProcessMenu", "Copy row"),
+     "", "", "", Plain, CopyRow, noArgument},
     {&ProcessMenu::completeTree, QT_TRANSLATE_NOOP("ProcessMenu", "Complete tree"),
      "", "", "", Checkable, ToggleComplete, noArgument},
     {&ProcessMenu::findProcess, QT_TRANSLATE_NOOP("ProcessMenu", "Find process..."),
@@ -145,6 +150,7 @@ QAction *ProcessMenu::*const ProcessMenu::menuOrder[] = {
     &ProcessMenu::terminateProcess,
     &ProcessMenu::killProcess,
     &ProcessMenu::changePriority,
+    &ProcessMenu::copyRow,
     nullptr,
     &ProcessMenu::findProcess,
 };
@@ -187,6 +193,9 @@ void ProcessMenu::fillMenu(QMenu *menu)
     lastMenu = menu;
     treeView->setChecked(!model->isFlat());
     for (QAction *ProcessMenu::*member : menuOrder) {
+        if (member == &ProcessMenu::findProcess) {
+            menu->addMenu(new SortMenu(model, menu));
+        }
         if (member) {
             menu->addAction(this->*member);
         } else {
@@ -218,14 +227,15 @@ void ProcessMenu::updateSignalActions()
     const bool isProcess = selected.pid() != -1;
     const auto state =
         isProcess ? intParam(selected, gtop_wrappers::StateColumn) : std::tr1::shared_ptr<IntProcessParam>();
-    for (QAction *action : {stopProcess, continueProcess, terminateProcess, killProcess, changePriority}) {
+    for (QAction *action :
+         {stopProcess, continueProcess, terminateProcess, killProcess, changePriority, copyRow}) {
         action->setVisible(state != nullptr);
     }
     const bool stopped = state && state->value() == gtop_wrappers::stoppedState;
     stopProcess->setEnabled(state && !stopped);
     continueProcess->setEnabled(stopped);
-    if (isProcess) { // Intentional: without a process the other three, now hidden, keep their enabled state.
-        for (QAction *action : {terminateProcess, killProcess, changePriority}) {
+    if (isProcess) { // Intentional: without a process the others, now hidden, keep their enabled state.
+        for (QAction *action : {terminateProcess, killProcess, changePriority, copyRow}) {
             action->setEnabled(state != nullptr);
         }
     }
@@ -272,6 +282,9 @@ void ProcessMenu::process()
         break;
     case ChangePriority:
         changePriorityOfSelected();
+        break;
+    case CopyRow:
+        QGuiApplication::clipboard()->setText(model->rowText(selected));
         break;
     case FindProcess:
         Q_EMIT findRequested();

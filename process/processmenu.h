@@ -59,6 +59,7 @@ private:
     QAction *terminateProcess;
     QAction *killProcess;
     QAction *changePriority;
+    QAction *copyRow;
     QAction *findProcess;
     ProxyProcModel *model;
     gtop_wrappers::Process selected; ///< a copy, which can be stale

@@ -146,12 +146,7 @@ void ProxyProcModel::sortByProcessColumn(int processColumn)
         return;
     }
     const int byName = qMax(source->columnOf(gtop_wrappers::NameColumn), 0);
-    const Qt::SortOrder order = column >= 0 ? sortOrder() : Qt::AscendingOrder;
-    if (view) {
-        view->sortByColumn(column >= 0 ? column : byName, order);
-    } else {
-        sort(column >= 0 ? column : byName, order);
-    }
+    sortInView(column >= 0 ? column : byName, column >= 0 ? sortOrder() : Qt::AscendingOrder);
 }
 
 /// Qt::ItemNeverHasChildren keeps expandAll() from storing a persistent index for every row of a flat list;

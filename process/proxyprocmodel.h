@@ -54,6 +54,8 @@ public:
     /// The process column that the list is sorted by; -1 if it is not sorted.
     int sortedProcessColumn() const { return source->processColumn(sortColumn()); }
 
+    /// Sorts by a process column, which must be visible.
+    void sortBy(unsigned long processColumn, Qt::SortOrder order);
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
     /// The flags of the source model; rows of a flat list also have Qt::ItemNeverHasChildren.
@@ -75,6 +77,9 @@ public:
 
     /// Of the cells and the title of a column in the view. Numbers stand right in right-to-left layouts too.
     Qt::Alignment alignment(int column) const;
+    /// What the visible columns say of a process, in the order in which the view shows them, with tabs
+    /// between them.
+    QString rowText(const gtop_wrappers::Process &process) const;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
     /// Of a row that is shown only because one of its descendants matches the filter: true. Otherwise
@@ -125,6 +130,7 @@ private:
     void arrangeFiltered();
     void fitColumns();
     void sortByProcessColumn(int processColumn);
+    void sortInView(int column, Qt::SortOrder order);
     void layOutView();
     void expandAndFitView();
 

@@ -32,6 +32,17 @@ Qt::Alignment ProxyProcModel::alignment(int column) const
                : Qt::AlignLeft | Qt::AlignVCenter;
 }
 
+QString ProxyProcModel::rowText(const gtop_wrappers::Process &process) const
+{
+    QStringList texts;
+    for (int place = 0; place < columnCount(); ++place) {
+        const int column = view ? view->header()->logicalIndex(place) : place;
+        const auto param = process.getParam(static_cast<unsigned long>(source->processColumn(column)));
+        texts.append(param ? param->displayValue().toString() : QString());
+    }
+    return texts.join(QLatin1Char('\t')); // the texts are single lines without tabs
+}
+
 QVariant ProxyProcModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal) {

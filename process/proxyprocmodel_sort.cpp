@@ -3,6 +3,21 @@
 // the order of the source; comparing the ranks of two rows costs next to nothing.
 #include "process/proxyprocmodel.h"
 
+void ProxyProcModel::sortBy(unsigned long processColumn, Qt::SortOrder order)
+{
+    sortInView(source->columnOf(processColumn), order);
+}
+
+/// Through the view, whose header shows what the list is sorted by.
+void ProxyProcModel::sortInView(int column, Qt::SortOrder order)
+{
+    if (view) {
+        view->sortByColumn(column, order);
+    } else {
+        sort(column, order);
+    }
+}
+
 void ProxyProcModel::sort(int column, Qt::SortOrder order)
 {
     rankRows(column);

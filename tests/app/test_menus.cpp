@@ -170,6 +170,20 @@ private Q_SLOTS:
         QVERIFY(proxy->isColumnVisible(3));
     }
 
+    void aRightClickOnTheHeaderOpensTheColumns()
+    {
+        fixture->start(1);
+        const ModalDriver driver([](QWidget *widget) {
+            auto *menu = qobject_cast<QMenu *>(widget);
+            QCOMPARE(menu->title(), QStringLiteral("Visible columns"));
+            menu->actions().at(3)->trigger();
+            menu->close();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5));
+        QCoreApplication::sendEvent(tree()->header()->viewport(), &event);
+        QVERIFY(!Fixture::processes()->isColumnVisible(3));
+    }
+
     void theColumnMenuListsEveryColumn()
     {
         fixture->start(1);

@@ -53,10 +53,17 @@ private Q_SLOTS:
         QVERIFY(isListed(process));
         QVERIFY(page->select(process.pid()));
         QVERIFY(page->openProcessMenu());
-        const std::pair<const char *, const char *> expected[] = {
-            {"Tree view", "Ctrl+F"},    {"My processes", "Ctrl+M"},     {"All processes", "Ctrl+A"},
-            {"Stop process", "Ctrl+S"}, {"Continue process", "Ctrl+C"}, {"Terminate process", "Ctrl+T"},
-            {"Kill process", "Ctrl+K"}, {"Change priority...", ""},     {"Find process...", ""}};
+        const std::pair<const char *, const char *> expected[] = {{"Tree view", "Ctrl+F"},
+                                                                  {"My processes", "Ctrl+M"},
+                                                                  {"All processes", "Ctrl+A"},
+                                                                  {"Stop process", "Ctrl+S"},
+                                                                  {"Continue process", "Ctrl+C"},
+                                                                  {"Terminate process", "Ctrl+T"},
+                                                                  {"Kill process", "Ctrl+K"},
+                                                                  {"Change priority...", ""},
+                                                                  {"Copy row", ""},
+                                                                  {"Sort by", ""},
+                                                                  {"Find process...", ""}};
         QStringList entries;
         for (const auto &[entry, keys] : expected) {
             entries.append(entry);

@@ -138,7 +138,7 @@ private Q_SLOTS:
         start(5);
         QVERIFY(page->select(parentPid(0)));
         QVERIFY(page->openContextMenuOnEmptySpace());
-        QCOMPARE(session->menuTexts(), QStringList({"Tree view", "My processes", "All processes",
+        QCOMPARE(session->menuTexts(), QStringList({"Tree view", "My processes", "All processes", "Sort by",
                                                     "Find process...", "Visible columns"}));
         QVERIFY(page->closeMenus());
         QCOMPARE(selectedPids(), QStringList());

@@ -12,8 +12,8 @@ using gtop_wrappers::Process;
 
 namespace {
 
-const char *const signalActions[] = {"Stop process", "Continue process", "Terminate process", "Kill process",
-                                     "Change priority..."};
+const char *const signalActions[] = {"Stop process", "Continue process",   "Terminate process",
+                                     "Kill process", "Change priority...", "Copy row"};
 const int stoppedState = 16;
 
 QString textsOf(const QMenu &menu)
@@ -69,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(made.join(QLatin1Char('|')),
                  QStringLiteral("Tree view|Expand all|Collapse all|QActionGroup|All processes|My processes|"
                                 "Stop process|Continue process|Terminate process|Kill process|"
-                                "Change priority...|Complete tree|Find process..."));
+                                "Change priority...|Copy row|Complete tree|Find process..."));
     }
 
     void actionsHaveTheirProperties_data()
@@ -85,6 +85,7 @@ private Q_SLOTS:
         row("Terminate process", "Ctrl+T", false, false, QVariantList{1, 15});
         row("Kill process", "Ctrl+K", false, false, QVariantList{1, 9});
         row("Change priority...", "", false, false, QVariantList{4});
+        row("Copy row", "", false, false, QVariantList{6});
         row("Complete tree", "", true, false, QVariantList{7});
         row("Find process...", "", false, false, QVariantList{5});
     }
@@ -135,7 +136,7 @@ private Q_SLOTS:
         const Desk desk;
         const QString texts = QStringLiteral(
             "Tree view|Expand all|Collapse all|Complete tree|-|My processes|All processes|-|Stop process|"
-            "Continue process|Terminate process|Kill process|Change priority...|-|"
+            "Continue process|Terminate process|Kill process|Change priority...|Copy row|-|Sort &by|"
             "Find process...");
         QMenu lasting;
         desk.actions->fillMenu(&lasting);
@@ -164,7 +165,7 @@ private Q_SLOTS:
         for (const char *text : {"Stop process", "Continue process"}) {
             QVERIFY2(!isEnabledWhenShown(desk.action(text)), text);
         }
-        for (const char *text : {"Terminate process", "Kill process", "Change priority..."}) {
+        for (const char *text : {"Terminate process", "Kill process", "Change priority...", "Copy row"}) {
             QVERIFY2(isEnabledWhenShown(desk.action(text)), text);
         }
     }
@@ -188,7 +189,7 @@ private Q_SLOTS:
         }
         QCOMPARE(desk.action("Stop process")->isEnabled(), state != stoppedState);
         QCOMPARE(desk.action("Continue process")->isEnabled(), state == stoppedState);
-        for (const char *text : {"Terminate process", "Kill process", "Change priority..."}) {
+        for (const char *text : {"Terminate process", "Kill process", "Change priority...", "Copy row"}) {
             QVERIFY2(desk.action(text)->isEnabled(), text);
         }
     }
@@ -393,6 +394,22 @@ private Q_SLOTS:
             QCOMPARE(seen.defaultButton, QMessageBox::Cancel);
             QVERIFY(!seen.hasParent);
         }
+    }
+
+    void aCopiedRowHasWhatTheViewShows()
+    {
+        const Desk desk;
+        desk.list->setColumnVisible(gtop_wrappers::CpuColumn, false);
+        desk.view.header()->moveSection(1, 0); // the pid in front of the name
+        Facts facts;
+        facts.pid = 12345;
+        facts.name = QStringLiteral("a name");
+        desk.actions->setProcess(makeProcess(facts));
+        desk.trigger("Copy row");
+        const QStringList copied = QGuiApplication::clipboard()->text().split(QLatin1Char('\t'));
+        QCOMPARE(copied.size(), desk.list->columnCount());
+        QCOMPARE(copied.mid(0, 2), QStringList({"12345", "a name"}));
+        QCOMPARE(copied.at(4), QStringLiteral("state"));
     }
 };
 

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The columns of the process list, operated by real keys and clicks.
+#include "tests/desktop/processespage.h"
+
+#include <QtTest>
+
+#include <unistd.h>
+
+namespace {
+
+// No process has these pids: they are beyond the kernel's limit.
+const int sessionPid = 5000001;
+const int browserPid = 5000250;
+
+/// The first 300 processes of a desktop: a session with all the others below it.
+standin::Machine madeUpDesktop()
+{
+    standin::Machine machine;
+    machine.processes.emplace();
+    for (int i = 0; i < 300; ++i) {
+        standin::Process process;
+        const int pid = sessionPid + i;
+        process.parent = pid == sessionPid ? 1 : sessionPid;
+        process.name = pid == sessionPid ? "gnome-shell" : "gvfsd-" + std::to_string(i);
+        process.arguments =
+            "/usr/libexec/" + process.name + " --spawner :1.7 " + std::string(200, 'x') + '\0';
+        process.uid = static_cast<int>(getuid());
+        process.startTime = 1700000000;
+        machine.processes->emplace(pid, process);
+    }
+    machine.processes->at(browserPid).name = "Firefox";
+    return machine;
+}
+
+} // namespace
+
+class TestProcessColumns : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        if (QTest::currentTestFailed()) {
+            session->savePicture(QString("failed-") + QTest::currentTestFunction());
+        }
+        page->dismissAll();
+        QVERIFY(session->endsCleanly());
+    }
+
+    void aProcessIsFoundSeenInItsTreeAndCopiedByKeysAlone()
+    {
+        start();
+        QVERIFY(session->key("Tab")); // from the tabs to the list
+        QVERIFY(session->waitFor([&] { return isFocused("treeView"); }));
+        QVERIFY(session->type("firefox"));
+        QVERIFY(waitForNames({"Firefox"}));
+        QVERIFY(session->key("ctrl+f"));
+        QVERIFY(waitForNames({"gnome-shell", "Firefox"}));
+        QCOMPARE(page->list().rows.at(1).depth, 1);
+        QVERIFY(session->key("Return"));
+        QVERIFY(session->waitFor([&] { return page->isSelected(browserPid); }));
+        QVERIFY(session->key("Menu"));
+        QVERIFY(session->waitFor([&] { return session->menuTexts().contains("Copy row"); }));
+        for (int above = 0; above < 4; ++above) {
+            QVERIFY(session->key("Up")); // behind it: Sort by, Find process, Visible columns
+        }
+        QVERIFY(session->key("Return") && session->key("slash") && session->key("ctrl+v"));
+        const QString pid = QString::number(browserPid);
+        QVERIFY(session->waitFor([&] { return session->text("filterText").contains(pid); }));
+        const QString copied = session->text("filterText");
+        QVERIFY2(copied.startsWith("Firefox\t"), qPrintable(copied));
+        QVERIFY2(copied.split('\t').size() == page->list().visibleHeaders().size(), qPrintable(copied));
+    }
+
+    void theListIsSortedByKeys()
+    {
+        start();
+        QVERIFY(session->key("alt+e"));
+        QVERIFY(session->waitFor([&] { return session->menuTexts().contains("Process"); }));
+        QVERIFY(session->key("p"));
+        QVERIFY(session->waitFor([&] { return session->menuTexts().contains("Sort by"); }));
+        QVERIFY(session->key("b"));
+        QVERIFY(session->waitFor([&] { return session->menuTexts().contains("Descending"); }));
+        QVERIFY(session->menuEntry("Name").value("checked").toBool());
+        QVERIFY(session->key("g"));
+        QVERIFY(session->waitFor([&] { return page->list().sortDescending; }));
+        QVERIFY(session->waitFor([&] { return page->list().rows.first().texts.first() == "gvfsd-99"; }));
+    }
+
+    void aRightClickOnTheHeaderShowsAndHidesColumns()
+    {
+        start();
+        QVERIFY(session->click([&] { return page->list().headerRect("PID"); }, 3));
+        QVERIFY(session->waitFor([&] { return session->menuTexts().contains("Parent PID"); }));
+        QVERIFY(session->clickMenu("PID"));
+        QVERIFY(session->waitFor([&] { return !page->list().visibleHeaders().contains("PID"); }));
+    }
+
+    void theColumnsFitTheView_data()
+    {
+        QTest::addColumn<int>("dpi");
+        QTest::addColumn<QString>("background");
+        QTest::addColumn<QString>("language");
+        QTest::newRow("96-light") << 96 << "#efefef"
+                                  << "C";
+        QTest::newRow("96-dark-german") << 96 << "#303030"
+                                        << "de_DE";
+        QTest::newRow("192-dark") << 192 << "#303030"
+                                  << "C";
+        QTest::newRow("192-light-german") << 192 << "#efefef"
+                                          << "de_DE";
+    }
+
+    void theColumnsFitTheView()
+    {
+        QFETCH(int, dpi);
+        QFETCH(QString, background);
+        QFETCH(QString, language);
+        SessionOptions options;
+        options.dpi = dpi;
+        options.screen = QSize(1280, 1024) * (dpi / 96);
+        options.environment["LC_ALL"] = language + ".UTF-8";
+        start(options);
+        QVERIFY(session->resizeMainWindow(QSize(1200, 600) * (dpi / 96)));
+        session->probe("palette " + background);
+        QVERIFY(session->savePicture(QString("columns-") + QTest::currentDataTag()));
+        const Table list = page->list();
+        QCOMPARE(list.headers.last().rect.right(), list.viewport.right());
+        for (const Table::Header &header : list.headers) {
+            const bool isCommandLine = header.section == list.headers.last().section - 1;
+            QCOMPARE(header.rect.width() < header.contentWidth, isCommandLine);
+        }
+    }
+
+private:
+    void start(SessionOptions options = {})
+    {
+        options.machine = madeUpDesktop();
+        session = std::make_unique<DesktopSession>(options);
+        page = std::make_unique<ProcessesPage>(*session);
+        QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
+        QVERIFY(session->waitFor([&] { return page->list().rows.size() == 300; }));
+    }
+
+    bool waitForNames(const QStringList &names)
+    {
+        return session->waitFor([&] {
+            QStringList shown;
+            for (const Table::Row &row : page->list().rows) {
+                shown.append(row.texts.first());
+            }
+            return shown == names;
+        });
+    }
+
+    bool isFocused(const char *name) { return session->widget(name).value("focus").toBool(); }
+
+    std::unique_ptr<DesktopSession> session;
+    std::unique_ptr<ProcessesPage> page;
+};
+
+QTEST_GUILESS_MAIN(TestProcessColumns)
+#include "test_process_columns.moc"
