@@ -70,6 +70,9 @@ void ProcessDelegate::initStyleOption(QStyleOptionViewItem *option, const QModel
     if (value.isValid()) {
         option->features |= QStyleOptionViewItem::HasDisplay;
         option->text = displayText(value, option->locale);
+        if (option->displayAlignment & Qt::AlignRight) {
+            option->text += QChar(QChar::Nbsp); // keeps numbers apart from a text in the next column
+        }
     }
     if (index.data(ProxyProcModel::AncestorOnlyRole).toBool()) {
         option->palette.setColor(QPalette::Text, dimmed(option->palette));

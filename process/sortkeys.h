@@ -17,7 +17,10 @@ struct SortKey
 
     bool operator<(const SortKey &other) const
     {
-        return text && other.text ? text->compare(*other.text) < 0 : number < other.number;
+        if (text && other.text) {
+            return text != other.text && text->compare(*other.text) < 0; // most names are not unique
+        }
+        return number < other.number;
     }
 };
 

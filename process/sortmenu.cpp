@@ -10,6 +10,9 @@
 
 namespace {
 
+/// The first of the letters that no key types alone.
+constexpr ushort firstHangul = 0x1100;
+
 /// Gives each entry a letter of its own as mnemonic, the shortest titles first, as long as there are some.
 void addMnemonics(QList<QAction *> actions)
 {
@@ -20,7 +23,9 @@ void addMnemonics(QList<QAction *> actions)
     QString taken;
     for (QAction *action : actions) {
         QString title = action->text();
-        const auto isFree = [&](QChar c) { return c.isLetter() && !taken.contains(c, Qt::CaseInsensitive); };
+        const auto isFree = [&](QChar c) {
+            return c.isLetter() && c.unicode() < firstHangul && !taken.contains(c, Qt::CaseInsensitive);
+        };
         const auto letter = std::find_if(title.cbegin(), title.cend(), isFree);
         if (letter != title.cend()) {
             taken.append(*letter);

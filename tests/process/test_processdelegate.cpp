@@ -75,7 +75,7 @@ private Q_SLOTS:
         FactsByPid facts = factsUpTo(200);
         facts.at(150).name = QStringLiteral("longer than all the others");
         list.proxy->refresh(makeSnapshot(facts));
-        QStyledItemDelegate plain;
+        ProcessDelegate plain; // that measures every cell
         list.view.setItemDelegate(&plain);
         for (int column = 0; column < list.proxy->columnCount() - 1; ++column) {
             const int fitted = list.view.columnWidth(column);
