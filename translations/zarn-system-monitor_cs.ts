@@ -431,6 +431,10 @@ Všechna data procesu mohou být ztracena.</translation>
         <source>Complete tree</source>
         <translation>Úplný strom</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Kopírovat řádek</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ Všechna data procesu mohou být ztracena.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>Řadit &amp;podle</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>Vzestupně</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>Sestupně</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@ Alle Daten des Prozesses können verloren gehen.</translation>
         <source>Complete tree</source>
         <translation>Vollständiger Baum</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Zeile kopieren</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ Alle Daten des Prozesses können verloren gehen.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>S&amp;ortieren nach</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>Aufsteigend</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>Absteigend</translation>
     </message>
 </context>
 <context>

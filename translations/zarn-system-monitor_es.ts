@@ -431,6 +431,10 @@ Se pueden perder todos los datos del proceso.</translation>
         <source>Complete tree</source>
         <translation>Árbol completo</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Copiar fila</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ Se pueden perder todos los datos del proceso.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>&amp;Ordenar por</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>Ascendente</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>Descendente</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@ Toutes les données du processus peuvent être perdues.</translation>
         <source>Complete tree</source>
         <translation>Arbre complet</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Copier la ligne</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ Toutes les données du processus peuvent être perdues.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>T&amp;rier par</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>Croissant</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>Décroissant</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@ Tutti i dati del processo potrebbero andare persi.</translation>
         <source>Complete tree</source>
         <translation>Albero completo</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Copia riga</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ Tutti i dati del processo potrebbero andare persi.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>&amp;Ordina per</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>Crescente</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>Decrescente</translation>
     </message>
 </context>
 <context>

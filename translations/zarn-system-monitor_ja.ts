@@ -431,6 +431,10 @@ All process data can be lost.</source>
         <source>Complete tree</source>
         <translation>完全なツリー</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>行をコピー</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ All process data can be lost.</source>
     <message>
         <source>%1 %</source>
         <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>並べ替え(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>昇順</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>降順</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@ All process data can be lost.</source>
         <source>Complete tree</source>
         <translation>전체 트리</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>행 복사</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ All process data can be lost.</source>
     <message>
         <source>%1 %</source>
         <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>정렬 기준(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>오름차순</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>내림차순</translation>
     </message>
 </context>
 <context>

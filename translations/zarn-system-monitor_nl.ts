@@ -431,6 +431,10 @@ Alle gegevens van het proces kunnen verloren gaan.</translation>
         <source>Complete tree</source>
         <translation>Volledige boom</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Rij kopiëren</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ Alle gegevens van het proces kunnen verloren gaan.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>S&amp;orteren op</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>Oplopend</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>Aflopend</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@ Wszystkie dane procesu mogą zostać utracone.</translation>
         <source>Complete tree</source>
         <translation>Pełne drzewo</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Kopiuj wiersz</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ Wszystkie dane procesu mogą zostać utracone.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>S&amp;ortuj według</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>Rosnąco</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>Malejąco</translation>
     </message>
 </context>
 <context>

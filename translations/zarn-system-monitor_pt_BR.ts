@@ -431,6 +431,10 @@ Todos os dados do processo podem ser perdidos.</translation>
         <source>Complete tree</source>
         <translation>Árvore completa</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Copiar linha</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ Todos os dados do processo podem ser perdidos.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>&amp;Ordenar por</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>Crescente</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>Decrescente</translation>
     </message>
 </context>
 <context>

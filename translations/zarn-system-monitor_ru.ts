@@ -431,6 +431,10 @@ All process data can be lost.</source>
         <source>Complete tree</source>
         <translation>Полное дерево</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Копировать строку</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ All process data can be lost.</source>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>&amp;Сортировать по</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>По возрастанию</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>По убыванию</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@ Alla processens data kan gå förlorade.</translation>
         <source>Complete tree</source>
         <translation>Fullständigt träd</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Kopiera rad</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ Alla processens data kan gå förlorade.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>S&amp;ortera efter</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>Stigande</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>Fallande</translation>
     </message>
 </context>
 <context>

@@ -431,6 +431,10 @@ Sürecin tüm verileri kaybolabilir.</translation>
         <source>Complete tree</source>
         <translation>Tam ağaç</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Satırı kopyala</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ Sürecin tüm verileri kaybolabilir.</translation>
     <message>
         <source>%1 %</source>
         <translation>%%1</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>&amp;Sırala</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>Artan</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>Azalan</translation>
     </message>
 </context>
 <context>

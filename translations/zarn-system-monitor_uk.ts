@@ -431,6 +431,10 @@ All process data can be lost.</source>
         <source>Complete tree</source>
         <translation>Повне дерево</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>Копіювати рядок</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ All process data can be lost.</source>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>&amp;Сортувати за</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>За зростанням</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>За спаданням</translation>
     </message>
 </context>
 <context>

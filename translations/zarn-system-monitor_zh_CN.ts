@@ -431,6 +431,10 @@ All process data can be lost.</source>
         <source>Complete tree</source>
         <translation>完整树</translation>
     </message>
+    <message>
+        <source>Copy row</source>
+        <translation>复制行</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -499,6 +503,21 @@ All process data can be lost.</source>
     <message>
         <source>%1 %</source>
         <translation>%1%</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Sort &amp;by</source>
+        <translation>排序方式(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Ascending</source>
+        <translation>升序</translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation>降序</translation>
     </message>
 </context>
 <context>
