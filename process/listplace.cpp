@@ -61,9 +61,8 @@ void ListPlace::restoreSelection(const ProxyProcModel &model, QTreeView &view) c
 {
     QItemSelectionModel *selection = view.selectionModel();
     const QModelIndex row = rowOf(model, selected);
-    if (isExpandedTo) {
-        expandAncestors(view,
-                        row); // also of a row that has moved, so that no action reaches one out of sight
+    if (isExpandedTo) { // also above a row that has moved, so that no action reaches one out of sight
+        expandAncestors(view, row);
     }
     if (row == selectedRow(view)) {
         return;

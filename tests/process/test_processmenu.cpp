@@ -4,6 +4,8 @@
 #include "tests/support/rows.h"
 
 #include <QActionGroup>
+#include <QClipboard>
+#include <QHeaderView>
 #include <QtTest>
 
 #include <csignal>
