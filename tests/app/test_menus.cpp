@@ -180,7 +180,7 @@ private Q_SLOTS:
             menu->close();
         });
         QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5));
-        QCoreApplication::sendEvent(tree()->header()->viewport(), &event);
+        QCoreApplication::sendEvent(view()->header()->viewport(), &event);
         QVERIFY(!Fixture::processes()->isColumnVisible(3));
     }
 
