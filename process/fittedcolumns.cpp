@@ -33,9 +33,12 @@ void FittedColumns::fit(const std::function<int(int)> &contents)
 /// would keep when it becomes narrower.
 bool FittedColumns::eventFilter(QObject *, QEvent *event)
 {
+    if (event->type() != QEvent::Resize) {
+        return false; // others also come while the view is being destroyed
+    }
     QHeaderView *header = list->header();
     const int last = header->logicalIndex(header->count() - 1);
-    if (event->type() == QEvent::Resize && last >= 0 && static_cast<std::size_t>(last) < widths.size()) {
+    if (last >= 0 && static_cast<std::size_t>(last) < widths.size()) {
         header->resizeSection(last, widths[static_cast<std::size_t>(last)]);
     }
     return false;
