@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QTimer>
 
 #include <fcntl.h>
 #include <malloc.h>
@@ -63,9 +62,6 @@ void returnLargeBlocksToSystem()
     mallopt(M_TRIM_THRESHOLD, keptForTheNextRefresh);
 }
 
-/// By then the page has been painted and followed up, so what its refreshes use is not released in vain.
-constexpr int startIsOver = 2000; // milliseconds
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -90,8 +86,8 @@ int main(int argc, char **argv)
     }
     gtop_wrappers::ProcessFiller::instance();
     Updater updater(startPage);
+    const StartPages startPages;
     const SavedEnds savedEnds(&updater);
     quitOnSignals(&application);
-    QTimer::singleShot(startIsOver, releaseReadOnlyPages);
     return QApplication::exec();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/startpages.h"
 
+#include <QTimer>
+
 #include <link.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -8,6 +10,8 @@
 #include <cstddef>
 
 namespace {
+
+constexpr int startIsOver = 2000; ///< milliseconds
 
 ElfW(Addr) addressOf(const dl_phdr_info &object, const ElfW(Phdr) & segment)
 {
@@ -53,4 +57,9 @@ int releaseSegments(dl_phdr_info *object, std::size_t /*size*/, void * /*data*/)
 void releaseReadOnlyPages()
 {
     dl_iterate_phdr(releaseSegments, nullptr);
+}
+
+StartPages::StartPages()
+{
+    QTimer::singleShot(startIsOver, this, SLOT(release()));
 }
