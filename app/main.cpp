@@ -2,7 +2,6 @@
 #include "app/quitsignals.h"
 #include "app/savedends.h"
 #include "app/startpage.h"
-#include "app/startpages.h"
 #include "app/systemfiles.h"
 #include "app/translations.h"
 #include "app/updater.h"
@@ -86,7 +85,6 @@ int main(int argc, char **argv)
     }
     gtop_wrappers::ProcessFiller::instance();
     Updater updater(startPage);
-    const StartPages startPages;
     const SavedEnds savedEnds(&updater);
     quitOnSignals(&application);
     return QApplication::exec();
