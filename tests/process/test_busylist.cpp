@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/proxyprocmodel.h"
+#include "tests/process/support/listview.h"
 #include "tests/process/support/referencetree.h"
 #include "tests/process/support/world.h"
+#include "tests/support/rows.h"
 
 #include <QScrollBar>
 #include <QtTest>
@@ -12,17 +13,11 @@ const int processes = 1150;
 const int firstFreeColumn = 3; ///< the checks read the columns before it
 
 /// The list in a window, the simulated machine, and the literal rules to compare with.
-class BusyList
+class BusyList : public List
 {
 public:
-    BusyList(unsigned int seed, bool isFlat)
-        : proxy(new ProxyProcModel(&owner)), source(nullptr), world(seed, processes), reference(isFlat),
-          total(1)
+    BusyList(unsigned int seed, bool isFlat) : world(seed, processes), reference(isFlat), total(1)
     {
-        view.setSortingEnabled(true);
-        view.setUniformRowHeights(true);
-        proxy->setView(&view);
-        source = qobject_cast<ProcModel *>(proxy->sourceModel());
         proxy->setFlat(isFlat);
         view.resize(600, 400);
         view.show();
@@ -148,10 +143,6 @@ private:
         }
     }
 
-    QObject owner;
-    QTreeView view;
-    ProxyProcModel *proxy;
-    ProcModel *source;
     World world;
     ReferenceTree reference;
     unsigned long total;
@@ -166,10 +157,9 @@ class TestBusyList : public QObject
 private Q_SLOTS:
     void everyRefreshShowsWhatTheRulesSay_data()
     {
-        QTest::addColumn<bool>("flat");
-        QTest::addColumn<unsigned int>("seed");
-        QTest::newRow("flat") << true << 4711U;
-        QTest::newRow("tree") << false << 4712U;
+        const Rows<bool, unsigned int> row("flat", "seed");
+        row("flat", true, 4711U);
+        row("tree", false, 4712U);
     }
 
     void everyRefreshShowsWhatTheRulesSay()

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/proxyprocmodel.h"
 #include "tests/process/support/firstcellonly.h"
 #include "tests/process/support/forest.h"
+#include "tests/process/support/listview.h"
 #include "tests/process/support/plaintree.h"
 #include "tests/process/support/referencetree.h"
+#include "tests/support/rows.h"
 
-#include <QAbstractItemModelTester>
 #include <QScrollBar>
 #include <QtTest>
 
@@ -21,24 +21,14 @@ struct ShownRow
 };
 
 /// The list in a window with everything attached, the simulated machine, and the rules to compare with.
-class ModelledList
+class ModelledList : public List
 {
 public:
-    ModelledList(Shape shape, int processes)
-        : proxy(new ProxyProcModel(&owner)), forest(shape, processes, 15U)
+    ModelledList(Shape shape, int processes) : forest(shape, processes, 15U)
     {
-        view.setSortingEnabled(true);
-        view.setUniformRowHeights(true);
-        proxy->setView(&view);
-        source = qobject_cast<ProcModel *>(proxy->sourceModel());
         setMode(CompleteTree);
-        using Tester = QAbstractItemModelTester;
-        for (QAbstractItemModel *model : {static_cast<QAbstractItemModel *>(proxy), proxy->sourceModel()}) {
-            auto *firstCellOnly = new FirstCellOnly;
-            firstCellOnly->setParent(&owner);
-            firstCellOnly->setSourceModel(model);
-            new Tester(firstCellOnly, Tester::FailureReportingMode::Fatal, &owner);
-        }
+        testFirstCells(proxy, &owner);
+        testFirstCells(source, &owner);
         view.resize(600, 400);
         view.show();
     }
@@ -191,10 +181,6 @@ private:
         }
     }
 
-    QObject owner;
-    QTreeView view;
-    ProxyProcModel *proxy;
-    ProcModel *source = nullptr;
     Forest forest;
     Mode mode = CompleteTree;
     PlainTree plain;
@@ -214,16 +200,14 @@ class TestCompleteList : public QObject
 private Q_SLOTS:
     void everyRefreshShowsEachProcessOnceUnderItsParent_data()
     {
-        QTest::addColumn<Shape>("shape");
-        QTest::addColumn<int>("processes");
-        QTest::addColumn<int>("refreshes"); // ZSM_TEST_REFRESHES overrides
-        QTest::newRow("few") << Bushes << 6 << 800;
-        QTest::newRow("bushes") << Bushes << 40 << 150;
-        QTest::newRow("many") << Bushes << 200 << 15;
-        QTest::newRow("chains from small to great pids") << ChainsDown << 25 << 150;
-        QTest::newRow("chains from great to small pids") << ChainsUp << 25 << 150;
-        QTest::newRow("small rings") << Rings << 6 << 800;
-        QTest::newRow("rings") << Rings << 30 << 150;
+        const Rows<Shape, int, int> row("shape", "processes", "refreshes"); // ZSM_TEST_REFRESHES overrides
+        row("few", Bushes, 6, 800);
+        row("bushes", Bushes, 40, 150);
+        row("many", Bushes, 200, 15);
+        row("chains from small to great pids", ChainsDown, 25, 150);
+        row("chains from great to small pids", ChainsUp, 25, 150);
+        row("small rings", Rings, 6, 800);
+        row("rings", Rings, 30, 150);
     }
 
     void everyRefreshShowsEachProcessOnceUnderItsParent()

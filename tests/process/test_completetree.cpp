@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/completetree.h"
 #include "tests/process/support/plaintree.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 
@@ -58,17 +59,16 @@ class TestCompleteTree : public QObject
 private Q_SLOTS:
     void eachProcessHasOnePlace_data()
     {
-        QTest::addColumn<Parents>("asRead");
-        QTest::addColumn<QString>("places");
-        QTest::newRow("none") << Parents{} << "";
-        QTest::newRow("a family") << Parents{{1, 0}, {2, 1}, {3, 1}, {4, 3}} << "1 2<1 3<1 4<3";
-        QTest::newRow("no parent in the snapshot") << Parents{{1, 0}, {2, 9}, {5, 3}} << "1 2 5";
-        QTest::newRow("parents with greater pids") << Parents{{1, 2}, {2, 3}, {3, 0}} << "1<2 2<3 3";
-        QTest::newRow("its own parent") << Parents{{2, 2}, {3, 2}} << "2 3<2";
-        QTest::newRow("a ring") << Parents{{3, 5}, {4, 3}, {5, 4}} << "3 4<3 5<4";
-        QTest::newRow("a ring with a branch of smaller pids")
-            << Parents{{1, 2}, {2, 5}, {4, 5}, {5, 6}, {6, 4}} << "1<2 2<5 4 5<6 6<4";
-        QTest::newRow("two rings") << Parents{{1, 2}, {2, 1}, {3, 4}, {4, 3}} << "1 2<1 3 4<3";
+        const Rows<Parents, QString> row("asRead", "places");
+        row("none", {}, "");
+        row("a family", {{1, 0}, {2, 1}, {3, 1}, {4, 3}}, "1 2<1 3<1 4<3");
+        row("no parent in the snapshot", {{1, 0}, {2, 9}, {5, 3}}, "1 2 5");
+        row("parents with greater pids", {{1, 2}, {2, 3}, {3, 0}}, "1<2 2<3 3");
+        row("its own parent", {{2, 2}, {3, 2}}, "2 3<2");
+        row("a ring", {{3, 5}, {4, 3}, {5, 4}}, "3 4<3 5<4");
+        row("a ring with a branch of smaller pids", {{1, 2}, {2, 5}, {4, 5}, {5, 6}, {6, 4}},
+            "1<2 2<5 4 5<6 6<4");
+        row("two rings", {{1, 2}, {2, 1}, {3, 4}, {4, 3}}, "1 2<1 3 4<3");
     }
 
     void eachProcessHasOnePlace()
@@ -79,21 +79,16 @@ private Q_SLOTS:
 
     void onlyWhatDiffersChanges_data()
     {
-        QTest::addColumn<Parents>("current");
-        QTest::addColumn<Parents>("wanted");
-        QTest::addColumn<QString>("changes");
+        const Rows<Parents, Parents, QString> row("current", "wanted", "changes");
         const int root = TreePlace::AtRoot;
         const Parents family{{1, root}, {2, 1}, {3, 2}};
-        QTest::newRow("nothing") << family << family << "+  | >  | - ";
-        QTest::newRow("from nothing") << Parents{} << family << "+ 1 2<1 3<2 | >  | - ";
-        QTest::newRow("parents come before their children")
-            << Parents{} << Parents{{1, 3}, {2, 1}, {3, root}} << "+ 3 1<3 2<1 | >  | - ";
-        QTest::newRow("all exit") << family << Parents{} << "+  | >  | - 1 2 3";
-        QTest::newRow("the parent exits") << family << Parents{{1, root}, {3, 1}} << "+  | > 3<1 | - 2";
-        QTest::newRow("a new parent")
-            << family << Parents{{1, root}, {2, 1}, {3, 4}, {4, 1}} << "+ 4<1 | > 3<4 | - ";
-        QTest::newRow("turned over") << family << Parents{{1, 2}, {2, 3}, {3, root}}
-                                     << "+  | > 1<2 2<3 3 | - ";
+        row("nothing", family, family, "+  | >  | - ");
+        row("from nothing", {}, family, "+ 1 2<1 3<2 | >  | - ");
+        row("parents come before their children", {}, {{1, 3}, {2, 1}, {3, root}}, "+ 3 1<3 2<1 | >  | - ");
+        row("all exit", family, {}, "+  | >  | - 1 2 3");
+        row("the parent exits", family, {{1, root}, {3, 1}}, "+  | > 3<1 | - 2");
+        row("a new parent", family, {{1, root}, {2, 1}, {3, 4}, {4, 1}}, "+ 4<1 | > 3<4 | - ");
+        row("turned over", family, {{1, 2}, {2, 3}, {3, root}}, "+  | > 1<2 2<3 3 | - ");
     }
 
     void onlyWhatDiffersChanges()

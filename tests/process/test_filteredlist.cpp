@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "process/proxyprocmodel.h"
 #include "tests/process/support/firstcellonly.h"
+#include "tests/process/support/listview.h"
 #include "tests/process/support/world.h"
+#include "tests/support/rows.h"
 
 #include <QAbstractItemModelTester>
 #include <QHeaderView>
@@ -16,15 +17,11 @@ namespace {
 using gtop_wrappers::Process;
 
 /// The list in a window, refreshed with simulated processes.
-class FilteredList
+class FilteredList : public List
 {
 public:
-    explicit FilteredList(bool isFlat) : proxy(new ProxyProcModel(&owner)), source(nullptr), total(1)
+    explicit FilteredList(bool isFlat)
     {
-        view.setSortingEnabled(true);
-        view.setUniformRowHeights(true);
-        proxy->setView(&view);
-        source = qobject_cast<ProcModel *>(proxy->sourceModel());
         proxy->setFlat(isFlat);
         view.sortByColumn(2, Qt::AscendingOrder); // the pid
         view.resize(600, 400);
@@ -53,11 +50,7 @@ public:
 
     QModelIndex row(int pid) const { return proxy->rowOfPid(pid); }
 
-    QObject owner;
-    QTreeView view;
-    ProxyProcModel *proxy;
-    ProcModel *source;
-    unsigned long total;
+    unsigned long total = 1;
 };
 
 /// What a plain filter shows of the model's rows: "1(2(3)) 4" in the order of the model.
@@ -98,10 +91,9 @@ class TestFilteredList : public QObject
 private Q_SLOTS:
     void everyRefreshShowsWhatAPlainFilterShows_data()
     {
-        QTest::addColumn<bool>("flat");
-        QTest::addColumn<unsigned int>("seed");
-        QTest::newRow("flat") << true << 815U;
-        QTest::newRow("tree") << false << 816U;
+        const Rows<bool, unsigned int> row("flat", "seed");
+        row("flat", true, 815U);
+        row("tree", false, 816U);
     }
 
     void everyRefreshShowsWhatAPlainFilterShows()
@@ -143,16 +135,11 @@ private Q_SLOTS:
 
     void inTreeModeAncestorsAreShownAndDimmed_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<int>("found");
-        QTest::newRow("a leaf") << "p3"
-                                << "1-(2-(3))" << 1;
-        QTest::newRow("a parent, without its children") << "p2"
-                                                        << "1-(2)" << 1;
-        QTest::newRow("parents and children") << "p" << familyTree << 6;
-        QTest::newRow("nothing") << "q"
-                                 << "" << 0;
+        const Rows<QString, QString, int> row("text", "shown", "found");
+        row("a leaf", "p3", "1-(2-(3))", 1);
+        row("a parent, without its children", "p2", "1-(2)", 1);
+        row("parents and children", "p", familyTree, 6);
+        row("nothing", "q", "", 0);
     }
 
     void inTreeModeAncestorsAreShownAndDimmed()
@@ -221,9 +208,9 @@ private Q_SLOTS:
 
     void aResetKeepsTheFilter_data()
     {
-        QTest::addColumn<bool>("flat");
-        QTest::newRow("flat") << true;
-        QTest::newRow("tree") << false;
+        const Rows<bool> row("flat");
+        row("flat", true);
+        row("tree", false);
     }
 
     void aResetKeepsTheFilter()

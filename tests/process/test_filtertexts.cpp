@@ -4,6 +4,7 @@
 #include "process/gtop_wrappers/filler.h"
 
 #include "madeupprocesses.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 
@@ -29,12 +30,11 @@ private Q_SLOTS:
 
     void whatIsCheapIsFoundAtOnce_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("found");
-        QTest::newRow("name") << "SOME" << true;
-        QTest::newRow("pid") << "11" << true;
-        QTest::newRow("user") << "root" << true;
-        QTest::newRow("command line") << "tool11" << false;
+        const Rows<QString, bool> row("text", "found");
+        row("name", "SOME", true);
+        row("pid", "11", true);
+        row("user", "root", true);
+        row("command line", "tool11", false);
     }
 
     void whatIsCheapIsFoundAtOnce()
@@ -78,10 +78,9 @@ private Q_SLOTS:
 
     void isReadAgain_data()
     {
-        QTest::addColumn<bool>("newName");
-        QTest::addColumn<bool>("newStart");
-        QTest::newRow("after an exec") << true << false;
-        QTest::newRow("of a process that reuses the pid") << false << true;
+        const Rows<bool, bool> row("newName", "newStart");
+        row("after an exec", true, false);
+        row("of a process that reuses the pid", false, true);
     }
 
     void isReadAgain()

@@ -132,10 +132,10 @@ private Q_SLOTS:
 
     void ancestorsAreExpandedAgainIfTheyWere_data()
     {
-        QTest::addColumn<int>("collapsed"); // pid; 0 for none
-        QTest::newRow("expanded") << 0;
-        QTest::newRow("parent collapsed") << 2;
-        QTest::newRow("grandparent collapsed") << 1;
+        const Rows<int> row("collapsed"); // pid; 0 for none
+        row("expanded", 0);
+        row("parent collapsed", 2);
+        row("grandparent collapsed", 1);
     }
 
     void ancestorsAreExpandedAgainIfTheyWere()

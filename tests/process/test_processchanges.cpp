@@ -48,9 +48,9 @@ class TestProcessChanges : public QObject
 private Q_SLOTS:
     void initTestCase_data()
     {
-        QTest::addColumn<bool>("shortcuts");
-        QTest::newRow("young, read entirely") << false;
-        QTest::newRow("old, with shortcuts") << true;
+        const Rows<bool> row("shortcuts");
+        row("young, read entirely", false);
+        row("old, with shortcuts", true);
     }
 
     void init()

@@ -2,6 +2,7 @@
 #include "process/processfilter.h"
 #include "process/shownrows.h"
 #include "tests/process/support/synthetic.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 
@@ -33,31 +34,30 @@ class TestProcessFilter : public QObject
 private Q_SLOTS:
     void aTextFinds_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("found");
-        QTest::newRow("nothing, all") << "" << true;
-        QTest::newRow("blanks, all") << " \t\u00a0 " << true;
-        QTest::newRow("name") << "fire" << true;
-        QTest::newRow("name in capitals") << "FIREFOX" << true;
-        QTest::newRow("middle of the command line") << "profile" << true;
-        QTest::newRow("user") << "alice" << true;
-        QTest::newRow("other user") << "bob" << false;
-        QTest::newRow("words in different fields") << "alice  fox --new" << true;
-        QTest::newRow("words in any order") << "window firefox" << true;
-        QTest::newRow("one word missing") << "firefox bob" << false;
-        QTest::newRow("part of a word given twice") << "fire firefox" << true;
-        QTest::newRow("the pid") << "1234" << true;
-        QTest::newRow("the pid with leading zeros") << "001234" << true;
-        QTest::newRow("digits of the pid") << "23" << true;
-        QTest::newRow("digits of the command line") << "77" << true;
-        QTest::newRow("another number") << "1235" << false;
-        QTest::newRow("a number beyond 32 bits") << "99999999999" << false;
-        QTest::newRow("pid and word") << "1234 firefox" << true;
-        QTest::newRow("leading zeros and a word") << "001234 firefox" << false;
-        QTest::newRow("no pattern") << "fire.*" << false;
-        QTest::newRow("name and user in one word") << "firefoxalice" << false;
-        QTest::newRow("accents in capitals") << "\u00c4R\u00c9" << true;
-        QTest::newRow("Greek final sigma") << "\u039f\u0394\u039f\u03a3" << true;
+        const Rows<QString, bool> row("text", "found");
+        row("nothing, all", "", true);
+        row("blanks, all", " \t\u00a0 ", true);
+        row("name", "fire", true);
+        row("name in capitals", "FIREFOX", true);
+        row("middle of the command line", "profile", true);
+        row("user", "alice", true);
+        row("other user", "bob", false);
+        row("words in different fields", "alice  fox --new", true);
+        row("words in any order", "window firefox", true);
+        row("one word missing", "firefox bob", false);
+        row("part of a word given twice", "fire firefox", true);
+        row("the pid", "1234", true);
+        row("the pid with leading zeros", "001234", true);
+        row("digits of the pid", "23", true);
+        row("digits of the command line", "77", true);
+        row("another number", "1235", false);
+        row("a number beyond 32 bits", "99999999999", false);
+        row("pid and word", "1234 firefox", true);
+        row("leading zeros and a word", "001234 firefox", false);
+        row("no pattern", "fire.*", false);
+        row("name and user in one word", "firefoxalice", false);
+        row("accents in capitals", "\u00c4R\u00c9", true);
+        row("Greek final sigma", "\u039f\u0394\u039f\u03a3", true);
     }
 
     void aTextFinds()
@@ -77,25 +77,15 @@ private Q_SLOTS:
 
     void ancestorsOfAMatchAreShown_data()
     {
-        QTest::addColumn<Parents>("parents");
-        QTest::addColumn<QList<int>>("matching");
-        QTest::addColumn<QString>("flat");
-        QTest::addColumn<QString>("tree");
+        const Rows<Parents, QList<int>, QString, QString> row("parents", "matching", "flat", "tree");
         const Parents line{{1, 0}, {2, 1}, {3, 2}, {4, 2}, {5, 0}};
-        QTest::newRow("none") << line << QList<int>{} << ""
-                              << "";
-        QTest::newRow("a root") << line << QList<int>{5} << "5!"
-                                << "5!";
-        QTest::newRow("a grandchild") << line << QList<int>{3} << "3!"
-                                      << "1 2 3!";
-        QTest::newRow("siblings") << line << QList<int>{3, 4} << "3! 4!"
-                                  << "1 2 3! 4!";
-        QTest::newRow("an ancestor too") << line << QList<int>{1, 4} << "1! 4!"
-                                         << "1! 2 4!";
-        QTest::newRow("ring") << Parents{{1, 2}, {2, 1}, {3, 1}} << QList<int>{3} << "3!"
-                              << "1 2 3!";
-        QTest::newRow("own parent") << Parents{{1, 1}, {2, 1}} << QList<int>{2} << "2!"
-                                    << "1 2!";
+        row("none", line, {}, "", "");
+        row("a root", line, {5}, "5!", "5!");
+        row("a grandchild", line, {3}, "3!", "1 2 3!");
+        row("siblings", line, {3, 4}, "3! 4!", "1 2 3! 4!");
+        row("an ancestor too", line, {1, 4}, "1! 4!", "1! 2 4!");
+        row("ring", {{1, 2}, {2, 1}, {3, 1}}, {3}, "3!", "1 2 3!");
+        row("own parent", {{1, 1}, {2, 1}}, {2}, "2!", "1 2!");
     }
 
     void ancestorsOfAMatchAreShown()

@@ -4,6 +4,7 @@
 #include "tests/process/support/referencetree.h"
 #include "tests/process/support/synthetic.h"
 #include "tests/process/support/world.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 
@@ -96,10 +97,9 @@ private Q_SLOTS:
 
     void theModelKeepsTheProtocol_data()
     {
-        QTest::addColumn<bool>("flat");
-        QTest::addColumn<unsigned int>("seed");
-        QTest::newRow("flat list") << true << 20211U;
-        QTest::newRow("tree") << false << 20212U;
+        const Rows<bool, unsigned int> row("flat", "seed");
+        row("flat list", true, 20211U);
+        row("tree", false, 20212U);
     }
 
     void theModelKeepsTheProtocol()

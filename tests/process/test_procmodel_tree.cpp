@@ -2,6 +2,7 @@
 #include "process/procmodel.h"
 #include "tests/process/support/referencetree.h"
 #include "tests/process/support/synthetic.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 
@@ -41,50 +42,48 @@ private Q_SLOTS:
     /// the insertions of one refresh.
     void shapesOfTheTree_data()
     {
-        QTest::addColumn<Steps>("steps");
-        QTest::newRow("a process without a parent in the snapshot is at the top")
-            << Steps{{makeSnapshot({{1, 0}, {50, 49}, {60, -1}}), "1 50 60"}};
+        const Rows<Steps> row("steps");
+        row("a process without a parent in the snapshot is at the top",
+            {{makeSnapshot({{1, 0}, {50, 49}, {60, -1}}), "1 50 60"}});
         // 1 | 2 brings a new 1 | 3 brings a new 1 and a new 2
-        QTest::newRow("a chain keeps its whole line")
-            << Steps{{makeSnapshot({{1, 0}, {2, 1}, {3, 2}}), "1(2(3))"}};
+        row("a chain keeps its whole line", {{makeSnapshot({{1, 0}, {2, 1}, {3, 2}}), "1(2(3))"}});
         // 3 brings a new 1, so 2 stays under the old 1, which is destroyed
-        QTest::newRow("of two children only the last one is under the parent")
-            << Steps{{makeSnapshot({{1, 0}, {2, 1}, {3, 1}}), "1(3)", "2"}};
+        row("of two children only the last one is under the parent",
+            {{makeSnapshot({{1, 0}, {2, 1}, {3, 1}}), "1(3)", "2"}});
         // 5 brings 9; then 9 is inserted itself as a new copy
-        QTest::newRow("a parent with a higher pid loses the child that brought it")
-            << Steps{{makeSnapshot({{5, 9}, {9, 0}}), "9", "5"}};
+        row("a parent with a higher pid loses the child that brought it",
+            {{makeSnapshot({{5, 9}, {9, 0}}), "9", "5"}});
         // 1(2) | 3 brings a new 1: 1(3), without 2 | 4 brings 1 and 2: 1(2(4)), without 3
         // | 5 brings 1 and 3: 1(3(5)), without 2, which keeps 4 | 6
-        QTest::newRow("siblings at two levels")
-            << Steps{{makeSnapshot({{1, 0}, {2, 1}, {3, 1}, {4, 2}, {5, 3}, {6, 0}}), "1(3(5)) 6", "2 4"}};
-        QTest::newRow("a new child brings new ancestors")
-            << Steps{{makeSnapshot({{1, 0}, {2, 1}, {7, 0}}), "1(2) 7"},
-                     {makeSnapshot({{1, 0}, {2, 1}, {3, 1}, {7, 0}}), "7 1(3)", "2"},
-                     {makeSnapshot({{1, 0}, {2, 1}, {3, 1}, {4, 2}, {7, 0}}), "7 1(2(4))", "3"}};
+        row("siblings at two levels",
+            {{makeSnapshot({{1, 0}, {2, 1}, {3, 1}, {4, 2}, {5, 3}, {6, 0}}), "1(3(5)) 6", "2 4"}});
+        row("a new child brings new ancestors",
+            {{makeSnapshot({{1, 0}, {2, 1}, {7, 0}}), "1(2) 7"},
+             {makeSnapshot({{1, 0}, {2, 1}, {3, 1}, {7, 0}}), "7 1(3)", "2"},
+             {makeSnapshot({{1, 0}, {2, 1}, {3, 1}, {4, 2}, {7, 0}}), "7 1(2(4))", "3"}});
         // 3 still has its old parent pid, so it is updated first and then removed with its parent
-        QTest::newRow("a vanished parent takes its children along for one refresh")
-            << Steps{{makeSnapshot({{1, 0}, {2, 1}, {3, 2}}), "1(2(3))"},
-                     {makeSnapshot({{1, 0}, {3, 2}}), "1"},
-                     {makeSnapshot({{1, 0}, {3, 2}}), "1 3"}};
+        row("a vanished parent takes its children along for one refresh",
+            {{makeSnapshot({{1, 0}, {2, 1}, {3, 2}}), "1(2(3))"},
+             {makeSnapshot({{1, 0}, {3, 2}}), "1"},
+             {makeSnapshot({{1, 0}, {3, 2}}), "1 3"}});
         // 2 was reparented: it is removed with 3 and inserted again with a new 3, and both are still stale
-        QTest::newRow("a mismatch takes its subtree along for one refresh")
-            << Steps{{makeSnapshot({{1, 0}, {2, 1}, {3, 2}}), "1(2(3))"},
-                     {makeSnapshot({{1, 0}, {2, 0}, {3, 2}}), "1"},
-                     {makeSnapshot({{1, 0}, {2, 0}, {3, 2}}), "1 2(3)"}};
+        row("a mismatch takes its subtree along for one refresh",
+            {{makeSnapshot({{1, 0}, {2, 1}, {3, 2}}), "1(2(3))"},
+             {makeSnapshot({{1, 0}, {2, 0}, {3, 2}}), "1"},
+             {makeSnapshot({{1, 0}, {2, 0}, {3, 2}}), "1 2(3)"}});
         // in the end 3 matches before 8 turns out to be another process: it is removed with 8
-        QTest::newRow("a matched child of a later mismatch is not inserted twice")
-            << Steps{{makeSnapshot({{2, 8}, {8, 0}}), "8", "2"},
-                     {makeSnapshot({{2, 8}, {8, 0}}), "8", "2"},
-                     {makeSnapshot({{2, 8}, {3, 8}, {8, 0}}), "8(3)", "2"},
-                     {makeSnapshot({{2, 8}, {3, 8}, {8, 1}}), "", "2"}};
-        QTest::newRow("a process that is its own parent is at the top")
-            << Steps{{makeSnapshot({{1, 0}, {2, 2}}), "1 2"}, {makeSnapshot({{1, 0}, {2, 2}}), "1 2"}};
+        row("a matched child of a later mismatch is not inserted twice",
+            {{makeSnapshot({{2, 8}, {8, 0}}), "8", "2"},
+             {makeSnapshot({{2, 8}, {8, 0}}), "8", "2"},
+             {makeSnapshot({{2, 8}, {3, 8}, {8, 0}}), "8(3)", "2"},
+             {makeSnapshot({{2, 8}, {3, 8}, {8, 1}}), "", "2"}});
+        row("a process that is its own parent is at the top",
+            {{makeSnapshot({{1, 0}, {2, 2}}), "1 2"}, {makeSnapshot({{1, 0}, {2, 2}}), "1 2"}});
         // 2 brings 3, whose parent is already on the path: 3(2) | then 3 brings 2 at the top
-        QTest::newRow("a ring of two is cut") << Steps{{makeSnapshot({{2, 3}, {3, 2}}), "2(3)"}};
+        row("a ring of two is cut", {{makeSnapshot({{2, 3}, {3, 2}}), "2(3)"}});
         // the line of 1 is 2(3(1)) | the line of 3, the last one, ends at 1, whose parent 3 is on the path
-        QTest::newRow("a ring of three is cut") << Steps{{makeSnapshot({{1, 3}, {2, 1}, {3, 2}}), "1(2(3))"}};
-        QTest::newRow("a ring above a chain is cut")
-            << Steps{{makeSnapshot({{1, 2}, {2, 1}, {3, 2}, {4, 3}}), "1(2(3(4)))"}};
+        row("a ring of three is cut", {{makeSnapshot({{1, 3}, {2, 1}, {3, 2}}), "1(2(3))"}});
+        row("a ring above a chain is cut", {{makeSnapshot({{1, 2}, {2, 1}, {3, 2}, {4, 3}}), "1(2(3(4)))"}});
     }
 
     void shapesOfTheTree()

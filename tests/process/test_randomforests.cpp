@@ -3,8 +3,8 @@
 #include "tests/process/support/firstcellonly.h"
 #include "tests/process/support/forest.h"
 #include "tests/process/support/referencetree.h"
+#include "tests/support/rows.h"
 
-#include <QAbstractItemModelTester>
 #include <QTreeView>
 #include <QtTest>
 
@@ -37,17 +37,15 @@ class TestRandomForests : public QObject
 private Q_SLOTS:
     void everyRefreshIsTheSameAsInTheReference_data()
     {
-        QTest::addColumn<Shape>("shape");
-        QTest::addColumn<int>("processes");
-        QTest::addColumn<int>("refreshes"); // ZSM_TEST_REFRESHES overrides
-        QTest::newRow("few") << Bushes << 6 << 600;
-        QTest::newRow("bushes") << Bushes << 40 << 100;
-        QTest::newRow("chains from small to great pids") << ChainsDown << 25 << 120;
-        QTest::newRow("chains from great to small pids") << ChainsUp << 25 << 120;
-        QTest::newRow("deep chains from small to great pids") << ChainsDown << 120 << 20;
-        QTest::newRow("deep chains from great to small pids") << ChainsUp << 120 << 20;
-        QTest::newRow("small rings") << Rings << 6 << 600;
-        QTest::newRow("rings") << Rings << 30 << 100;
+        const Rows<Shape, int, int> row("shape", "processes", "refreshes"); // ZSM_TEST_REFRESHES overrides
+        row("few", Bushes, 6, 600);
+        row("bushes", Bushes, 40, 100);
+        row("chains from small to great pids", ChainsDown, 25, 120);
+        row("chains from great to small pids", ChainsUp, 25, 120);
+        row("deep chains from small to great pids", ChainsDown, 120, 20);
+        row("deep chains from great to small pids", ChainsUp, 120, 20);
+        row("small rings", Rings, 6, 600);
+        row("rings", Rings, 30, 100);
     }
 
     void everyRefreshIsTheSameAsInTheReference()
@@ -78,13 +76,8 @@ private:
         proxy->setView(view.get());
         proxy->setFlat(false);
         view->setSortingEnabled(true);
-        using Tester = QAbstractItemModelTester;
-        for (QAbstractItemModel *model : {static_cast<QAbstractItemModel *>(proxy), proxy->sourceModel()}) {
-            auto *firstCellOnly = new FirstCellOnly;
-            firstCellOnly->setParent(view.get());
-            firstCellOnly->setSourceModel(model);
-            new Tester(firstCellOnly, Tester::FailureReportingMode::Fatal, view.get());
-        }
+        testFirstCells(proxy, view.get());
+        testFirstCells(proxy->sourceModel(), view.get());
         total = 1;
         fills = true;
     }

@@ -22,6 +22,7 @@ struct List
         view.setSortingEnabled(true);
         view.setUniformRowHeights(true);
         proxy->setView(&view);
+        source = qobject_cast<ProcModel *>(proxy->sourceModel());
     }
     QList<int> pids() const
     {
@@ -45,6 +46,7 @@ struct List
     QObject owner;
     View view;
     ProxyProcModel *proxy;
+    ProcModel *source = nullptr;
 };
 
 #endif
