@@ -77,6 +77,21 @@ QMainWindow *Fixture::window()
     return nullptr;
 }
 
+QAction *Fixture::entry(const QMenu *menu, const char *text)
+{
+    for (QAction *action : menu->actions()) {
+        if (action->text() == QLatin1String(text)) {
+            return action;
+        }
+    }
+    return nullptr;
+}
+
+QAction *Fixture::processAction(const char *text)
+{
+    return entry(window()->menuBar()->actions().at(1)->menu()->actions().at(1)->menu(), text);
+}
+
 void Fixture::choosePage(int page)
 {
     find<QTabWidget>("tabWidget")->setCurrentIndex(page);

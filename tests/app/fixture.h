@@ -41,6 +41,10 @@ public:
     {
         return window()->findChild<T *>(QLatin1String(name));
     }
+    /// The entry of a menu with that text; null if there is none.
+    static QAction *entry(const QMenu *menu, const char *text);
+    /// An entry of the menu of the processes, shown or not.
+    static QAction *processAction(const char *text);
     static void choosePage(int page);
     static QString text(const char *label);
     /// The model of the process tree.

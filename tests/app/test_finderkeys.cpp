@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "app/finderkeys.h"
 
 #include <QKeyEvent>
 #include <QtTest>
+
+Q_DECLARE_METATYPE(ListKey)
 
 /// Which keys of the process list open the line that filters it, and which go into it.
 class TestFinderKeys : public QObject
@@ -12,14 +15,7 @@ class TestFinderKeys : public QObject
 private Q_SLOTS:
     void aKeyInTheListMeans_data()
     {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("meaning");
-        const auto row = [](const char *name, int key, Qt::KeyboardModifiers modifiers, const char *text,
-                            ListKey meaning) {
-            QTest::newRow(name) << key << modifiers << QString::fromUtf8(text) << static_cast<int>(meaning);
-        };
+        const Rows<int, Qt::KeyboardModifiers, QString, ListKey> row("key", "modifiers", "text", "meaning");
         row("letter", Qt::Key_A, Qt::NoModifier, "a", ListKey::Type);
         row("capital letter", Qt::Key_A, Qt::ShiftModifier, "A", ListKey::Type);
         row("digit of the key pad", Qt::Key_1, Qt::KeypadModifier, "1", ListKey::Type);
@@ -48,8 +44,9 @@ private Q_SLOTS:
         QFETCH(int, key);
         QFETCH(Qt::KeyboardModifiers, modifiers);
         QFETCH(QString, text);
-        QFETCH(int, meaning);
-        QCOMPARE(static_cast<int>(listKey(QKeyEvent(QEvent::KeyPress, key, modifiers, text))), meaning);
+        QFETCH(ListKey, meaning);
+        const ListKey found = listKey(QKeyEvent(QEvent::KeyPress, key, modifiers, text));
+        QCOMPARE(static_cast<int>(found), static_cast<int>(meaning));
     }
 };
 

@@ -308,16 +308,7 @@ private:
         QCOMPARE(seen.informativeText, QStringLiteral("made-up%1 (%1)").arg(pid));
     }
 
-    static QAction *killAction()
-    {
-        const QMenu *edit = Fixture::window()->menuBar()->actions().at(1)->menu();
-        for (QAction *action : edit->actions().at(1)->menu()->actions()) {
-            if (action->text() == QStringLiteral("Kill process")) {
-                return action;
-            }
-        }
-        return nullptr;
-    }
+    static QAction *killAction() { return Fixture::processAction("Kill process"); }
 
     /// A tree in which each process of the fixture is the parent of the next. Only the test refreshes.
     void startWithTree(int parentOfTheLast = 300)

@@ -265,7 +265,7 @@ private Q_SLOTS:
             dialog->findChild<QSlider *>()->setSliderPosition(5);
             dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
         });
-        entry(menuAt(1)->actions().first()->menu(), QTest::currentDataTag())->trigger();
+        Fixture::entry(menuAt(1)->actions().first()->menu(), QTest::currentDataTag())->trigger();
         fixture->stop();
         QCOMPARE(QSettings().value(key).toInt(), 5);
     }
@@ -292,16 +292,7 @@ private:
         return Fixture::window()->menuBar()->actions().at(position)->menu();
     }
     static QMenu *processEntry() { return menuAt(1)->actions().at(1)->menu(); }
-    static QAction *entry(const QMenu *menu, const char *text)
-    {
-        for (QAction *action : menu->actions()) {
-            if (action->text() == QLatin1String(text)) {
-                return action;
-            }
-        }
-        return nullptr;
-    }
-    static QAction *processAction(const char *text) { return entry(processEntry(), text); }
+    static QAction *processAction(const char *text) { return Fixture::processAction(text); }
     static QStringList texts(const QMenu *menu)
     {
         QStringList result;

@@ -4,6 +4,7 @@
 
 #include "process/proxyprocmodel.h"
 #include "tests/support/modal.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -53,7 +54,7 @@ private Q_SLOTS:
     void theMenuOpensTheLine()
     {
         startList();
-        action("Find process...")->trigger();
+        Fixture::processAction("Find process...")->trigger();
         QVERIFY(line()->isVisible() && field()->hasFocus());
     }
 
@@ -68,17 +69,15 @@ private Q_SLOTS:
 
     void keysThatGoToTheList_data()
     {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        QTest::newRow("Down") << int(Qt::Key_Down) << 200 << 300;
-        QTest::newRow("Up") << int(Qt::Key_Up) << 200 << 100;
-        QTest::newRow("Page down") << int(Qt::Key_PageDown) << 100 << 400;
-        QTest::newRow("Page up") << int(Qt::Key_PageUp) << 400 << 100;
-        QTest::newRow("Return") << int(Qt::Key_Return) << 200 << 200;
-        QTest::newRow("Enter") << int(Qt::Key_Enter) << 200 << 200;
-        QTest::newRow("Return without a selection") << int(Qt::Key_Return) << -1 << 100;
-        QTest::newRow("Down without a selection") << int(Qt::Key_Down) << -1 << 100;
+        const Rows<int, int, int> row("key", "from", "to");
+        row("Down", Qt::Key_Down, 200, 300);
+        row("Up", Qt::Key_Up, 200, 100);
+        row("Page down", Qt::Key_PageDown, 100, 400);
+        row("Page up", Qt::Key_PageUp, 400, 100);
+        row("Return", Qt::Key_Return, 200, 200);
+        row("Enter", Qt::Key_Enter, 200, 200);
+        row("Return without a selection", Qt::Key_Return, -1, 100);
+        row("Down without a selection", Qt::Key_Down, -1, 100);
     }
 
     void keysThatGoToTheList()
@@ -124,9 +123,9 @@ private Q_SLOTS:
 
     void escapeEmptiesAndCloses_data()
     {
-        QTest::addColumn<bool>("inList");
-        QTest::newRow("in the line") << false;
-        QTest::newRow("in the list") << true;
+        const Rows<bool> row("inList");
+        row("in the line", false);
+        row("in the list", true);
     }
 
     void escapeEmptiesAndCloses()
@@ -158,9 +157,9 @@ private Q_SLOTS:
 
     void aHiddenProcessGetsNoSignal_data()
     {
-        QTest::addColumn<bool>("byRefresh");
-        QTest::newRow("by a key") << false;
-        QTest::newRow("by a refresh") << true;
+        const Rows<bool> row("byRefresh");
+        row("by a key", false);
+        row("by a refresh", true);
     }
 
     void aHiddenProcessGetsNoSignal()
@@ -168,7 +167,7 @@ private Q_SLOTS:
         QFETCH(bool, byRefresh);
         startList();
         select(300);
-        QVERIFY(action("Kill process")->isVisible());
+        QVERIFY(Fixture::processAction("Kill process")->isVisible());
         int questions = 0;
         const ModalDriver driver([&](QWidget *box) {
             ++questions;
@@ -179,7 +178,7 @@ private Q_SLOTS:
         focusList();
         if (byRefresh) {
             type("made-up3");
-            QVERIFY(action("Kill process")->isVisible());
+            QVERIFY(Fixture::processAction("Kill process")->isVisible());
             made(300).name = "other";
             fixture->refresh(1);
             fixture->refresh(1); // a process with a new name has no row for one refresh
@@ -187,7 +186,7 @@ private Q_SLOTS:
             type("made-up4");
         }
         verifySelected(-1);
-        QVERIFY(!action("Kill process")->isVisible());
+        QVERIFY(!Fixture::processAction("Kill process")->isVisible());
         if (byRefresh) { // nor is it selected when it matches again
             made(300).name = "made-up300";
             fixture->refresh(1);
@@ -213,24 +212,23 @@ private Q_SLOTS:
             question = qobject_cast<QMessageBox *>(box)->informativeText();
             box->close();
         });
-        action("Kill process")->trigger();
+        Fixture::processAction("Kill process")->trigger();
         QVERIFY2(question.contains(QStringLiteral("made-up300")), qPrintable(question));
     }
 
     void keysThatEditTheLineAreNoShortcuts_data()
     {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<bool>("edits");
-        QTest::newRow("Ctrl+A") << int(Qt::Key_A) << true;
-        QTest::newRow("Ctrl+C") << int(Qt::Key_C) << true;
-        QTest::newRow("Ctrl+K") << int(Qt::Key_K) << true;
-        QTest::newRow("Ctrl+V") << int(Qt::Key_V) << true;
-        QTest::newRow("Ctrl+X") << int(Qt::Key_X) << true;
-        QTest::newRow("Ctrl+Z") << int(Qt::Key_Z) << true;
-        QTest::newRow("Ctrl+S") << int(Qt::Key_S) << false;
-        QTest::newRow("Ctrl+T") << int(Qt::Key_T) << false;
-        QTest::newRow("Ctrl+M") << int(Qt::Key_M) << false;
-        QTest::newRow("Ctrl+F") << int(Qt::Key_F) << false;
+        const Rows<int, bool> row("key", "edits");
+        row("Ctrl+A", Qt::Key_A, true);
+        row("Ctrl+C", Qt::Key_C, true);
+        row("Ctrl+K", Qt::Key_K, true);
+        row("Ctrl+V", Qt::Key_V, true);
+        row("Ctrl+X", Qt::Key_X, true);
+        row("Ctrl+Z", Qt::Key_Z, true);
+        row("Ctrl+S", Qt::Key_S, false);
+        row("Ctrl+T", Qt::Key_T, false);
+        row("Ctrl+M", Qt::Key_M, false);
+        row("Ctrl+F", Qt::Key_F, false);
     }
 
     void keysThatEditTheLineAreNoShortcuts()
@@ -269,7 +267,7 @@ private Q_SLOTS:
     {
         made(200).arguments = std::string("needle\0", 7);
         startList();
-        action("Find process...")->trigger();
+        Fixture::processAction("Find process...")->trigger();
         field()->setText(QStringLiteral("needle"));
         QTRY_COMPARE(shown(), QList<int>{200});
         QTRY_COMPARE(count(), QStringLiteral("1 of 4"));
@@ -332,22 +330,9 @@ private Q_SLOTS:
     }
 
 private:
-    static QTreeView *view() { return Fixture::find<QTreeView>("treeView"); }
-    static ProxyProcModel *list() { return Fixture::processes(); }
     static QWidget *line() { return Fixture::find<QWidget>("filterLine"); }
     static QLineEdit *field() { return Fixture::find<QLineEdit>("filterText"); }
     static QString count() { return Fixture::find<QLabel>("filterCount")->text(); }
-    static standin::Process &made(int pid) { return standin::machine().processes->at(pid); }
-    static QAction *action(const char *text)
-    {
-        const QMenu *edit = Fixture::window()->menuBar()->actions().at(1)->menu();
-        for (QAction *action : edit->actions().at(1)->menu()->actions()) {
-            if (action->text() == QLatin1String(text)) {
-                return action;
-            }
-        }
-        return nullptr;
-    }
 
     /// Only the test refreshes.
     void startList()
@@ -384,17 +369,6 @@ private:
     {
         for (; *text; ++text) {
             QTest::keyClick(QApplication::focusWidget(), *text);
-        }
-    }
-
-    static void select(int pid) { view()->setCurrentIndex(list()->rowOfPid(pid)); }
-    /// Pid -1 means none.
-    static void verifySelected(int pid)
-    {
-        const QModelIndexList rows = view()->selectionModel()->selectedRows();
-        QCOMPARE(rows.size(), pid == -1 ? 0 : 1);
-        if (pid != -1) {
-            QCOMPARE(list()->pidAt(rows.first()), pid);
         }
     }
 

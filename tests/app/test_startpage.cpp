@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/rows.h"
 #include "app/startpage.h"
 
 #include <QtTest>
@@ -12,22 +13,20 @@ class TestStartPage : public QObject
 private Q_SLOTS:
     void firstArgumentChoosesThePage_data()
     {
-        QTest::addColumn<QByteArrayList>("arguments");
-        QTest::addColumn<int>("page");
-        QTest::newRow("none") << QByteArrayList() << -1;
+        const Rows<QByteArrayList, int> row("arguments", "page");
+        row("none", QByteArrayList(), -1);
         const char *const known[] = {"general",     "-tab=1", "processes", "-tab=2",
                                      "filesystems", "-tab=3", "network",   "-tab=4"};
-        int row = 0;
+        int position = 0;
         for (const char *argument : known) {
-            QTest::newRow(argument) << QByteArrayList{argument} << row++ / 2;
+            row(argument, {argument}, position++ / 2);
         }
         for (const char *argument : {"Network", "-tab=5", "-tab=0", "--help", "", " general", "general ",
                                      "-tab=1 ", "-TAB=1", "tab=1", "\xff\xfe", "generalx"}) {
-            QTest::newRow(QByteArray(argument).toPercentEncoding().constData())
-                << QByteArrayList{argument} << -1;
+            row(QByteArray(argument).toPercentEncoding().constData(), {argument}, -1);
         }
-        QTest::newRow("known, then unknown") << QByteArrayList{"general", "foo"} << 0;
-        QTest::newRow("unknown, then known") << QByteArrayList{"foo", "network"} << -1;
+        row("known, then unknown", {"general", "foo"}, 0);
+        row("unknown, then known", {"foo", "network"}, -1);
     }
 
     void firstArgumentChoosesThePage()

@@ -113,12 +113,12 @@ private Q_SLOTS:
 
     void onlyWaylandPlacesWindowsItself_data()
     {
-        QTest::addColumn<bool>("clientsDo");
+        const Rows<bool> row("clientsDo");
         for (const char *name : {"xcb", "offscreen", "minimal", "vnc", ""}) {
-            QTest::newRow(name) << true;
+            row(name, true);
         }
         for (const char *name : {"wayland", "wayland-egl", "wayland-xcomposite-egl"}) {
-            QTest::newRow(name) << false;
+            row(name, false);
         }
     }
 
@@ -189,11 +189,11 @@ private Q_SLOTS:
 
     void geometryComesBack_data()
     {
-        QTest::addColumn<Qt::WindowState>("state");
-        QTest::newRow("normal") << Qt::WindowNoState;
-        QTest::newRow("maximized, with its normal size") << Qt::WindowMaximized;
-        QTest::newRow("full screen, as a normal window") << Qt::WindowFullScreen;
-        QTest::newRow("minimized, as an open window") << Qt::WindowMinimized;
+        const Rows<Qt::WindowState> row("state");
+        row("normal", Qt::WindowNoState);
+        row("maximized, with its normal size", Qt::WindowMaximized);
+        row("full screen, as a normal window", Qt::WindowFullScreen);
+        row("minimized, as an open window", Qt::WindowMinimized);
     }
 
     void geometryComesBack()

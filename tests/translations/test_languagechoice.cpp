@@ -81,17 +81,17 @@ private Q_SLOTS:
 
     void theProgramFollowsTheEnvironment_data()
     {
-        QTest::addColumn<QString>("firstWord");
-        QTest::newRow("") << "Usage";
-        QTest::newRow("LC_ALL=C") << "Usage";
-        QTest::newRow("LANG=de_DE.UTF-8") << "Aufruf";
-        QTest::newRow("LANG=nl_NL.UTF-8 LC_ALL=de_DE.UTF-8") << "Aufruf";
-        QTest::newRow("LANG=nl_NL.UTF-8 LC_NUMERIC=C") << "Gebruik";
-        QTest::newRow("LANG=C LC_MESSAGES=de_DE.UTF-8") << "Aufruf";
-        QTest::newRow("LANG=nl_NL.UTF-8 LANGUAGE=fi:de:nl") << "Aufruf";
-        QTest::newRow("LANG=nl_NL.UTF-8 LANGUAGE=en:de") << "Usage";
-        QTest::newRow("LC_ALL=C LANGUAGE=de") << "Usage";
-        QTest::newRow("LANG=fi_FI.UTF-8") << "Usage";
+        const Rows<QString> row("firstWord");
+        row("", "Usage");
+        row("LC_ALL=C", "Usage");
+        row("LANG=de_DE.UTF-8", "Aufruf");
+        row("LANG=nl_NL.UTF-8 LC_ALL=de_DE.UTF-8", "Aufruf");
+        row("LANG=nl_NL.UTF-8 LC_NUMERIC=C", "Gebruik");
+        row("LANG=C LC_MESSAGES=de_DE.UTF-8", "Aufruf");
+        row("LANG=nl_NL.UTF-8 LANGUAGE=fi:de:nl", "Aufruf");
+        row("LANG=nl_NL.UTF-8 LANGUAGE=en:de", "Usage");
+        row("LC_ALL=C LANGUAGE=de", "Usage");
+        row("LANG=fi_FI.UTF-8", "Usage");
     }
 
     /// Observed through the usage text, the only text that the program prints.
