@@ -4,6 +4,7 @@
 
 #include "tests/desktop/processespage.h"
 #include "tests/desktop/sampleprocess.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 
@@ -20,9 +21,21 @@ protected:
             options.machine = standin::Machine{};
             options.machine->mostOfOthers = 1; // the first process; those of other tests would come and go
         }
-        session = std::make_unique<DesktopSession>(asTestUser(options));
-        page = std::make_unique<ProcessesPage>(*session);
+        createSession(asTestUser(options));
         QVERIFY2(session->start(arguments), qPrintable(session->error()));
+    }
+
+    void createSession(const SessionOptions &options)
+    {
+        session = std::make_unique<DesktopSession>(options);
+        page = std::make_unique<ProcessesPage>(*session);
+    }
+
+    /// As the user who runs the test, on the Processes page.
+    void startAsOwnUser(const SessionOptions &options)
+    {
+        createSession(options);
+        QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
     }
 
     void startWithProcessInterval(int seconds)
@@ -60,6 +73,29 @@ protected:
         QCOMPARE(session->exitCode(), 0);
     }
 
+    /// For cleanup().
+    void closeAllAndQuit()
+    {
+        reportFailureAndCloseAll();
+        verifyQuitsCleanly();
+    }
+
+    /// For cleanup(); unlike closeAllAndQuit(), the program may have ended.
+    void closeAllAndEnd()
+    {
+        reportFailure();
+        page->dismissAll();
+        QVERIFY(session->endsCleanly());
+    }
+
+    /// The settings file has a column to sort by, and not the first one.
+    void verifySortingSaved()
+    {
+        const QByteArray settings = session->settings();
+        QVERIFY2(settings.contains("proc_sort_column=") && !settings.contains("proc_sort_column=0"),
+                 settings.constData());
+    }
+
     /// A process of the user as whom the program runs.
     static SampleProcess sample(const char *name, SampleProcess::What what = SampleProcess::Sleeping)
     {
@@ -73,19 +109,6 @@ protected:
 
     /// Waits until the process list has been refreshed.
     bool waitForRefresh() { return isListed(sample("ltr")); }
-
-    /// Counts wake-ups of the program: unless probed, it wakes up only for its tick.
-    bool waitForTicks()
-    {
-        const auto wakeUps = [&] {
-            QFile file(QString("/proc/%1/status").arg(session->pid()));
-            const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-            const QByteArray key = "\nvoluntary_ctxt_switches:";
-            return status.mid(status.indexOf(key) + key.size()).split('\n').value(0).trimmed().toLong();
-        };
-        const long before = wakeUps();
-        return session->waitFor([&] { return wakeUps() >= before + 3; });
-    }
 
     bool clickOk() { return session->clickButton("OK") && page->waitForNoDialog(); }
 
@@ -106,6 +129,7 @@ protected:
         return id != 0;
     }
 
+    bool isFocused(const char *name) { return session->widget(name).value("focus").toBool(); }
     bool isChecked(const char *menuEntry) { return session->menuEntry(menuEntry).value("checked").toBool(); }
 
     std::unique_ptr<DesktopSession> session;

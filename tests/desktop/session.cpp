@@ -302,6 +302,18 @@ void DesktopSession::setMachine(const standin::Machine &machine)
     standin::save(machine, directory.filePath("machine").toStdString());
 }
 
+bool DesktopSession::waitForTicks(int count)
+{
+    const auto wakeUps = [&] {
+        QFile file(QString("/proc/%1/status").arg(pid()));
+        const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        const QByteArray key = "\nvoluntary_ctxt_switches:";
+        return status.mid(status.indexOf(key) + key.size()).split('\n').value(0).trimmed().toLong();
+    };
+    const long before = wakeUps();
+    return waitFor([&] { return wakeUps() >= before + count; });
+}
+
 bool DesktopSession::waitFor(const std::function<bool()> &condition, int deadlineMs)
 {
     QElapsedTimer elapsed;

@@ -95,6 +95,8 @@ public:
 
     /// Polls a condition. Gives up at once when the program has exited.
     bool waitFor(const std::function<bool()> &condition, int deadlineMs = desktopDeadline);
+    /// Counts wake-ups of the program: unless probed, it wakes up only for its tick.
+    bool waitForTicks(int count = 3);
 
     /// Input. Functions that look for something wait until it stands still. Texts are compared without "&".
     bool click(const std::function<QRect()> &findRect, int button = 1);

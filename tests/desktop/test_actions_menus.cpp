@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/programtest.h"
-#include "tests/support/rows.h"
 
 #include <csignal>
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "../support/rows.h"
 #include "tests/desktop/programtest.h"
 
 #include <sys/resource.h>

@@ -42,10 +42,10 @@ private Q_SLOTS:
     void cleanupTestCase() { verifyQuitsCleanly(); }
     void everyWayAsksAndSendsTheSignal_data()
     {
-        QTest::addColumn<Way>("way");
-        QTest::newRow("menu bar") << MenuBar;
-        QTest::newRow("context menu") << ContextMenu;
-        QTest::newRow("shortcut") << Shortcut;
+        const Rows<Way> row("way");
+        row("menu bar", MenuBar);
+        row("context menu", ContextMenu);
+        row("shortcut", Shortcut);
     }
 
     /// The state is read back from the kernel and from the table.
@@ -78,9 +78,9 @@ private Q_SLOTS:
 
     void onlyOkSendsASignal_data()
     {
-        QTest::addColumn<Command>("command");
+        const Rows<Command> row("command");
         for (const Command &command : {stopCommand, terminateCommand, killCommand}) {
-            QTest::newRow(command.entry) << command;
+            row(command.entry, command);
         }
     }
 

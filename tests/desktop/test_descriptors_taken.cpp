@@ -14,9 +14,7 @@ private Q_SLOTS:
     {
         SessionOptions options;
         options.settings = "[interval]\nprocs=1\n";
-        session = std::make_unique<DesktopSession>(options);
-        page = std::make_unique<ProcessesPage>(*session);
-        QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
+        startAsOwnUser(options);
         QVERIFY2(page->waitForRow(getpid()), qPrintable(session->error()));
     }
 
@@ -45,7 +43,7 @@ private Q_SLOTS:
         }));
         const SampleProcess process("desc");
         QVERIFY(process.isReady());
-        QVERIFY2(waitForTicks(), qPrintable(session->error()));
+        QVERIFY2(session->waitForTicks(), qPrintable(session->error()));
         QCOMPARE(page->list().column("PID"), before);
         QVERIFY(limitDescriptors(enough));
         QVERIFY2(page->waitForRow(process.pid()), qPrintable(session->error()));

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/programtest.h"
-#include "tests/support/rows.h"
 
 #include <sys/resource.h>
 
@@ -14,11 +13,11 @@ class TestEndings : public ProgramTest
 private Q_SLOTS:
     void aSignalSavesTheSettings_data()
     {
-        QTest::addColumn<QVector<int>>("signalNumbers");
-        QTest::newRow("SIGTERM") << QVector<int>{SIGTERM};
-        QTest::newRow("SIGINT") << QVector<int>{SIGINT};
-        QTest::newRow("SIGHUP") << QVector<int>{SIGHUP};
-        QTest::newRow("those of a terminal that is closed") << QVector<int>{SIGHUP, SIGHUP, SIGTERM, SIGHUP};
+        const Rows<QVector<int>> row("signalNumbers");
+        row("SIGTERM", {SIGTERM});
+        row("SIGINT", {SIGINT});
+        row("SIGHUP", {SIGHUP});
+        row("those of a terminal that is closed", {SIGHUP, SIGHUP, SIGTERM, SIGHUP});
     }
 
     void aSignalSavesTheSettings()
@@ -93,9 +92,9 @@ private Q_SLOTS:
 
     void theLossOfTheServerSavesTheSettings_data()
     {
-        QTest::addColumn<bool>("withBox");
-        QTest::newRow("main window") << false;
-        QTest::newRow("with a box open") << true;
+        const Rows<bool> row("withBox");
+        row("main window", false);
+        row("with a box open", true);
     }
 
     void theLossOfTheServerSavesTheSettings()
@@ -126,9 +125,8 @@ private:
 
     void verifySaved()
     {
+        verifySortingSaved();
         const QByteArray settings = session->settings();
-        QVERIFY2(settings.contains("proc_sort_column=") && !settings.contains("proc_sort_column=0"),
-                 settings.constData());
         QVERIFY2(settings.contains(QString(", %1, %2, ").arg(size.width()).arg(size.height()).toLatin1()),
                  settings.constData());
         QVERIFY2(settings.contains("procs=1") && settings.contains("nwt=3"), settings.constData());

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The line that filters the process list, operated by real keys.
-#include "tests/desktop/processespage.h"
+#include "tests/desktop/programtest.h"
 
 #include <QJsonArray>
-#include <QtTest>
 
 #include <unistd.h>
 
@@ -41,7 +40,7 @@ standin::Machine madeUpMachine()
 
 } // namespace
 
-class TestFindProcess : public QObject
+class TestFindProcess : public ProgramTest
 {
     Q_OBJECT
 
@@ -54,14 +53,7 @@ private Q_SLOTS:
         start(options);
     }
 
-    void cleanup()
-    {
-        if (QTest::currentTestFailed()) {
-            session->savePicture(QString("failed-") + QTest::currentTestFunction());
-        }
-        page->dismissAll();
-        QVERIFY(session->endsCleanly());
-    }
+    void cleanup() { closeAllAndEnd(); }
 
     void typingInTheListFiltersIt()
     {
@@ -86,10 +78,7 @@ private Q_SLOTS:
 
     void theLineOpens_data()
     {
-        QTest::addColumn<QString>("way");
-        for (const char *way : {"slash", "context menu", "context menu by keys", "Process menu"}) {
-            QTest::newRow(way) << way;
-        }
+        addTextRows("way", {"slash", "context menu", "context menu by keys", "Process menu"});
     }
 
     void theLineOpens()
@@ -199,17 +188,11 @@ private Q_SLOTS:
 
     void theLineFitsThePage_data()
     {
-        QTest::addColumn<int>("dpi");
-        QTest::addColumn<QString>("background");
-        QTest::addColumn<QString>("language");
-        QTest::newRow("96-dark") << 96 << "#303030"
-                                 << "C";
-        QTest::newRow("96-light-german") << 96 << "#efefef"
-                                         << "de_DE";
-        QTest::newRow("192-light") << 192 << "#efefef"
-                                   << "C";
-        QTest::newRow("192-dark-german") << 192 << "#303030"
-                                         << "de_DE";
+        const Rows<int, QString, QString> row("dpi", "background", "language");
+        row("96-dark", 96, "#303030", "C");
+        row("96-light-german", 96, "#efefef", "de_DE");
+        row("192-light", 192, "#efefef", "C");
+        row("192-dark-german", 192, "#303030", "de_DE");
     }
 
     void theLineFitsThePage()
@@ -223,9 +206,7 @@ private Q_SLOTS:
         options.dpi = dpi;
         options.screen = QSize(1280, 1024) * (dpi / 96);
         options.environment["LC_ALL"] = language + ".UTF-8";
-        session = std::make_unique<DesktopSession>(options);
-        page = std::make_unique<ProcessesPage>(*session);
-        QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
+        startAsOwnUser(options);
         QVERIFY(session->clickWidget("treeView")); // below its rows
         QVERIFY(session->waitFor([&] { return isFocused("treeView"); }));
         QVERIFY(session->key("ctrl+f") && session->key("slash"));
@@ -261,9 +242,7 @@ private Q_SLOTS:
 private:
     void start(const SessionOptions &options)
     {
-        session = std::make_unique<DesktopSession>(options);
-        page = std::make_unique<ProcessesPage>(*session);
-        QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
+        startAsOwnUser(options);
         QVERIFY(session->clickHeader("treeView", "PID"));
         QVERIFY(session->waitFor([&] {
             const Table now = page->list();
@@ -309,10 +288,6 @@ private:
     }
 
     QString count() { return session->text("filterCount"); }
-    bool isFocused(const char *name) { return session->widget(name).value("focus").toBool(); }
-
-    std::unique_ptr<DesktopSession> session;
-    std::unique_ptr<ProcessesPage> page;
 };
 
 QTEST_GUILESS_MAIN(TestFindProcess)

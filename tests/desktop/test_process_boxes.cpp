@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "../support/rows.h"
 #include "tests/desktop/madeupprocess.h"
 #include "tests/desktop/programtest.h"
 
@@ -16,12 +15,7 @@ class TestProcessBoxes : public ProgramTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup()
-    {
-        reportFailure();
-        QVERIFY(page->dismissAll());
-        verifyQuitsCleanly();
-    }
+    void cleanup() { closeAllAndQuit(); }
 
     void questionsNameTheProcess_data()
     {
@@ -51,9 +45,9 @@ private Q_SLOTS:
 
     void errorsNameTheProcess_data()
     {
-        QTest::addColumn<bool>("isPriority");
-        QTest::newRow("signal") << false;
-        QTest::newRow("priority") << true;
+        const Rows<bool> row("isPriority");
+        row("signal", false);
+        row("priority", true);
     }
 
     /// The kernel knows no such process.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The columns of the process list, operated by real keys and clicks.
-#include "tests/desktop/processespage.h"
-
-#include <QtTest>
+#include "tests/desktop/programtest.h"
 
 #include <unistd.h>
 
@@ -33,19 +31,12 @@ standin::Machine madeUpDesktop()
 
 } // namespace
 
-class TestProcessColumns : public QObject
+class TestProcessColumns : public ProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup()
-    {
-        if (QTest::currentTestFailed()) {
-            session->savePicture(QString("failed-") + QTest::currentTestFunction());
-        }
-        page->dismissAll();
-        QVERIFY(session->endsCleanly());
-    }
+    void cleanup() { closeAllAndEnd(); }
 
     void aProcessIsFoundSeenInItsTreeAndCopiedByKeysAlone()
     {
@@ -89,17 +80,11 @@ private Q_SLOTS:
 
     void theColumnsFitTheView_data()
     {
-        QTest::addColumn<int>("dpi");
-        QTest::addColumn<QString>("background");
-        QTest::addColumn<QString>("language");
-        QTest::newRow("96-light") << 96 << "#efefef"
-                                  << "C";
-        QTest::newRow("96-dark-german") << 96 << "#303030"
-                                        << "de_DE";
-        QTest::newRow("192-dark") << 192 << "#303030"
-                                  << "C";
-        QTest::newRow("192-light-german") << 192 << "#efefef"
-                                          << "de_DE";
+        const Rows<int, QString, QString> row("dpi", "background", "language");
+        row("96-light", 96, "#efefef", "C");
+        row("96-dark-german", 96, "#303030", "de_DE");
+        row("192-dark", 192, "#303030", "C");
+        row("192-light-german", 192, "#efefef", "de_DE");
     }
 
     void theColumnsFitTheView()
@@ -127,9 +112,7 @@ private:
     void start(SessionOptions options = {})
     {
         options.machine = madeUpDesktop();
-        session = std::make_unique<DesktopSession>(options);
-        page = std::make_unique<ProcessesPage>(*session);
-        QVERIFY2(session->start({"processes"}), qPrintable(session->error()));
+        startAsOwnUser(options);
         QVERIFY(session->waitFor([&] { return page->list().rows.size() == 300; }));
     }
 
@@ -164,11 +147,6 @@ private:
         const int patience = 3000;
         return session->waitFor([&] { return session->text("filterText").contains(pid); }, patience);
     }
-
-    bool isFocused(const char *name) { return session->widget(name).value("focus").toBool(); }
-
-    std::unique_ptr<DesktopSession> session;
-    std::unique_ptr<ProcessesPage> page;
 };
 
 QTEST_GUILESS_MAIN(TestProcessColumns)

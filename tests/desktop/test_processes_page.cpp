@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/processespage.h"
-#include "tests/desktop/sampleprocess.h"
-
-#include <QtTest>
+#include "tests/desktop/programtest.h"
 
 #include <algorithm>
 #include <csignal>
@@ -19,7 +16,7 @@ QString userName(uid_t id)
 
 } // namespace
 
-class TestProcessesPage : public QObject
+class TestProcessesPage : public ProgramTest
 {
     Q_OBJECT
 
@@ -28,9 +25,7 @@ private Q_SLOTS:
     {
         SessionOptions options;
         options.settings = "[interval]\nprocs=1\n"; // refreshes every second
-        session = std::make_unique<DesktopSession>(options);
-        page = std::make_unique<ProcessesPage>(*session);
-        QVERIFY(session->start({"processes"}));
+        startAsOwnUser(options);
         QVERIFY2(rowOf(page->list(), getpid()) >= 0, "the list is filled when the window appears");
     }
 
@@ -205,9 +200,6 @@ private Q_SLOTS:
 
 private:
     static double share(const QString &cpuText) { return cpuText.section(' ', 0, 0).toDouble(); }
-
-    std::unique_ptr<DesktopSession> session;
-    std::unique_ptr<ProcessesPage> page;
 };
 
 QTEST_GUILESS_MAIN(TestProcessesPage)

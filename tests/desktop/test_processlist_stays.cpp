@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "../support/rows.h"
 #include "tests/desktop/madeupprocess.h"
 #include "tests/desktop/programtest.h"
 
@@ -50,12 +49,7 @@ class TestProcessListStays : public ProgramTest
 
 private Q_SLOTS:
     void init() { machine = machineWithFamilies(); }
-    void cleanup()
-    {
-        reportFailure();
-        QVERIFY(page->dismissAll());
-        verifyQuitsCleanly();
-    }
+    void cleanup() { closeAllAndQuit(); }
 
     void tenChangesNeverLeaveAnEmptyOrCollapsedList_data()
     {
@@ -146,9 +140,9 @@ private Q_SLOTS:
 
     void theMenuKeyOpensTheMenuAtTheSelectedRow_data()
     {
-        QTest::addColumn<bool>("isInView");
-        QTest::newRow("in view") << true;
-        QTest::newRow("scrolled away") << false;
+        const Rows<bool> row("isInView");
+        row("in view", true);
+        row("scrolled away", false);
     }
 
     void theMenuKeyOpensTheMenuAtTheSelectedRow()

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/desktop/processespage.h"
-
-#include <QtTest>
+#include "tests/desktop/programtest.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 /// Settings from one run of the program to the next, and settings files that can't be used.
-class TestSettingsRounds : public QObject
+class TestSettingsRounds : public ProgramTest
 {
     Q_OBJECT
 
@@ -59,16 +57,15 @@ private Q_SLOTS:
 
     void aBadFileSilentlyGivesTheDefaults_data()
     {
-        QTest::addColumn<QByteArray>("settings");
-        QTest::newRow("missing") << QByteArray();
-        QTest::newRow("empty") << QByteArray("\n");
-        QTest::newRow("wrong types") << QByteArray(
-            "geometry=7\nproc_sort_column=@Rect(1 2 3 4)\n"
-            "proc_sort_order=many\nfsSplitter=true\n"
-            "[interval]\ngeneral=@Invalid()\nprocs=often\nfs=@Size(1 1)\n"
-            "[column]\nPID=@ByteArray(\\0)\n");
-        QTest::newRow("truncated") << QByteArray("[General]\nfsSplitter=@ByteArray(\\0\\0\\0\\xff\\0\\0");
-        QTest::newRow("not text") << QByteArray("\0\xff\xfe[\x01=", 6);
+        const Rows<QByteArray> row("settings");
+        row("missing", {});
+        row("empty", "\n");
+        row("wrong types", "geometry=7\nproc_sort_column=@Rect(1 2 3 4)\n"
+                           "proc_sort_order=many\nfsSplitter=true\n"
+                           "[interval]\ngeneral=@Invalid()\nprocs=often\nfs=@Size(1 1)\n"
+                           "[column]\nPID=@ByteArray(\\0)\n");
+        row("truncated", "[General]\nfsSplitter=@ByteArray(\\0\\0\\0\\xff\\0\\0");
+        row("not text", QByteArray("\0\xff\xfe[\x01=", 6));
     }
 
     void aBadFileSilentlyGivesTheDefaults()
@@ -87,9 +84,9 @@ private Q_SLOTS:
 
     void anUnwritableFileIsLeftAlone_data()
     {
-        QTest::addColumn<bool>("isFolder");
-        QTest::newRow("read-only file in a read-only directory") << false;
-        QTest::newRow("directory in its place") << true;
+        const Rows<bool> row("isFolder");
+        row("read-only file in a read-only directory", false);
+        row("directory in its place", true);
     }
 
     void anUnwritableFileIsLeftAlone()
@@ -127,8 +124,7 @@ private:
     {
         SessionOptions options;
         options.settings = settings;
-        session = std::make_unique<DesktopSession>(asTestUser(options));
-        page = std::make_unique<ProcessesPage>(*session);
+        ProgramTest::createSession(asTestUser(options));
     }
 
     bool quitsCleanly() { return page->quit() && session->exitsCleanly(); }
@@ -150,9 +146,6 @@ private:
         QVERIFY(session->clickButton("OK"));
         QVERIFY(page->waitForNoDialog());
     }
-
-    std::unique_ptr<DesktopSession> session;
-    std::unique_ptr<ProcessesPage> page;
 };
 
 QTEST_GUILESS_MAIN(TestSettingsRounds)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/desktop/session.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 
@@ -46,10 +47,10 @@ private Q_SLOTS:
 
     void onlyTheFileOfTheProgramIsRead_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::newRow("of the organization") << "%1/.config/Telmorra.conf";
-        QTest::newRow("system-wide") << "%2/Telmorra/zarn-system-monitor.conf";
-        QTest::newRow("of the organization, system-wide") << "%2/Telmorra.conf";
+        const Rows<QString> row("path");
+        row("of the organization", "%1/.config/Telmorra.conf");
+        row("system-wide", "%2/Telmorra/zarn-system-monitor.conf");
+        row("of the organization, system-wide", "%2/Telmorra.conf");
     }
 
     void onlyTheFileOfTheProgramIsRead()
@@ -64,12 +65,9 @@ private Q_SLOTS:
 
     void whatCannotBeUsedIsLeftAlone_data()
     {
-        QTest::addColumn<QString>("what");
-        for (const char *what : {"named pipe", "link to /dev/zero", "link to /proc/kmsg", "link to itself",
-                                 "folder", "damaged, with a folder in the way",
-                                 "damaged, in a read-only folder", "named pipe as lock", "folder as lock"}) {
-            QTest::newRow(what) << QString(what);
-        }
+        addTextRows("what", {"named pipe", "link to /dev/zero", "link to /proc/kmsg", "link to itself",
+                             "folder", "damaged, with a folder in the way", "damaged, in a read-only folder",
+                             "named pipe as lock", "folder as lock"});
     }
 
     /// The program neither waits for it nor replaces it, at the start and at the end.

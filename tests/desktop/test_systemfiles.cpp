@@ -65,7 +65,7 @@ private Q_SLOTS:
         for (const char *tab : {"System", "File systems", "Network", "Processes"}) {
             QVERIFY2(page->showPage(tab), qPrintable(session->error()));
         }
-        QVERIFY2(waitForTicks(), qPrintable(session->error()));
+        QVERIFY2(session->waitForTicks(), qPrintable(session->error()));
         QVERIFY(rowOf(page->list(), getpid()) >= 0);
         QVERIFY(session->clickHeader("treeView", "Memory")); // reads what was not read yet
         QVERIFY(session->key("ctrl+k") && page->waitForDialog("Process killing"));

@@ -40,9 +40,9 @@ private Q_SLOTS:
 
     void aFreshStartShowsTheLoadWithinASecond_data()
     {
-        QTest::addColumn<QString>("tab");
-        QTest::newRow("cores") << "System";
-        QTest::newRow("processes") << "Processes";
+        const Rows<QString> row("tab");
+        row("cores", "System");
+        row("processes", "Processes");
     }
 
     /// After the start no tick is due.

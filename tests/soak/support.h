@@ -29,17 +29,6 @@ inline ProxyProcModel *processList()
     return qobject_cast<ProxyProcModel *>(Fixture::find<QTreeView>("treeView")->model());
 }
 
-/// An action of the controller by its source text; nullptr if there is none.
-inline QAction *findAction(Fixture &fixture, const char *text)
-{
-    for (QAction *action : fixture.updater().findChildren<QAction *>()) {
-        if (action->text() == QLatin1String(text)) {
-            return action;
-        }
-    }
-    return nullptr;
-}
-
 inline int openDescriptors()
 {
     const QDir open(QStringLiteral("/proc/self/fd"));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support.h"
+#include "tests/support/rows.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -48,12 +49,11 @@ class TestDeepTree : public QObject
 private Q_SLOTS:
     void noRefreshOfADeepTreeTakesLong_data()
     {
-        QTest::addColumn<bool>("shuffled");
-        QTest::addColumn<bool>("complete");
-        QTest::newRow("pids in their order") << false << false;
-        QTest::newRow("pids in any order") << true << false;
-        QTest::newRow("complete, pids in their order") << false << true;
-        QTest::newRow("complete, pids in any order") << true << true;
+        const Rows<bool, bool> row("shuffled", "complete");
+        row("pids in their order", false, false);
+        row("pids in any order", true, false);
+        row("complete, pids in their order", false, true);
+        row("complete, pids in any order", true, true);
     }
 
     void noRefreshOfADeepTreeTakesLong()
@@ -70,7 +70,7 @@ private Q_SLOTS:
 
         fixture.start(1);
         processList()->setComplete(complete);
-        verifyTime("to the tree", [&] { findAction(fixture, "Tree view")->trigger(); });
+        verifyTime("to the tree", [&] { Fixture::processAction("Tree view")->trigger(); });
         QCOMPARE(shownDepth(), depth);
         refreshed("nothing changes");
         for (int i = 0; i < 20; ++i) {
@@ -90,7 +90,7 @@ private Q_SLOTS:
             refreshed("the refresh after it");
         }
         QCOMPARE(shownDepth(), depth - 1);
-        verifyTime("all are expanded", [&] { findAction(fixture, "Expand all")->trigger(); });
+        verifyTime("all are expanded", [&] { Fixture::processAction("Expand all")->trigger(); });
         for (auto &process : processes) {
             process.second.name = "another";
         }

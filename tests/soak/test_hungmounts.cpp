@@ -179,11 +179,11 @@ private Q_SLOTS:
         QCOMPARE(session().described("Chart"), QString("25% available"));
 
         stalling->answerAfter(never);
-        QVERIFY(waitForRefreshes(5));
+        QVERIFY(session().waitForTicks(5));
         QVERIFY(waitForFigures());
 
         stalling->answerAfter(1200);
-        QVERIFY(waitForRefreshes(5));
+        QVERIFY(session().waitForTicks(5));
         QVERIFY(waitForFigures());
 
         // The program has asked another child as well, if at all.
@@ -201,8 +201,7 @@ private Q_SLOTS:
         if (!prepare(fuse, never)) {
             return;
         }
-        start("filesystems");
-        QVERIFY(session().waitFor([&] { return isListed(); }));
+        startListed();
         stalling->crash();
         QVERIFY(session().waitFor([&] { return !isListed(); }));
         QVERIFY(session().endsCleanly());
@@ -215,8 +214,7 @@ private Q_SLOTS:
         if (!prepare(fuse, never)) {
             return;
         }
-        start("filesystems");
-        QVERIFY(session().waitFor([&] { return isListed(); }));
+        startListed();
         const QList<QByteArray> children = childrenOfProgram();
         QCOMPARE(children.size(), 1);
         ::kill(static_cast<pid_t>(session().pid()), SIGKILL);
@@ -254,8 +252,7 @@ private Q_SLOTS:
     void withoutSuchAMountThereIsNoChild()
     {
         QVERIFY(prepare(false, 0));
-        start("filesystems");
-        QVERIFY(session().waitFor([&] { return isListed(); }));
+        startListed();
         const int descriptors = openDescriptors();
         QCOMPARE(childrenOfProgram().size(), 1);
         standin::Machine machine;
@@ -301,6 +298,12 @@ private:
         QVERIFY2(started, qPrintable(session().error()));
     }
 
+    void startListed()
+    {
+        start("filesystems");
+        QVERIFY(session().waitFor([&] { return isListed(); }));
+    }
+
     PageSession &session() { return *stalling->session; }
 
     bool isListed() { return session().table("tableFS").find("Mountpoint", stalling->mountPoint()) >= 0; }
@@ -339,20 +342,6 @@ private:
     {
         const QDir folder(QString("/proc/%1/fd").arg(session().pid()));
         return folder.entryList(QDir::Files | QDir::System).size();
-    }
-
-    /// Counts wake-ups of the program: unless probed, it wakes up only for its tick, which refreshes the
-    /// page.
-    bool waitForRefreshes(int count)
-    {
-        const auto wakeUps = [&] {
-            QFile file(QString("/proc/%1/status").arg(session().pid()));
-            const QByteArray status = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-            const QByteArray key = "\nvoluntary_ctxt_switches:";
-            return status.mid(status.indexOf(key) + key.size()).split('\n').value(0).trimmed().toLong();
-        };
-        const long before = wakeUps();
-        return session().waitFor([&] { return wakeUps() >= before + count; });
     }
 
     static bool isGone(const QByteArray &pid)

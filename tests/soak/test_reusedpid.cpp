@@ -201,7 +201,7 @@ private Q_SLOTS:
 
 private:
     static QTreeView *view() { return Fixture::find<QTreeView>("treeView"); }
-    QAction *action(const Command &command) { return findAction(*fixture, command.action); }
+    QAction *action(const Command &command) { return Fixture::processAction(command.action); }
     QByteArray newcomerProgram() const
     {
         return QFile::encodeName(folder.filePath(QStringLiteral("newcomer")));

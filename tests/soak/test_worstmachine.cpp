@@ -223,7 +223,7 @@ private Q_SLOTS:
             }
             refresh(*fixture);
             if (round % 3 == 0) {
-                findAction(*fixture, "Tree view")->trigger();
+                Fixture::processAction("Tree view")->trigger();
             }
             QCoreApplication::processEvents();
         }

@@ -98,7 +98,7 @@ private Q_SLOTS:
     }
 
 private:
-    QAction *killAction() { return findAction(*fixture, "Kill process"); }
+    QAction *killAction() { return Fixture::processAction("Kill process"); }
     static std::map<int, standin::Process> &processes() { return *standin::machine().processes; }
 
     static void addProcess(const Child &child, const char *name)
