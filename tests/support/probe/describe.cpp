@@ -60,6 +60,7 @@ QJsonArray describeActions(const Menu *menu)
                                    {"separator", action->isSeparator()},
                                    {"checkable", action->isCheckable()},
                                    {"checked", action->isChecked()},
+                                   {"active", menu->activeAction() == action},
                                    {"icon", !action->icon().isNull()},
                                    {"rect", globalRect(menu, menu->actionGeometry(action))}});
     }
