@@ -93,6 +93,7 @@ private Q_SLOTS:
         QFETCH(QString, background);
         QFETCH(QString, language);
         SessionOptions options;
+        options.settings = "[General]\ncomplete_tree=true\n";
         options.dpi = dpi;
         options.screen = QSize(1280, 1024) * (dpi / 96);
         options.environment["LC_ALL"] = language + ".UTF-8";
@@ -106,6 +107,11 @@ private Q_SLOTS:
             const bool isCommandLine = header.section == list.headers.last().section - 1;
             QCOMPARE(header.rect.width() < header.contentWidth, isCommandLine);
         }
+        verifyToolTip(list);
+        QVERIFY(session->key("ctrl+f"));
+        QVERIFY(session->waitFor([&] { return page->list().rows.value(1).depth == 1; }));
+        QCOMPARE(page->list().rows.size(), 300);
+        QVERIFY(session->savePicture(QString("complete-tree-") + QTest::currentDataTag()));
     }
 
 private:
@@ -125,6 +131,16 @@ private:
             }
             return shown == names;
         });
+    }
+
+    /// The mouse rests on a text that is cut, then on one that is not.
+    void verifyToolTip(const Table &list)
+    {
+        const int commandLine = list.headers.last().section - 1;
+        session->x().moveTo(list.rows.first().rects.at(commandLine).center());
+        QVERIFY(session->waitFor([&] { return session->text("QTipLabel").contains("--spawner"); }));
+        session->x().moveTo(list.rows.first().rects.first().center());
+        QVERIFY(session->waitFor([&] { return session->text("QTipLabel").isEmpty(); }));
     }
 
     /// Selects what is found, copies its row and pastes it into the line.
