@@ -11,6 +11,17 @@
 #include <arpa/inet.h>
 #include <unistd.h>
 
+namespace {
+
+/// Later for each fixture: what is known of the processes of the last one must not be taken for theirs.
+std::uint64_t nextStart()
+{
+    static std::uint64_t start = 1700000000;
+    return start += 1000;
+}
+
+} // namespace
+
 Fixture::Fixture()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Telmorra"));
@@ -41,13 +52,14 @@ standin::Machine Fixture::smallMachine()
         {"eth0", inet_addr("10.0.0.7"), inet_addr("255.0.0.0"), 4096, 512, 0, false},
         {"lo", inet_addr("127.0.0.1"), inet_addr("255.0.0.0"), 100, 100, 0, false}};
     machine.processes = std::map<int, standin::Process>();
+    const std::uint64_t started = nextStart();
     for (int pid : {100, 200, 300, 400}) {
         standin::Process process;
         process.parent = pid == 100 ? 1 : 100;
         process.name = "made-up" + std::to_string(pid);
         process.uid = static_cast<int>(getuid());
         process.userTime = static_cast<std::uint64_t>(pid);
-        process.startTime = 1700000000;
+        process.startTime = started;
         process.resident = static_cast<std::uint64_t>(pid) << 20;
         (*machine.processes)[pid] = process;
     }
