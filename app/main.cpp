@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
 
 #include <fcntl.h>
 #include <malloc.h>
@@ -61,6 +62,20 @@ void returnLargeBlocksToSystem()
     mallopt(M_TRIM_THRESHOLD, keptForTheNextRefresh);
 }
 
+/// The icon that the window manager shows, also for boxes that are already open.
+void setWindowIcon()
+{
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("utilities-system-monitor")));
+}
+
+/// Making a window with an icon reads the whole index of the icon theme, the most expensive step of a start.
+/// So the icon follows once the window is shown and painted.
+void setWindowIconSoon(QApplication *application)
+{
+    constexpr int milliseconds = 300;
+    QTimer::singleShot(milliseconds, application, &setWindowIcon);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -70,7 +85,6 @@ int main(int argc, char **argv)
     returnLargeBlocksToSystem();
     disableOpenGl();
     QApplication application(argc, argv);
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("utilities-system-monitor")));
     QCoreApplication::setOrganizationName(QStringLiteral("Telmorra"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("telmorra.example"));
     QCoreApplication::setApplicationName(QStringLiteral("zarn-system-monitor"));
@@ -80,6 +94,7 @@ int main(int argc, char **argv)
     zarnInit(ZSM_VERSION, description);
     const int startPage = startPageFromArguments(argc, argv, std::cout);
     if (const char *missing = fileMissingForStart()) {
+        setWindowIcon();
         reportMissingFile(missing);
         return EXIT_FAILURE;
     }
@@ -87,5 +102,6 @@ int main(int argc, char **argv)
     Updater updater(startPage);
     const SavedEnds savedEnds(&updater);
     quitOnSignals(&application);
+    setWindowIconSoon(&application);
     return QApplication::exec();
 }

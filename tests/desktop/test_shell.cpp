@@ -67,6 +67,16 @@ private Q_SLOTS:
         QVERIFY2(host.startsWith(QSysInfo::machineHostName()), qPrintable(host));
     }
 
+    /// It follows once the window is shown.
+    void theWindowGetsTheIconOfTheTheme()
+    {
+        QImage icon(32, 32, QImage::Format_ARGB32);
+        icon.fill(QColor(12, 34, 56));
+        QVERIFY(writeIcon(icon));
+        QVERIFY(session->start());
+        QVERIFY(session->waitFor([&] { return session->x().icon(session->windowId()) == icon; }));
+    }
+
     void ctrlQQuitsFromEveryPage_data()
     {
         const Rows<QString> row("page");
@@ -137,6 +147,16 @@ private Q_SLOTS:
     }
 
 private:
+    /// Into an icon theme in the home directory, which takes precedence over those of the system.
+    bool writeIcon(const QImage &icon)
+    {
+        const QDir theme(session->home() + "/.icons/hicolor");
+        QFile index(theme.filePath("index.theme"));
+        return theme.mkpath("32x32/apps") && index.open(QIODevice::WriteOnly) &&
+               index.write("[Icon Theme]\nDirectories=32x32/apps\n[32x32/apps]\nSize=32\n") > 0 &&
+               icon.save(theme.filePath("32x32/apps/utilities-system-monitor.png"));
+    }
+
     /// Starts the program, which the command names as %1.
     void startInShell(const QString &command)
     {

@@ -216,6 +216,32 @@ unsigned long XClient::transientFor(unsigned long id) const
     return XGetTransientForHint(display, id, &window) != 0 ? window : 0;
 }
 
+QImage XClient::icon(unsigned long id) const
+{
+    constexpr long longest = 1 << 20;
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long left = 0;
+    unsigned char *data = nullptr;
+    XGetWindowProperty(display, id, XInternAtom(display, "_NET_WM_ICON", False), 0, longest, False,
+                       XA_CARDINAL, &type, &format, &count, &left, &data);
+    if (!data) {
+        return {};
+    }
+    // Width, height and pixels. Items of 32 bits are handed out as long.
+    const auto *items = reinterpret_cast<const unsigned long *>(data);
+    QImage result;
+    if (count > 2 && count >= 2 + items[0] * items[1]) {
+        result = QImage(int(items[0]), int(items[1]), QImage::Format_ARGB32);
+        for (int i = 0; i < result.width() * result.height(); ++i) {
+            result.setPixel(i % result.width(), i / result.width(), QRgb(items[2 + i]));
+        }
+    }
+    XFree(data);
+    return result;
+}
+
 void XClient::mark(unsigned long id, int number)
 {
     sendMessage(id, "_ZSM_MARK", {number, InputMarks::tag, 0, 0, 0}, false);

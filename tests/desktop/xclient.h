@@ -58,6 +58,9 @@ public:
     /// The window that it is a dialog of, by its WM_TRANSIENT_FOR hint; 0 if there is none.
     unsigned long transientFor(unsigned long id) const;
 
+    /// The first picture of a window's _NET_WM_ICON; a null image if there is none.
+    QImage icon(unsigned long id) const;
+
     /// Sends a window one of the probe's marks (tests/support/probe/inputmarks.h).
     void mark(unsigned long id, int number);
 
