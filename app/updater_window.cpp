@@ -7,6 +7,7 @@
 #include "app/updater.h"
 #include "fs/chart.h"
 #include "fs/proxyfsmodel.h"
+#include "images/logo.h"
 #include "process/processmenu.h"
 #include "process/proxyprocmodel.h"
 #include "resources/qprog.h"
@@ -55,6 +56,7 @@ void Updater::buildWindow()
 {
     initImages();
     ui.setupUi(&mainWindow);
+    ui.label_27->setPixmap(logo());
     ui.generalScroll->makeTransparent();
     addStateGauges();
     buildNetworkPage();

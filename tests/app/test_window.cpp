@@ -29,6 +29,13 @@ private Q_SLOTS:
         }
     }
 
+    void theLogoIsShown()
+    {
+        fixture->start(0);
+        const QPixmap shown = Fixture::find<QLabel>("label_27")->pixmap(Qt::ReturnByValue);
+        QCOMPARE(shown.toImage(), QPixmap(QStringLiteral(":/images/diobin_logo.png")).toImage());
+    }
+
     void graphAndChartStandInTheirFrames()
     {
         fixture->start(0);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../support/rows.h"
+#include "images/logo.h"
 
 #include <QtGui>
 #include <QtTest>
@@ -51,6 +52,13 @@ private Q_SLOTS:
         for (int grey : {0xff, 0x80, 0x20}) {
             QVERIFY2(visibleOn(picture, grey) > 0.15, qPrintable(QString::number(grey)));
         }
+    }
+
+    void theDecodedLogoIsThePicture()
+    {
+        const QPixmap expected(QStringLiteral(":/images/diobin_logo.png"));
+        QCOMPARE(logo().toImage(), expected.toImage());
+        QCOMPARE(logo().hasAlpha(), true);
     }
 
     void iconsDifferAndAllPicturesTogetherStaySmall()
