@@ -2,6 +2,7 @@
 #include "app/quitsignals.h"
 #include "app/savedends.h"
 #include "app/startpage.h"
+#include "app/startpages.h"
 #include "app/systemfiles.h"
 #include "app/translations.h"
 #include "app/updater.h"
@@ -103,5 +104,6 @@ int main(int argc, char **argv)
     const SavedEnds savedEnds(&updater);
     quitOnSignals(&application);
     setWindowIconSoon(&application);
+    const StartPages startPages;
     return QApplication::exec();
 }
