@@ -38,7 +38,13 @@ void Parents::learn(const std::vector<ProcessRecord> &records, quint64 started)
     }
 }
 
-void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clock, StartClock::Time now)
+unsigned Parents::dueReads(int pid) const
+{
+    return isDueForReading(pid, snapshots + 1) && findByPid(last, pid) ? unsigned(ReadUid) : 0U;
+}
+
+void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clock, StartClock::Time now,
+                      bool withDueReads)
 {
     ++snapshots;
     std::vector<Known> known;
@@ -46,7 +52,7 @@ void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clo
     std::vector<int> exited;
     for (ProcessRecord &record : records) {
         const bool wasRead = (record.unread & ReadUid) == 0;
-        if (!wasRead && !keepParent(record, records) && !readParent(record)) {
+        if (!wasRead && !keepParent(record, records, withDueReads) && !readParent(record)) {
             exited.push_back(record.pid);
             continue;
         }
@@ -61,17 +67,23 @@ void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clo
 }
 
 /// True for a tenth of all pids in each snapshot but the first, and for each pid in one of ten.
-bool Parents::isDueForReading(int pid) const
+bool Parents::isDueForReading(int pid, unsigned snapshot)
 {
     constexpr unsigned period = 10;
-    return snapshots > 1 && (snapshots + static_cast<unsigned>(pid)) % period == 0;
+    return snapshot > 1 && (snapshot + static_cast<unsigned>(pid)) % period == 0;
 }
 
 /// Sets the parent of the last snapshot if it is certain to be the same; false otherwise.
-bool Parents::keepParent(ProcessRecord &record, const std::vector<ProcessRecord> &records) const
+bool Parents::keepParent(ProcessRecord &record, const std::vector<ProcessRecord> &records,
+                         bool withDueReads) const
 {
     const Known *known = findByPid(last, record.pid);
-    if (!known || known->started != record.started || isDueForReading(record.pid)) {
+    if (!known || known->started != record.started) {
+        return false;
+    }
+    // What came with the record was read before the start, which is still the same, and so of this process.
+    const bool isConfirmed = withDueReads && record.parent == known->parent;
+    if (isDueForReading(record.pid, snapshots) && !isConfirmed) {
         return false;
     }
     const ProcessRecord *parent = findByPid(records, known->parent);

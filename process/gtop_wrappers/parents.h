@@ -23,9 +23,14 @@ public:
     /// processes that started before `started`, a second before anything was read, are certain: what came
     /// with the record of another may be of its predecessor with the same pid.
     void learn(const std::vector<ProcessRecord> &records, quint64 started);
+    /// What to read with the record of a process in the next snapshot (Reads, or-ed), since it is due: there
+    /// it takes one call, later two.
+    unsigned dueReads(int pid) const;
     /// Sets the parent of all records, which are ascending by pid, and reads those that are not known.
-    /// Drops the records of processes that exited in the meantime.
-    void resolve(std::vector<ProcessRecord> &records, const StartClock &clock, StartClock::Time now);
+    /// Drops the records of processes that exited in the meantime. withDueReads: whether dueReads() were
+    /// made.
+    void resolve(std::vector<ProcessRecord> &records, const StartClock &clock, StartClock::Time now,
+                 bool withDueReads = false);
 
 private:
     /// A parent that can be kept: pid and start identify both processes.
@@ -37,8 +42,9 @@ private:
         quint64 parentStarted;
     };
 
-    bool isDueForReading(int pid) const;
-    bool keepParent(ProcessRecord &record, const std::vector<ProcessRecord> &records) const;
+    static bool isDueForReading(int pid, unsigned snapshot);
+    bool keepParent(ProcessRecord &record, const std::vector<ProcessRecord> &records,
+                    bool withDueReads) const;
 
     std::vector<Known> last; ///< of the last snapshot, ascending by pid
     unsigned snapshots = 0;

@@ -9,14 +9,15 @@ namespace gtop_wrappers {
 
 std::vector<ProcessRecord> ProcessReader::read(std::optional<uid_t> user, unsigned reads)
 {
+    const auto dueReads = [this](int pid) { return parents.dueReads(pid); };
     std::vector<ProcessRecord> records =
-        std::exchange(isFirst, false) ? readFirst(user, reads) : readProcesses(user, reads);
+        std::exchange(isFirst, false) ? readFirst(user, reads) : readProcesses(user, reads, dueReads);
     const StartClock::Time now = std::chrono::steady_clock::now();
     for (const ProcessRecord &record : records) {
         clock.see(record.started, now);
     }
     readRestOfYoung(records, now);
-    parents.resolve(records, clock, now);
+    parents.resolve(records, clock, now, true);
     return records;
 }
 

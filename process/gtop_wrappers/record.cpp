@@ -189,7 +189,8 @@ bool readParent(ProcessRecord &record)
     return true;
 }
 
-std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned reads)
+std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned reads,
+                                         const std::function<unsigned(int)> &more)
 {
     const unsigned first = user ? unsigned(ReadState) : 0U;
     const std::vector<int> pids = readPids();
@@ -202,8 +203,10 @@ std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned rea
         if (user && static_cast<uid_t>(raw.state.uid) != *user) {
             continue;
         }
-        readRaw(pid, reads & ~first, raw);
-        if (toRecord(pid, reads | first, raw, record)) {
+        const unsigned all = reads | first | (more ? more(pid) : 0U);
+        readRaw(pid, all & ~first, raw);
+        if (toRecord(pid, all, raw, record)) {
+            record.unread |= all & ~(reads | first);
             records.push_back(std::move(record));
         }
     }

@@ -11,6 +11,7 @@
 #include <glibtop/procuid.h>
 #include <sys/types.h>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -82,7 +83,9 @@ bool readParent(ProcessRecord &record);
 /// Reads the processes, ascending by pid, without those that exit in the meantime.
 /// user: only the processes of this effective user id, which is cheaper to read than the real one; none for
 /// all processes.
-std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned reads);
+/// more: further reads (Reads, or-ed) of single processes, by pid. They still count as unread.
+std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned reads,
+                                         const std::function<unsigned(int)> &more = {});
 
 /// Removes the records of these pids, which are ascending.
 void dropRecords(const std::vector<int> &pids, std::vector<ProcessRecord> &records);

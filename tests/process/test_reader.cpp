@@ -57,6 +57,37 @@ private Q_SLOTS:
         QCOMPARE(standin::calls().processData, 1U + 5 * 3 + 2 * 2 + 4);
     }
 
+    void aKnownParentThatIsDueIsReadWithTheRest()
+    {
+        auto &processes = *standin::machine().processes;
+        processes = {{1, madeup::process(1, madeup::now - 100)}, {2, madeup::process(2, madeup::now)}};
+        for (int pid = 100; pid < 200; ++pid) {
+            processes[pid] = madeup::process(1, madeup::now - 50);
+        }
+        reader.read(std::nullopt, ReadEverything);
+        unread();
+        unread();
+        for (int i = 0; i < 20; ++i) {
+            standin::resetCalls();
+            QCOMPARE(unread().value(100 + i), unsigned(ReadUid | ReadMemory | ReadArguments));
+            // State and time of all; the parents of a tenth; three more reads of the young 2, and its start.
+            const unsigned due = standin::calls().processData - 102 * 2 - 4;
+            QVERIFY2(due == 10 || due == 11, qPrintable(QString::number(due)));
+        }
+    }
+
+    void aParentThatChangedIsSeenWhenItIsDue()
+    {
+        for (int i = 0; i < 3; ++i) {
+            reader.read(std::nullopt, ReadState | ReadTime);
+        }
+        madeup::at(11).parent = 1; // while 10 goes on running
+        for (int i = 0; i < 10; ++i) {
+            unread();
+        }
+        QCOMPARE(reader.read(std::nullopt, ReadState | ReadTime).at(2).parent, 1);
+    }
+
     void processThatExitsWhileBeingReadIsLeftOut_data()
     {
         const Rows<int, int, unsigned> row("pid", "answers", "eager");
