@@ -4,7 +4,11 @@
 #include <QFile>
 #include <QTimer>
 
+#include <fcntl.h>
+#include <linux/userfaultfd.h>
+#include <sys/ioctl.h>
 #include <sys/mman.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -12,11 +16,17 @@
 #include <cstdio>
 #include <fstream>
 #include <string>
+#include <utility>
 
 namespace {
 
 /// By then the page has been painted and followed up.
 constexpr int startIsOver = 2000; // milliseconds
+/// By then the page has been refreshed at any interval, and more than once at the default.
+constexpr int usedPagesAreBack = 8000; // milliseconds after that
+
+/// UFFD_FEATURE_WP_ASYNC, which older headers lack.
+constexpr std::uint64_t asynchronousTracking = 1U << 15;
 
 /// What /proc/PID/pagemap tells of one page.
 using PageEntry = std::uint64_t;
@@ -75,7 +85,7 @@ bool mayBeTraced(std::istream &status)
     return true;
 }
 
-void releaseReadOnlyPages()
+void releaseReadOnlyPages(const SinglePageFaults &faults)
 {
     std::ifstream maps("/proc/self/maps");
     std::ifstream status("/proc/self/status");
@@ -88,11 +98,48 @@ void releaseReadOnlyPages()
     for (const PageRange &range : ranges) {
         if (!hasCopies(range, pagemap)) {
             madvise(range.begin, range.size, MADV_DONTNEED);
+            faults.add(range);
         }
+    }
+}
+
+SinglePageFaults::SinglePageFaults()
+    : descriptor(static_cast<int>(syscall(SYS_userfaultfd, O_CLOEXEC | O_NONBLOCK | UFFD_USER_MODE_ONLY)))
+{
+    uffdio_api features = {};
+    features.api = UFFD_API;
+    features.features = asynchronousTracking;
+    if (descriptor >= 0 && ioctl(descriptor, UFFDIO_API, &features) != 0) {
+        close(std::exchange(descriptor, -1));
+    }
+}
+
+SinglePageFaults::~SinglePageFaults()
+{
+    if (isPossible()) {
+        close(descriptor); // all ranges are as before
+    }
+}
+
+void SinglePageFaults::add(const PageRange &range) const
+{
+    uffdio_register tracked = {};
+    tracked.range.start = reinterpret_cast<std::uintptr_t>(range.begin);
+    tracked.range.len = range.size;
+    tracked.mode = UFFDIO_REGISTER_MODE_WP;
+    if (isPossible()) {
+        ioctl(descriptor, UFFDIO_REGISTER, &tracked); // refused for shared mappings
     }
 }
 
 StartPages::StartPages()
 {
     QTimer::singleShot(startIsOver, this, SLOT(release()));
+}
+
+void StartPages::release()
+{
+    faults = std::make_unique<SinglePageFaults>();
+    releaseReadOnlyPages(*faults);
+    QTimer::singleShot(usedPagesAreBack, this, SLOT(finish()));
 }
