@@ -2,7 +2,6 @@
 #include "process/gtop_wrappers/columns.h"
 
 #include "process/gtop_wrappers/textondemand.h"
-#include "text/oneline.h"
 
 #include <QtGlobal>
 
@@ -37,9 +36,9 @@ ParamPtr makeSize(const ProcessRecord &record, SharedParams &)
     return ParamPtr(new SizeProcessParam(record.*Member));
 }
 
-ParamPtr makeName(const ProcessRecord &record, SharedParams &)
+ParamPtr makeName(const ProcessRecord &record, SharedParams &shared)
 {
-    return ParamPtr(new SimpleProcessParam(oneLine(record.name)));
+    return shared.name(record.name);
 }
 
 ParamPtr makeCpu(const ProcessRecord &, SharedParams &)

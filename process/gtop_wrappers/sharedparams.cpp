@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/gtop_wrappers/sharedparams.h"
 
+#include "text/oneline.h"
+
 #include <QCoreApplication>
 
 #include <glibtop/procstate.h>
@@ -38,7 +40,8 @@ QString stateText(int code)
                                                             : QT_TRANSLATE_NOOP("ProcessFiller", "Other"));
 }
 
-void dropUnusedOf(std::map<int, ParamPtr> &params)
+template <typename Key>
+void dropUnusedOf(std::map<Key, ParamPtr> &params)
 {
     for (auto it = params.begin(); it != params.end();) {
         it = it->second.unique() ? params.erase(it) : std::next(it);
@@ -46,6 +49,15 @@ void dropUnusedOf(std::map<int, ParamPtr> &params)
 }
 
 } // namespace
+
+ParamPtr SharedParams::name(const QByteArray &bytes)
+{
+    ParamPtr &param = names[bytes];
+    if (!param) {
+        param.reset(new SimpleProcessParam(oneLine(bytes)));
+    }
+    return param;
+}
 
 ParamPtr SharedParams::state(int code)
 {
@@ -68,6 +80,7 @@ ParamPtr SharedParams::number(int value)
 void SharedParams::dropUnused()
 {
     users.dropUnused();
+    dropUnusedOf(names);
     dropUnusedOf(states);
     dropUnusedOf(numbers);
 }

@@ -9,10 +9,12 @@
 
 namespace gtop_wrappers {
 
-/// Values that many processes have in common, made once: users, states, small numbers.
+/// Values that many processes have in common, made once: names, users, states, small numbers.
 class SharedParams
 {
 public:
+    /// The name of a process.
+    ParamPtr name(const QByteArray &bytes);
     /// See UserNames.
     void updateUsers(UserNames::Time now) { users.update(now); }
     ParamPtr user(int uid) { return users.name(uid); }
@@ -24,6 +26,7 @@ public:
 
 private:
     UserNames users;
+    std::map<QByteArray, ParamPtr> names;
     std::map<int, ParamPtr> states;
     std::map<int, ParamPtr> numbers;
 };

@@ -184,6 +184,7 @@ private Q_SLOTS:
             }
         }
         ProcessRecord left = recordOf(43); // with none of the values that processes share
+        left.name = "sh";
         left.user = 65534;
         left.state = 16;
         left.parent = 20;
@@ -195,12 +196,12 @@ private Q_SLOTS:
         }
     }
 
-    void processesShareUserStateAndSmallNumbers()
+    void processesShareNameUserStateAndSmallNumbers()
     {
         SnapshotCache cache;
         const auto snapshot = cache.snapshot({recordOf(42), recordOf(43)});
         for (const ProcessColumn column :
-             {UserColumn, StateColumn, NiceColumn, ParentPidColumn, ProcessorColumn}) {
+             {NameColumn, UserColumn, StateColumn, NiceColumn, ParentPidColumn, ProcessorColumn}) {
             QCOMPARE(snapshot.at(42).getParam(column).get(), snapshot.at(43).getParam(column).get());
         }
     }
