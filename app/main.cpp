@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/quitsignals.h"
 #include "app/savedends.h"
+#include "app/startmemory.h"
 #include "app/startpage.h"
-#include "app/startpages.h"
 #include "app/systemfiles.h"
 #include "app/translations.h"
 #include "app/updater.h"
@@ -104,6 +104,6 @@ int main(int argc, char **argv)
     const SavedEnds savedEnds(&updater);
     quitOnSignals(&application);
     setWindowIconSoon(&application);
-    const StartPages startPages;
+    const StartMemory startMemory;
     return QApplication::exec();
 }

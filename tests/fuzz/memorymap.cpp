@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "holds.h"
 
-#include "app/startpages.h"
+#include "app/startmemory.h"
 
 #include <sstream>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/startpages.h"
+#include "app/startmemory.h"
 
 #include <QFile>
 #include <QTimer>
@@ -132,12 +132,12 @@ void SinglePageFaults::add(const PageRange &range) const
     }
 }
 
-StartPages::StartPages()
+StartMemory::StartMemory()
 {
     QTimer::singleShot(startIsOver, this, SLOT(release()));
 }
 
-void StartPages::release()
+void StartMemory::release()
 {
     faults = std::make_unique<SinglePageFaults>();
     releaseReadOnlyPages(*faults);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#ifndef APP_STARTPAGES_H
-#define APP_STARTPAGES_H
+#ifndef APP_STARTMEMORY_H
+#define APP_STARTMEMORY_H
 
 #include <QObject>
 
@@ -47,12 +47,12 @@ void releaseReadOnlyPages(const SinglePageFaults &faults);
 
 /// Does so once, when the start is over: it used symbol tables, relocations and set-up code that nothing
 /// needs afterwards, and with each page the kernel maps up to fifteen around it.
-class StartPages : public QObject
+class StartMemory : public QObject
 {
     Q_OBJECT
 
 public:
-    StartPages();
+    StartMemory();
 
 private Q_SLOTS:
     void release();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/startpages.h"
+#include "app/startmemory.h"
 
 #include <QTemporaryFile>
 #include <QtTest>
@@ -89,7 +89,7 @@ int presentInATracedChild(const MappedFile &file)
 
 } // namespace
 
-class TestStartPages : public QObject
+class TestStartMemory : public QObject
 {
     Q_OBJECT
 
@@ -187,5 +187,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestStartPages)
-#include "test_startpages.moc"
+QTEST_MAIN(TestStartMemory)
+#include "test_startmemory.moc"
