@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/processdelegate.h"
 
+#include "process/paintedrows.h"
 #include "process/proxyprocmodel.h"
 
 #include <QAbstractItemView>
@@ -56,6 +57,27 @@ QSize ProcessDelegate::sizeHint(const QStyleOptionViewItem &option, const QModel
     return size;
 }
 
+void ProcessDelegate::setPaintedRows(PaintedRows *rows)
+{
+    painted = rows;
+}
+
+QString ProcessDelegate::textOf(const QModelIndex &index, const QLocale &locale) const
+{
+    const QVariant value = index.data();
+    const auto *list = qobject_cast<const ProxyProcModel *>(index.model());
+    return list && value.isValid() ? textOf(value, list->alignment(index.column()), locale) : QString();
+}
+
+QString ProcessDelegate::textOf(const QVariant &value, Qt::Alignment alignment, const QLocale &locale) const
+{
+    QString text = displayText(value, locale);
+    if (alignment & Qt::AlignRight) {
+        text += QChar(QChar::Nbsp); // keeps numbers apart from a text in the next column
+    }
+    return text;
+}
+
 /// Does not ask the process list for what it never has (icons, fonts, colors), unlike QStyledItemDelegate.
 void ProcessDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
@@ -69,10 +91,7 @@ void ProcessDelegate::initStyleOption(QStyleOptionViewItem *option, const QModel
     const QVariant value = index.data();
     if (value.isValid()) {
         option->features |= QStyleOptionViewItem::HasDisplay;
-        option->text = displayText(value, option->locale);
-        if (option->displayAlignment & Qt::AlignRight) {
-            option->text += QChar(QChar::Nbsp); // keeps numbers apart from a text in the next column
-        }
+        option->text = textOf(value, option->displayAlignment, option->locale);
     }
     if (index.data(ProxyProcModel::AncestorOnlyRole).toBool()) {
         option->palette.setColor(QPalette::Text, dimmed(option->palette));
@@ -82,8 +101,14 @@ void ProcessDelegate::initStyleOption(QStyleOptionViewItem *option, const QModel
 void ProcessDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                             const QModelIndex &index) const
 {
+    if (painted && !painted->isWanted(*painter, option)) {
+        return;
+    }
     QStyleOptionViewItem cell(option);
     initStyleOption(&cell, index);
+    if (painted) {
+        painted->note(*painter, cell, index);
+    }
     if (texts.canDraw(cell)) {
         texts.draw(painter, cell);
     } else {

@@ -5,7 +5,10 @@
 #include "process/celltexts.h"
 
 #include <QHash>
+#include <QPointer>
 #include <QStyledItemDelegate>
+
+class PaintedRows;
 
 /// Measures, aligns and draws the cells of the process list.
 class ProcessDelegate : public QStyledItemDelegate
@@ -19,6 +22,10 @@ public:
     /// goes into this. All cells are then in one column and one font, and have nothing but text.
     void beginColumn() { isFitting = true; }
     void endColumn();
+    /// To be told what is painted; not owned, may be null.
+    void setPaintedRows(PaintedRows *rows);
+    /// What a cell of the process list shows.
+    QString textOf(const QModelIndex &index, const QLocale &locale) const;
     /// Forgets texts that the last refresh no longer showed.
     void startRefresh() { texts.startRefresh(); }
 
@@ -35,9 +42,12 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
+    QString textOf(const QVariant &value, Qt::Alignment alignment, const QLocale &locale) const;
+
     bool isFitting = false;
     mutable QHash<QString, QSize> sizes; ///< by text
     mutable CellTexts texts;
+    QPointer<PaintedRows> painted;
 };
 
 #endif

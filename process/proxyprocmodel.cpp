@@ -4,13 +4,15 @@
 #include "process/deeprows.h"
 #include "process/fittedcolumns.h"
 #include "process/gtop_wrappers/filler.h"
+#include "process/paintedrows.h"
 #include "process/processdelegate.h"
 #include "process/treeexpansion.h"
 
 ProxyProcModel::ProxyProcModel(QObject *parent)
     : QSortFilterProxyModel(parent), source(new ProcModel(parent)), delegate(new ProcessDelegate(this)),
-      deepRows(nullptr), fittedColumns(nullptr), expandAndFit(true), types(gtop_wrappers::MyProcesses),
-      currentCpuTotal(1), previousCpuTotal(0), expansion(new TreeExpansion(this)), fitUnfiltered(false)
+      deepRows(nullptr), fittedColumns(nullptr), paintedRows(nullptr), expandAndFit(true),
+      types(gtop_wrappers::MyProcesses), currentCpuTotal(1), previousCpuTotal(0),
+      expansion(new TreeExpansion(this)), fitUnfiltered(false)
 {
     // Before the base class makes its own connections: it sorts when the same signals reach it.
     connect(source, SIGNAL(layoutAboutToBeChanged()), this, SLOT(forgetRanks()));
@@ -34,6 +36,9 @@ void ProxyProcModel::setView(QTreeView *treeView)
         deepRows = new DeepRows(this, view);
         fittedColumns = new FittedColumns(view);
         expansion->follow(view);
+        paintedRows = new PaintedRows(
+            this, view, [this](const QModelIndex &cell) { return delegate->textOf(cell, view->locale()); });
+        delegate->setPaintedRows(paintedRows);
     }
 }
 
@@ -44,6 +49,16 @@ void ProxyProcModel::setTotalCpuTime(unsigned long total)
 }
 
 void ProxyProcModel::refresh(const ProcModel::Snapshot &snapshot, int)
+{
+    if (view && !expandAndFit) {
+        paintedRows->repaintChanges([&] { update(snapshot); });
+    } else {
+        update(snapshot);
+    }
+    Q_EMIT filtered();
+}
+
+void ProxyProcModel::update(const ProcModel::Snapshot &snapshot)
 {
     if (isFiltered()) {
         // In the complete tree rows move, so what is above them in the snapshot counts.
@@ -59,7 +74,6 @@ void ProxyProcModel::refresh(const ProcModel::Snapshot &snapshot, int)
         deepRows->restore();
         layOutView();
     }
-    Q_EMIT filtered();
 }
 
 void ProxyProcModel::layOutView()

@@ -14,6 +14,7 @@
 
 class DeepRows;
 class FittedColumns;
+class PaintedRows;
 class ProcessDelegate;
 class TreeExpansion;
 
@@ -131,6 +132,7 @@ private:
     void fitColumns();
     void sortByProcessColumn(int processColumn);
     void sortInView(int column, Qt::SortOrder order);
+    void update(const ProcModel::Snapshot &snapshot);
     void layOutView();
     void expandAndFitView();
 
@@ -139,6 +141,7 @@ private:
     ProcessDelegate *delegate;    ///< of the view
     DeepRows *deepRows;           ///< of the view, which owns it
     FittedColumns *fittedColumns; ///< of the view, which owns it
+    PaintedRows *paintedRows;     ///< of the view, which owns it
     bool expandAndFit;            ///< in the next layout, as it is the first one or the first after a reset
     int types;
     quint64 currentCpuTotal;
