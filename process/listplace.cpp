@@ -33,6 +33,18 @@ bool isRowInView(const QTreeView &view, const QModelIndex &row)
     return row.isValid() && view.viewport()->rect().intersects(view.visualRect(row));
 }
 
+std::vector<int> columnsInView(const QTreeView &view)
+{
+    std::vector<int> columns;
+    for (int column = 0; column < view.model()->columnCount(); ++column) {
+        const int left = view.columnViewportPosition(column);
+        if (left < view.viewport()->width() && left + view.columnWidth(column) > 0) {
+            columns.push_back(column);
+        }
+    }
+    return columns;
+}
+
 /// Row of the same process in its current place; invalid if it is no longer listed.
 QModelIndex rowOf(const ProxyProcModel &model, const Process &process)
 {
@@ -112,10 +124,10 @@ void readCellsInView(const QTreeView &view)
     if (!view.isVisible()) {
         return;
     }
-    const int columns = view.model()->columnCount();
+    const std::vector<int> columns = columnsInView(view);
     for (QModelIndex row = view.indexAt(QPoint(0, 0)); isRowInView(view, row); row = view.indexBelow(row)) {
-        for (int column = 0; column < columns; ++column) {
-            row.sibling(row.row(), column).data(Qt::UserRole);
+        for (const int column : columns) {
+            row.siblingAtColumn(column).data(Qt::UserRole);
         }
     }
 }

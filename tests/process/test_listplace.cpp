@@ -48,6 +48,22 @@ struct Processes : List
     QMap<int, int> others; ///< start of processes that have taken a pid
 };
 
+/// Counts how often it is read.
+class CountedParam : public IProcessParam
+{
+public:
+    explicit CountedParam(int *counter) : count(counter) {}
+
+    QVariant sortValue() const override
+    {
+        ++*count;
+        return 0;
+    }
+
+private:
+    int *count;
+};
+
 } // namespace
 
 class TestListPlace : public QObject
@@ -318,6 +334,32 @@ private Q_SLOTS:
         QVERIFY(!selectedRow(list.view).isValid()); // either could be meant
         highlight(0, QItemSelectionModel::Select | QItemSelectionModel::Rows);
         QCOMPARE(selectedRow(list.view), list.proxy->index(0, 0));
+    }
+
+    void onlyWhatIsInViewIsRead()
+    {
+        Processes list;
+        ProcModel::Snapshot snapshot = makeSnapshot(factsUpTo(100));
+        int first = 0;
+        int last = 0;
+        for (auto &entry : snapshot) {
+            entry.second.params[NameColumn].reset(new CountedParam(&first));
+            entry.second.params[CommandLineColumn].reset(new CountedParam(&last));
+        }
+        list.refresh(snapshot);
+        const auto rowsRead = [&](int *count) {
+            *count = 0;
+            readCellsInView(list.view);
+            return *count;
+        };
+        const int inView = rowsRead(&first);
+        QVERIFY(inView > 3 && inView < 50);
+        QCOMPARE(rowsRead(&last), 0);
+        list.view.horizontalScrollBar()->setValue(list.view.horizontalScrollBar()->maximum());
+        QCOMPARE(rowsRead(&first), 0);
+        QCOMPARE(rowsRead(&last), inView);
+        list.view.hide();
+        QCOMPARE(rowsRead(&last), 0);
     }
 };
 
