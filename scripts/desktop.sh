@@ -24,6 +24,16 @@ wait_until() {
 
 window_manager_is_ready() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
 
+# A desktop has a session bus. Without one the program would start one for itself.
+start_session_bus() {
+    command -v dbus-daemon >/dev/null || return 0
+    dbus-daemon --session --nofork --nosyslog --print-address=3 3>"$work/bus" 2>"$work/bus.log" &
+    desktop_processes+=($!)
+    wait_until test -s "$work/bus" || { cat "$work/bus.log" >&2; return 1; }
+    DBUS_SESSION_BUS_ADDRESS=$(cat "$work/bus")
+    export DBUS_SESSION_BUS_ADDRESS
+}
+
 # start_desktop <width>x<height> <dpi>: an X server, a window manager, and empty folders for settings and sockets, so
 # that programs start with their defaults and leave the user's settings alone.
 start_desktop() {
@@ -37,6 +47,7 @@ start_desktop() {
     xprop -root -f RESOURCE_MANAGER 8s -set RESOURCE_MANAGER "Xft.dpi: $2"
     mkdir -m 700 "$work/config" "$work/runtime"
     export XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime
+    start_session_bus
     openbox >"$work/openbox.log" 2>&1 &
     desktop_processes+=($!)
     # A window opened while the window manager is starting is never shown.
