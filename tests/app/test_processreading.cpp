@@ -109,6 +109,8 @@ private Q_SLOTS:
     {
         QFETCH(int, sortedBy);
         showMany();
+        Fixture::window()->resize(2000, 500); // all columns are in view
+        QCoreApplication::processEvents();
         view()->sortByColumn(sortedBy, Qt::AscendingOrder);
         fixture->updater().update(true);
         const QModelIndex first = view()->indexAt(QPoint(0, 0));

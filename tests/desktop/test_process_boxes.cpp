@@ -34,7 +34,7 @@ private Q_SLOTS:
             QVERIFY(session->key(shortcut));
             QVERIFY(page->waitForDialog(title));
             QVERIFY(informs(name));
-            QVERIFY(isOverTheMainWindow());
+            QVERIFY(session->waitFor([&] { return isOverTheMainWindow(); }));
             QVERIFY(session->savePicture(QString("box-%1").arg(QTest::currentDataTag())));
             if (name != std::end(names)[-1]) {
                 QVERIFY(page->dismissAll());
@@ -66,7 +66,7 @@ private Q_SLOTS:
         QVERIFY(page->waitForDialog("Error"));
         QVERIFY(session->dialog().value("text").toString().endsWith("No such process"));
         QVERIFY(informs(names[0]));
-        QVERIFY(isOverTheMainWindow());
+        QVERIFY(session->waitFor([&] { return isOverTheMainWindow(); }));
         QVERIFY(session->savePicture(QString("box-error-%1").arg(QTest::currentDataTag())));
     }
 
@@ -76,7 +76,7 @@ private Q_SLOTS:
         QVERIFY(openPriorityDialog());
         QCOMPARE(session->dialog().value("title").toString(),
                  QString("Change priority - sleep (%1)").arg(pid));
-        QVERIFY(isOverTheMainWindow());
+        QVERIFY(session->waitFor([&] { return isOverTheMainWindow(); }));
         QVERIFY(session->savePicture("dialog-priority-over-the-window"));
     }
 
@@ -118,9 +118,6 @@ private:
         const QRect window = rectOf(session->mainWindow().value("frame"));
         const QPoint offset = rectOf(box.value("frame")).center() - window.center();
         const int nearby = 60;
-        if (offset.manhattanLength() > nearby) {
-            qWarning("the box is %d, %d pixels off", offset.x(), offset.y());
-        }
         return session->x().transientFor(id) == session->windowId() && offset.manhattanLength() <= nearby;
     }
 };
