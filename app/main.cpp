@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QTimer>
 
 #include <fcntl.h>
 #include <malloc.h>
@@ -63,20 +62,6 @@ void returnLargeBlocksToSystem()
     mallopt(M_TRIM_THRESHOLD, keptForTheNextRefresh);
 }
 
-/// The icon that the window manager shows, also for boxes that are already open.
-void setWindowIcon()
-{
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("utilities-system-monitor")));
-}
-
-/// Making a window with an icon reads the whole index of the icon theme, the most expensive step of a start.
-/// So the icon follows once the window is shown and painted.
-void setWindowIconSoon(QApplication *application)
-{
-    constexpr int milliseconds = 300;
-    QTimer::singleShot(milliseconds, application, &setWindowIcon);
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -86,6 +71,7 @@ int main(int argc, char **argv)
     returnLargeBlocksToSystem();
     disableOpenGl();
     QApplication application(argc, argv);
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("utilities-system-monitor")));
     QCoreApplication::setOrganizationName(QStringLiteral("Telmorra"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("telmorra.example"));
     QCoreApplication::setApplicationName(QStringLiteral("zarn-system-monitor"));
@@ -95,7 +81,6 @@ int main(int argc, char **argv)
     zarnInit(ZSM_VERSION, description);
     const int startPage = startPageFromArguments(argc, argv, std::cout);
     if (const char *missing = fileMissingForStart()) {
-        setWindowIcon();
         reportMissingFile(missing);
         return EXIT_FAILURE;
     }
@@ -103,7 +88,6 @@ int main(int argc, char **argv)
     Updater updater(startPage);
     const SavedEnds savedEnds(&updater);
     quitOnSignals(&application);
-    setWindowIconSoon(&application);
     const StartMemory startMemory;
     return QApplication::exec();
 }

@@ -67,7 +67,6 @@ private Q_SLOTS:
         QVERIFY2(host.startsWith(QSysInfo::machineHostName()), qPrintable(host));
     }
 
-    /// It follows once the window is shown.
     void theWindowGetsTheIconOfTheTheme()
     {
         QImage icon(32, 32, QImage::Format_ARGB32);
