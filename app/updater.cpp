@@ -69,7 +69,7 @@ void Updater::showWindow()
 {
     finishLabels();
     stage = Stage::WindowShown;
-    reading.clear();
+    endReading();
     mainWindow.show();
 }
 

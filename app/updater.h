@@ -110,6 +110,7 @@ private:
     void restoreSelection(const ListPlace &place);
     double sampleTotalCpuTime();
     void readProcesses();
+    void endReading();
     void chooseEagerColumns();
     // updater_filesystems.cpp
     void refreshFileSystems();

@@ -26,7 +26,7 @@ void Updater::refreshProcesses()
     procModel->refresh(reading, 0);
     restoreSelection(place);
     if (stage == Stage::WindowShown) {
-        reading.clear();
+        endReading();
     }
     if (wasEmptied) {
         place.restoreView(*procModel, *ui.treeView);
@@ -71,6 +71,13 @@ void Updater::readProcesses()
     }
     chooseEagerColumns();
     reading = filler->getProcesses(static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes()));
+}
+
+/// The next reading is made from this one, which is therefore not destroyed.
+void Updater::endReading()
+{
+    static auto *filler = gtop_wrappers::ProcessFiller::instance();
+    filler->giveBack(std::exchange(reading, {}));
 }
 
 /// The column that is sorted by is read for all rows, the others where they are shown.

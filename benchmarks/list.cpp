@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 int main(int argc, char **argv)
 {
@@ -25,6 +26,7 @@ int main(int argc, char **argv)
             const double perProcess = 1e3 / static_cast<double>(snapshot.size());
             std::printf("%.2f %.2f %.2f\n", read * perProcess, asList * perProcess, asTree * perProcess);
         }
+        gtop_wrappers::ProcessFiller::instance()->giveBack(std::move(snapshot));
     }
     return 0;
 }

@@ -3,6 +3,22 @@
 
 #include <algorithm>
 
+namespace {
+
+/// Most values are the same objects as before; assigning those would write to their reference counters.
+void copyChanged(const std::vector<gtop_wrappers::ParamPtr> &fresh,
+                 std::vector<gtop_wrappers::ParamPtr> &params)
+{
+    params.resize(fresh.size());
+    for (std::size_t i = 0; i < fresh.size(); ++i) {
+        if (params[i] != fresh[i]) {
+            params[i] = fresh[i];
+        }
+    }
+}
+
+} // namespace
+
 ProcItem::ProcItem(const QList<QVariant> &data, ProcItem *parent)
     : itemData(data), parentItem(parent), itemProcess(-1), previousCpu(0), cpuPercent(0.0), updated(false)
 {}
@@ -83,7 +99,7 @@ bool ProcItem::update(const gtop_wrappers::Process &fresh, quint64 totalDelta)
         cpu->showPercent(cpuPercent);
     }
     itemProcess.id = fresh.id;
-    itemProcess.params = fresh.params;
+    copyChanged(fresh.params, itemProcess.params);
     updated = true;
     return true;
 }

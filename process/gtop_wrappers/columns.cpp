@@ -18,12 +18,6 @@ bool same(const ProcessRecord &before, const ProcessRecord &now)
     return ((before.*Members == now.*Members) && ...);
 }
 
-/// The process model writes into the CPU value, so each snapshot has its own.
-bool neverSame(const ProcessRecord &, const ProcessRecord &)
-{
-    return false;
-}
-
 template <auto Member>
 ParamPtr makeSharedInt(const ProcessRecord &record, SharedParams &shared)
 {
@@ -92,7 +86,7 @@ const std::array<Column, ColumnCount> table = {{
     {QT_TRANSLATE_NOOP("ProcessFiller", "Name"), ShownByDefault, Text,
      ReadState, makeName, same<&Record::name>, nullptr},
     {QT_TRANSLATE_NOOP("ProcessFiller", "CPU"), ShownByDefault, Number,
-     ReadTime, makeCpu, neverSame, nullptr},
+     ReadTime, makeCpu, same<&Record::started>, nullptr},
     {QT_TRANSLATE_NOOP("ProcessFiller", "PID"), ShownByDefault, Number,
      noReads, makePid, same<&Record::pid>, nullptr},
     {QT_TRANSLATE_NOOP("ProcessFiller", "User"), ShownByDefault, Text,

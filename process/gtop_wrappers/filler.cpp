@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <optional>
+#include <utility>
 
 namespace gtop_wrappers {
 
@@ -59,6 +60,11 @@ std::map<int, Process> ProcessFiller::getProcesses(ProcessTypes types)
     // Any value but MyProcesses lists all processes.
     const auto user = types == MyProcesses ? std::optional<uid_t>(getuid()) : std::nullopt;
     return cache->snapshot(reader->read(user, cache->eagerReads()));
+}
+
+void ProcessFiller::giveBack(std::map<int, Process> &&lastSnapshot)
+{
+    cache->takeBack(std::move(lastSnapshot));
 }
 
 void ProcessFiller::setEagerColumns(const std::vector<bool> &columns)

@@ -37,9 +37,12 @@ public:
     bool isNumeric(unsigned long i) const;
     /// Whether values of column i are expensive and can be read on demand. False past the end.
     bool isExpensive(unsigned long i) const;
-    /// A snapshot keyed by pid, without processes that exit while being read. Values that did not change
-    /// since the last snapshot are the same objects as before, except those of the CPU column.
+    /// A snapshot keyed by pid, without processes that exit while being read. If the last one was given back,
+    /// values that did not change are the same objects as before. That of the CPU column, which others write,
+    /// is the same for as long as the process runs.
     std::map<int, Process> getProcesses(ProcessTypes types);
+    /// Instead of destroying the last snapshot, and no other: the next one is made from it.
+    void giveBack(std::map<int, Process> &&lastSnapshot);
 
     /// Chooses the columns that the next snapshots read for all rows, for instance the one that is sorted by.
     /// Missing entries count as chosen, so an empty list (the initial state) chooses all. The expensive

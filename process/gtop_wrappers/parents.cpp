@@ -19,10 +19,12 @@ const Element *findByPid(const std::vector<Element> &list, int pid)
     return found != list.end() && found->pid == pid ? &*found : nullptr;
 }
 
-/// A dead process that is still in the list, and whose children were reparented.
-bool isDead(const ProcessRecord &record)
+/// A process that may no longer have its children though it is still in the list: it is dead, or hangs in its
+/// exit, which only shows as an uninterruptible state.
+bool canHaveExited(const ProcessRecord &record)
 {
-    return (record.state & (GLIBTOP_PROCESS_ZOMBIE | GLIBTOP_PROCESS_DEAD)) != 0;
+    return (record.state &
+            (GLIBTOP_PROCESS_ZOMBIE | GLIBTOP_PROCESS_DEAD | GLIBTOP_PROCESS_UNINTERRUPTIBLE)) != 0;
 }
 
 } // namespace
@@ -66,10 +68,10 @@ void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clo
     dropRecords(exited, records); // only now: until here the list is searched for parents
 }
 
-/// True for a tenth of all pids in each snapshot but the first, and for each pid in one of ten.
+/// True for a fortieth of all pids in each snapshot but the first, and for each pid in one of forty.
 bool Parents::isDueForReading(int pid, unsigned snapshot)
 {
-    constexpr unsigned period = 10;
+    constexpr unsigned period = 40;
     return snapshot > 1 && (snapshot + static_cast<unsigned>(pid)) % period == 0;
 }
 
@@ -87,7 +89,7 @@ bool Parents::keepParent(ProcessRecord &record, const std::vector<ProcessRecord>
         return false;
     }
     const ProcessRecord *parent = findByPid(records, known->parent);
-    if (!parent || parent->started != known->parentStarted || isDead(*parent)) {
+    if (!parent || parent->started != known->parentStarted || canHaveExited(*parent)) {
         return false;
     }
     record.parent = known->parent;

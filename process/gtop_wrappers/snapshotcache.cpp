@@ -14,6 +14,17 @@ bool isOnDemand(const Column &column, const ProcessRecord &record)
     return column.makeOnDemand && (column.reads & record.unread) != 0;
 }
 
+/// The element of a process, which is made if it is missing. Those before it, from `from` on, have exited.
+std::map<int, Process>::iterator elementOf(int pid, std::map<int, Process>::iterator from,
+                                           std::map<int, Process> &processes)
+{
+    while (from != processes.end() && from->first < pid) {
+        from = processes.erase(from);
+    }
+    const bool isThere = from != processes.end() && from->first == pid;
+    return isThere ? from : processes.emplace_hint(from, pid, Process(pid));
+}
+
 } // namespace
 
 SnapshotCache::SnapshotCache()
@@ -41,46 +52,44 @@ unsigned SnapshotCache::eagerReads() const
 std::map<int, Process> SnapshotCache::snapshot(std::vector<ProcessRecord> records)
 {
     shared.updateUsers(std::chrono::steady_clock::now());
-    std::map<int, Process> processes;
+    std::map<int, Process> processes = std::exchange(values, {});
     std::vector<Entry> entries;
     entries.reserve(records.size());
-    auto before = last.begin();
+    const Entry unknown;
+    auto before = last.cbegin();
+    auto process = processes.begin();
     for (ProcessRecord &record : records) {
         const int pid = record.pid;
         before =
-            std::find_if(before, last.end(), [pid](const Entry &entry) { return entry.record.pid >= pid; });
-        if (before != last.end() && before->record.pid == pid) {
-            entries.push_back(std::move(*before++));
-        } else {
-            entries.push_back({ProcessRecord(), Process(pid), OnDemandPtr()});
-        }
-        update(entries.back(), std::move(record));
-        processes.emplace_hint(processes.end(), pid, entries.back().process);
+            std::find_if(before, last.cend(), [pid](const Entry &entry) { return entry.record.pid >= pid; });
+        const Entry &known = before != last.cend() && before->record.pid == pid ? *before : unknown;
+        OnDemandPtr onDemand = onDemandValues(known, record);
+        entries.push_back({std::move(record), std::move(onDemand)});
+        process = elementOf(pid, process, processes);
+        makeValues(known, entries.back(), process->second.params);
+        ++process;
     }
+    processes.erase(process, processes.end());
     last = std::move(entries);
     shared.dropUnused();
     return processes;
 }
 
-/// Brings the entry to the record: makes the values that changed, keeps the others.
-void SnapshotCache::update(Entry &entry, ProcessRecord &&record)
+/// Makes the values that changed, keeps the others.
+void SnapshotCache::makeValues(const Entry &before, const Entry &now, std::vector<ParamPtr> &params)
 {
-    const OnDemandPtr onDemand = onDemandValues(entry, record);
-    std::vector<ParamPtr> &params = entry.process.params;
     params.resize(ColumnCount);
     for (std::size_t i = 0; i < ColumnCount; ++i) {
         const Column &column = columns()[i];
-        const bool wasOnDemand = isOnDemand(column, entry.record);
-        if (isOnDemand(column, record)) {
-            if (!params[i] || !wasOnDemand || onDemand != entry.onDemand) {
-                params[i] = column.makeOnDemand(onDemand);
+        const bool wasOnDemand = isOnDemand(column, before.record);
+        if (isOnDemand(column, now.record)) {
+            if (!params[i] || !wasOnDemand || now.onDemand != before.onDemand) {
+                params[i] = column.makeOnDemand(now.onDemand);
             }
-        } else if (!params[i] || wasOnDemand || !column.same(entry.record, record)) {
-            params[i] = column.make(record, shared);
+        } else if (!params[i] || wasOnDemand || !column.same(before.record, now.record)) {
+            params[i] = column.make(now.record, shared);
         }
     }
-    entry.onDemand = onDemand;
-    entry.record = std::move(record);
 }
 
 /// The values to be read on demand: those of the last snapshot if the process is the same, so that what was

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace gtop_wrappers {
@@ -17,6 +18,9 @@ namespace gtop_wrappers {
 /// Turns the records of one snapshot after another into column values, and keeps the values that did not
 /// change: most don't from one snapshot to the next. Whether one did is decided by comparing records, never
 /// by the pid alone, so a process that reuses a pid shows nothing of its predecessor.
+///
+/// The values are kept in the snapshot itself, if it is given back: a copy of it would write to the reference
+/// counter of each value, in memory that is cold by then, which costs more than all the rest.
 class SnapshotCache
 {
 public:
@@ -28,21 +32,23 @@ public:
     unsigned eagerReads() const;
     /// The snapshot of these records, which are ascending by pid.
     std::map<int, Process> snapshot(std::vector<ProcessRecord> records);
+    /// As ProcessFiller::giveBack().
+    void takeBack(std::map<int, Process> &&snapshot) { values = std::move(snapshot); }
 
 private:
     /// What is remembered of a process until the next snapshot.
     struct Entry
     {
         ProcessRecord record;
-        Process process;
         OnDemandPtr onDemand; ///< null if everything was read
     };
 
-    void update(Entry &entry, ProcessRecord &&record);
+    void makeValues(const Entry &before, const Entry &now, std::vector<ParamPtr> &params);
     static OnDemandPtr onDemandValues(const Entry &before, const ProcessRecord &now);
 
     std::array<bool, ColumnCount> eager;
-    std::vector<Entry> last; ///< ascending by pid
+    std::vector<Entry> last;       ///< ascending by pid
+    std::map<int, Process> values; ///< of the last snapshot; empty if it was not given back
     SharedParams shared;
 };
 

@@ -61,18 +61,19 @@ private Q_SLOTS:
     {
         auto &processes = *standin::machine().processes;
         processes = {{1, madeup::process(1, madeup::now - 100)}, {2, madeup::process(2, madeup::now)}};
-        for (int pid = 100; pid < 200; ++pid) {
+        for (int pid = 100; pid < 300; ++pid) {
             processes[pid] = madeup::process(1, madeup::now - 50);
         }
         reader.read(std::nullopt, ReadEverything);
         unread();
         unread();
-        for (int i = 0; i < 20; ++i) {
+        for (int i = 0; i < 80; ++i) {
             standin::resetCalls();
             QCOMPARE(unread().value(100 + i), unsigned(ReadUid | ReadMemory | ReadArguments));
-            // State and time of all; the parents of a tenth; three more reads of the young 2, and its start.
-            const unsigned due = standin::calls().processData - 102 * 2 - 4;
-            QVERIFY2(due == 10 || due == 11, qPrintable(QString::number(due)));
+            // State and time of all; the parents of a fortieth; three more reads of the young 2, and its
+            // start.
+            const unsigned due = standin::calls().processData - 202 * 2 - 4;
+            QVERIFY2(due == 5 || due == 6, qPrintable(QString::number(due)));
         }
     }
 
@@ -82,7 +83,7 @@ private Q_SLOTS:
             reader.read(std::nullopt, ReadState | ReadTime);
         }
         madeup::at(11).parent = 1; // while 10 goes on running
-        for (int i = 0; i < 10; ++i) {
+        for (int i = 0; i < 40; ++i) {
             unread();
         }
         QCOMPARE(reader.read(std::nullopt, ReadState | ReadTime).at(2).parent, 1);

@@ -42,6 +42,15 @@ Process made(const ProcessRecord &record)
     return cache.snapshot({record}).at(record.pid);
 }
 
+/// A snapshot that has been given back.
+std::map<int, Process> givenBack(SnapshotCache &cache, std::vector<ProcessRecord> records)
+{
+    std::map<int, Process> snapshot = cache.snapshot(std::move(records));
+    std::map<int, Process> copy = snapshot;
+    cache.takeBack(std::move(snapshot));
+    return copy;
+}
+
 } // namespace
 
 using Change = std::function<void(ProcessRecord &)>;
@@ -143,7 +152,7 @@ private Q_SLOTS:
         row("nice", [](ProcessRecord &r) { r.nice = 19; }, {NiceColumn});
         row("parent", [](ProcessRecord &r) { r.parent = 2; }, {ParentPidColumn});
         row("CPU time", [](ProcessRecord &r) { r.cpuTime = 101; }, {CpuTimeColumn});
-        row("start", [](ProcessRecord &r) { r.started = 1700000001; }, {StartedColumn});
+        row("start", [](ProcessRecord &r) { r.started = 1700000001; }, {CpuColumn, StartedColumn});
         row("processor", [](ProcessRecord &r) { r.processor = 1; }, {ProcessorColumn});
         row("arguments", [](ProcessRecord &r) { r.arguments = "x"; }, {CommandLineColumn});
         const auto reusePid = [](ProcessRecord &r) {
@@ -152,16 +161,15 @@ private Q_SLOTS:
             r.started += 5;
             r.arguments.clear();
         };
-        row("pid reused", reusePid, {NameColumn, CpuTimeColumn, StartedColumn, CommandLineColumn});
+        row("pid reused", reusePid, {NameColumn, CpuColumn, CpuTimeColumn, StartedColumn, CommandLineColumn});
     }
 
     void onlyChangedValuesAreNewObjects()
     {
         QFETCH(Change, change);
         QFETCH(QVector<int>, columns);
-        columns.append(CpuColumn); // the process model writes into it, so each snapshot has its own
         SnapshotCache cache;
-        const Process before = cache.snapshot({recordOf(42)}).at(42);
+        const Process before = givenBack(cache, {recordOf(42)}).at(42);
         ProcessRecord record = recordOf(42);
         change(record);
         const Process now = cache.snapshot({record}).at(42);
@@ -173,12 +181,24 @@ private Q_SLOTS:
         }
     }
 
+    void withoutTheLastSnapshotAllValuesAreNew()
+    {
+        SnapshotCache cache;
+        const Process before = cache.snapshot({recordOf(42)}).at(42);
+        ProcessRecord record = recordOf(42);
+        record.cpuTime = 200;
+        const Process now = cache.snapshot({record}).at(42);
+        QVERIFY(now.getParam(CpuColumn) != before.getParam(CpuColumn));
+        QCOMPARE(shown(now, CpuTimeColumn), QStringLiteral("0:00:02"));
+        QCOMPARE(shown(now, StartedColumn), shown(before, StartedColumn));
+    }
+
     void exitedProcessesAreForgotten()
     {
         SnapshotCache cache;
         std::vector<std::tr1::weak_ptr<IProcessParam>> values;
         {
-            const auto snapshot = cache.snapshot({recordOf(42), recordOf(43)});
+            const auto snapshot = givenBack(cache, {recordOf(42), recordOf(43)});
             for (const ParamPtr &param : snapshot.at(42).params) {
                 values.emplace_back(param);
             }
@@ -190,7 +210,7 @@ private Q_SLOTS:
         left.parent = 20;
         left.nice = 10;
         left.processor = 30;
-        QCOMPARE(cache.snapshot({left}).size(), std::size_t(1));
+        QCOMPARE(givenBack(cache, {left}).size(), std::size_t(1));
         for (const auto &value : values) {
             QVERIFY(value.expired());
         }
@@ -211,7 +231,7 @@ private Q_SLOTS:
         SnapshotCache cache;
         const auto pids = [&cache](std::vector<ProcessRecord> records) {
             QVector<int> keys;
-            for (const auto &entry : cache.snapshot(std::move(records))) {
+            for (const auto &entry : givenBack(cache, std::move(records))) {
                 keys.append(entry.first == entry.second.pid() ? entry.first : -1);
             }
             return keys;
@@ -290,10 +310,10 @@ private Q_SLOTS:
     void columnsThatBecomeOnDemandOrEager()
     {
         SnapshotCache cache;
-        const Process first = cache.snapshot({recordOf(42)}).at(42);
+        const Process first = givenBack(cache, {recordOf(42)}).at(42);
         ProcessRecord partly = recordOf(42);
         partly.unread = ReadMemory;
-        const Process onDemand = cache.snapshot({partly}).at(42);
+        const Process onDemand = givenBack(cache, {partly}).at(42);
         QVERIFY(onDemand.getParam(MemoryColumn) != first.getParam(MemoryColumn));
         QCOMPARE(onDemand.getParam(CommandLineColumn), first.getParam(CommandLineColumn));
         const Process again = cache.snapshot({recordOf(42)}).at(42);
