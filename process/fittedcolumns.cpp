@@ -16,14 +16,14 @@ FittedColumns::FittedColumns(QTreeView *view) : QObject(view), list(view)
     list->header()->viewport()->installEventFilter(this);
 }
 
-void FittedColumns::fit(const std::function<int(int)> &contents)
+void FittedColumns::fit(const std::function<int(int, int)> &contents)
 {
     QHeaderView *header = list->header();
     const int widest = list->fontMetrics().averageCharWidth() * widestColumn;
     header->setStretchLastSection(false); // it is stretched from the width that it has at the end
     widths.clear();
     for (int column = 0; column < header->count(); ++column) {
-        widths.push_back(qMin(qMax(contents(column), header->sectionSizeHint(column)), widest));
+        widths.push_back(qMin(qMax(contents(column, widest), header->sectionSizeHint(column)), widest));
         header->resizeSection(column, widths.back());
     }
     header->setStretchLastSection(true);

@@ -20,8 +20,8 @@ public:
     explicit FittedColumns(QTreeView *view);
 
     /// Makes no column wider than some characters, however long its texts. `contents` gives the width that
-    /// the cells of a column need.
-    void fit(const std::function<int(int column)> &contents);
+    /// the cells of a column need; all from `widest` on are the same.
+    void fit(const std::function<int(int column, int widest)> &contents);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

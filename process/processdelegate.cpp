@@ -5,8 +5,12 @@
 #include "process/proxyprocmodel.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHelpEvent>
+#include <QSet>
 #include <QToolTip>
+
+#include <algorithm>
 
 namespace {
 
@@ -37,22 +41,89 @@ QString toolTipOf(QString text)
     return QStringLiteral("<qt>") + text.toHtmlEscaped() + QStringLiteral("</qt>");
 }
 
+/// Those of the language, and 0 to 9, which most columns show in any language.
+bool areDigitsEquallyWide(const QStyleOptionViewItem &option)
+{
+    const QFontMetricsF metrics(option.font);
+    for (const QChar zero : QSet<QChar>{QLatin1Char('0'), option.locale.zeroDigit()}) {
+        const qreal width = metrics.horizontalAdvance(zero);
+        for (ushort digit = 1; digit < 10; ++digit) {
+            if (metrics.horizontalAdvance(QChar(zero.unicode() + digit)) != width) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+/// The same for all numbers that differ only in their digits.
+QString shapeOf(QString number)
+{
+    for (QChar &character : number) {
+        character = character.isDigit() ? QLatin1Char('0') : character;
+    }
+    return number;
+}
+
 } // namespace
 
-void ProcessDelegate::endColumn()
+/// Whether the cell's number lies between two that were measured. Otherwise it is such a one from now on.
+bool ProcessDelegate::Fit::isBetween(const QModelIndex &index)
 {
-    isFitting = false;
-    sizes.clear();
+    bool isNumber = false;
+    const double number = index.data(Qt::UserRole).toDouble(&isNumber);
+    if (!isNumber || (number >= least && number <= greatest)) {
+        return isNumber;
+    }
+    least = std::min(least, number);
+    greatest = std::max(greatest, number);
+    return false;
 }
 
 QSize ProcessDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    if (!isFitting) {
-        return QStyledItemDelegate::sizeHint(option, index);
+    return fit ? sizeToFit(option, index) : QStyledItemDelegate::sizeHint(option, index);
+}
+
+/// As QStyledItemDelegate does it, but without laying out all of a text whose beginning is wide enough. A
+/// command line can have thousands of characters.
+QSize ProcessDelegate::measured(const QStyleOptionViewItem &option, const QModelIndex &index,
+                                int enough) const
+{
+    constexpr int longestBeginning = 160;
+    QStyleOptionViewItem cell(option);
+    initStyleOption(&cell, index);
+    const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
+    const auto size = [&] {
+        return style->sizeFromContents(QStyle::CT_ItemViewItem, &cell, {}, cell.widget);
+    };
+    const QString text = cell.text;
+    cell.text = text.left(longestBeginning);
+    const QSize ofTheBeginning = size();
+    if (text.size() <= longestBeginning || ofTheBeginning.width() >= enough) {
+        return ofTheBeginning;
     }
-    QSize &size = sizes[displayText(index.data(), option.locale)];
+    cell.text = text;
+    return size();
+}
+
+QSize ProcessDelegate::sizeToFit(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    Column &column = fit->column;
+    if (fit->isWidest) {
+        return QSize(column.widest, 0);
+    }
+    if (column.isNumeric && fit->sizes.isEmpty() && !areDigitsEquallyWide(option)) {
+        column.isNumeric = column.isOrdered = false;
+    }
+    if (column.isOrdered && fit->isBetween(index)) {
+        return QSize(0, 0); // which one of those two exceeds
+    }
+    const QString text = index.data().toString();
+    QSize &size = fit->sizes[column.isNumeric ? shapeOf(text) : text];
     if (!size.isValid()) {
-        size = QStyledItemDelegate::sizeHint(option, index);
+        size = measured(option, index, column.widest);
+        fit->isWidest = size.width() >= column.widest;
     }
     return size;
 }

@@ -8,6 +8,9 @@
 #include <QPointer>
 #include <QStyledItemDelegate>
 
+#include <limits>
+#include <optional>
+
 class PaintedRows;
 
 /// Measures, aligns and draws the cells of the process list.
@@ -18,10 +21,19 @@ class ProcessDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// Between these, equal texts are measured only once: most of the time that a long list takes to appear
-    /// goes into this. All cells are then in one column and one font, and have nothing but text.
-    void beginColumn() { isFitting = true; }
-    void endColumn();
+    /// What is known of a column before its cells are measured.
+    struct Column
+    {
+        int widest = std::numeric_limits<int>::max(); ///< what is wider counts as this wide
+        bool isNumeric = false;
+        /// A number between two others, by what they are sorted by, never has more digits than both.
+        bool isOrdered = false;
+    };
+    /// Between these, size hints are only good for the width of the column. Cells that cannot change it are
+    /// neither measured nor, where that is known before, read: most of the time that a long list takes to
+    /// appear goes into this. All cells are then in one column and one font, and have nothing but text.
+    void beginColumn(const Column &column) { fit = Fit(column); }
+    void endColumn() { fit.reset(); }
     /// To be told what is painted; not owned, may be null.
     void setPaintedRows(PaintedRows *rows);
     /// What a cell of the process list shows.
@@ -44,8 +56,22 @@ protected:
 private:
     QString textOf(const QVariant &value, Qt::Alignment alignment, const QLocale &locale) const;
 
-    bool isFitting = false;
-    mutable QHash<QString, QSize> sizes; ///< by text
+    /// What was measured of a column.
+    struct Fit
+    {
+        explicit Fit(const Column &known) : column(known) {}
+        bool isBetween(const QModelIndex &index);
+
+        Column column;
+        QHash<QString, QSize> sizes; ///< by text; of numbers, by their shape
+        double least = std::numeric_limits<double>::infinity();
+        double greatest = -std::numeric_limits<double>::infinity();
+        bool isWidest = false; ///< one of them is as wide as the column gets
+    };
+    QSize measured(const QStyleOptionViewItem &option, const QModelIndex &index, int enough) const;
+    QSize sizeToFit(const QStyleOptionViewItem &option, const QModelIndex &index) const;
+
+    mutable std::optional<Fit> fit;
     mutable CellTexts texts;
     QPointer<PaintedRows> painted;
 };

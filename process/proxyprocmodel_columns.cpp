@@ -21,6 +21,19 @@ int rowsToFit(int processColumn)
     return isExpensive ? expensiveRows : rows;
 }
 
+bool isNumeric(int processColumn)
+{
+    return ProcessFiller::instance()->isNumeric(static_cast<unsigned long>(processColumn));
+}
+
+/// See ProcessDelegate::Column. Amounts of memory are not: 1023.99 KB lies between 1.00 KB and 1.00 MB.
+bool isOrdered(int processColumn)
+{
+    using namespace gtop_wrappers;
+    return isNumeric(processColumn) && processColumn != MemoryColumn &&
+           processColumn != VirtualMemoryColumn && processColumn != SharedMemoryColumn;
+}
+
 } // namespace
 
 Qt::Alignment ProxyProcModel::alignment(int column) const
@@ -54,9 +67,12 @@ QVariant ProxyProcModel::headerData(int section, Qt::Orientation orientation, in
 void ProxyProcModel::fitColumns()
 {
     const QAbstractItemView *measuring = view; // where sizeHintForColumn() is public
-    fittedColumns->fit([&](int column) {
-        view->header()->setResizeContentsPrecision(rowsToFit(source->processColumn(column)));
-        delegate->beginColumn();
+    fittedColumns->fit([&](int column, int widest) {
+        const int processColumn = source->processColumn(column);
+        view->header()->setResizeContentsPrecision(rowsToFit(processColumn));
+        // The cells of the first one are indented differently.
+        const bool isIndented = !isFlat() && column == view->header()->logicalIndex(0);
+        delegate->beginColumn({widest, isNumeric(processColumn), isOrdered(processColumn) && !isIndented});
         const int width = measuring->sizeHintForColumn(column);
         delegate->endColumn();
         return width;

@@ -6,9 +6,11 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <optional>
+
 namespace {
 
-/// Counts how often one of its texts is measured: each time, the font is asked for.
+/// Counts how often one of its texts is measured: each time, the font is asked for. Sorted by their numbers.
 class MeasuredTexts : public QStringListModel
 {
 public:
@@ -17,11 +19,55 @@ public:
     QVariant data(const QModelIndex &index, int role) const override
     {
         count += role == Qt::FontRole ? 1 : 0;
-        return QStringListModel::data(index, role);
+        if (role == Qt::DisplayRole) {
+            read.insert(index.row());
+        }
+        return QStringListModel::data(index, role == Qt::UserRole ? Qt::DisplayRole : role);
     }
 
     mutable int count = 0;
+    mutable QSet<int> read; ///< rows
 };
+
+/// Notes how much text it is to measure.
+class NotingStyle : public QProxyStyle
+{
+public:
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override
+    {
+        if (const auto *cell = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {
+            lengths.append(cell->text.size());
+        }
+        return QProxyStyle::sizeFromContents(type, option, size, widget);
+    }
+
+    mutable QList<int> lengths;
+};
+
+int widestOf(const QVector<QSize> &sizes)
+{
+    int widest = 0;
+    for (const QSize &size : sizes) {
+        widest = qMax(widest, size.width());
+    }
+    return widest;
+}
+
+/// One in which digits differ in width, if there is any.
+std::optional<QFont> fontWithProportionalDigits()
+{
+    const QFontDatabase fonts;
+    for (const QString &family : fonts.families()) {
+        const QFont font(family, 12);
+        const QFontMetrics metrics(font);
+        const auto widthOf = [&](char digit) { return metrics.horizontalAdvance(QLatin1Char(digit)); };
+        if (widthOf('0') != widthOf('1') || widthOf('0') != widthOf('7')) {
+            return font;
+        }
+    }
+    return std::nullopt;
+}
 
 } // namespace
 
@@ -34,7 +80,7 @@ private Q_SLOTS:
     {
         const MeasuredTexts texts({"one", "a longer one", "one", "one", "a longer one", ""});
         ProcessDelegate delegate;
-        delegate.beginColumn();
+        delegate.beginColumn({});
         const QVector<QSize> fitted = sizesOf(texts, delegate);
         QCOMPARE(texts.count, 3);
         delegate.endColumn();
@@ -46,11 +92,11 @@ private Q_SLOTS:
     {
         const MeasuredTexts texts({"one", "one"});
         ProcessDelegate delegate;
-        delegate.beginColumn();
+        delegate.beginColumn({});
         const QVector<QSize> before = sizesOf(texts, delegate);
         delegate.endColumn();
         option.font.setPointSize(option.font.pointSize() * 3);
-        delegate.beginColumn();
+        delegate.beginColumn({});
         const QVector<QSize> after = sizesOf(texts, delegate);
         QCOMPARE(texts.count, 2);
         QVERIFY(after.at(0).width() > before.at(0).width());
@@ -63,51 +109,88 @@ private Q_SLOTS:
         ProcessDelegate delegate;
         sizesOf(texts, delegate);
         QCOMPARE(texts.count, 2);
-        delegate.beginColumn();
+        delegate.beginColumn({});
         delegate.endColumn();
         sizesOf(texts, delegate);
         QCOMPARE(texts.count, 4);
     }
 
-    void theListsColumnsFitTheirContents()
+    void cellsAreNotReadOnceOneIsAsWideAsTheColumnGets()
     {
-        List list;
-        FactsByPid facts = factsUpTo(200);
-        facts.at(150).name = QStringLiteral("longer than all the others");
-        list.proxy->refresh(makeSnapshot(facts));
-        ProcessDelegate plain; // that measures every cell
-        list.view.setItemDelegate(&plain);
-        for (int column = 0; column < list.proxy->columnCount() - 1; ++column) {
-            const int fitted = list.view.columnWidth(column);
-            list.view.resizeColumnToContents(column);
-            QCOMPARE(fitted, list.view.columnWidth(column));
-        }
+        const MeasuredTexts texts({"one", "one that is wide", "another", "and one that is even wider"});
+        const int widest = widestOf(sizesOf(MeasuredTexts({"one that is"}), QStyledItemDelegate()));
+        ProcessDelegate delegate;
+        delegate.beginColumn({widest});
+        const QVector<QSize> fitted = sizesOf(texts, delegate);
+        QCOMPARE(texts.read, (QSet<int>{0, 1}));
+        QVERIFY(fitted.at(0).width() < widest);
+        QVERIFY(fitted.at(1).width() > widest);
+        QCOMPARE(fitted.at(3).width(), widest);
     }
 
-    void noColumnIsFittedWiderThanFortyCharacters()
+    void numbersAreMeasuredOnlyIfTheyCanBeTheWidest_data()
     {
-        List list;
-        FactsByPid facts = factsUpTo(2);
-        facts.at(1).name = QString(200, QLatin1Char('x'));
-        list.proxy->refresh(makeSnapshot(facts));
-        QCOMPARE(list.view.columnWidth(0), list.view.fontMetrics().averageCharWidth() * 40);
+        const Rows<QStringList, bool, QSet<int>, int> row("numbers", "isOrdered", "read", "measured");
+        const QStringList sizes = {"1.00 KB", "2.50 KB", "1023.99 KB", "3.00 MB", "1000.00 KB", ""};
+        row("amounts of memory", sizes, false, {0, 1, 2, 3, 4, 5}, 4);
+        row("whole numbers", {"5", "70", "6", "1000", "70", "300", "3", "-2", "4"}, true, {0, 1, 3, 6, 7}, 4);
+        row("no number among them", {"5", "unknown", "5", "unknown"}, true, {0, 1, 3}, 2);
+        row("infinite and undefined ones", {"-inf", "0.1", "inf", "9.9", "nan"}, true, {0, 1, 2, 4}, 4);
+        row("the same one each time", {"7", "7", "7"}, true, {0}, 1);
     }
 
-    void theLastColumnTakesWhatIsLeft()
+    void numbersAreMeasuredOnlyIfTheyCanBeTheWidest()
     {
-        List list;
-        list.view.resize(3000, 200);
-        list.view.show();
-        const int last = list.proxy->columnCount() - 1;
-        for (int fit = 0; fit < 2; ++fit) {
-            list.proxy->setFlat(fit > 0); // fits again
-            list.proxy->refresh(makeSnapshot(factsUpTo(2)));
-            const int end = list.view.columnViewportPosition(last) + list.view.columnWidth(last);
-            QCOMPARE(end, list.view.viewport()->width());
+        QFETCH(QStringList, numbers);
+        QFETCH(bool, isOrdered);
+        const MeasuredTexts texts(numbers);
+        ProcessDelegate delegate;
+        delegate.beginColumn({10000, true, isOrdered});
+        const int widest = widestOf(sizesOf(texts, delegate));
+        QTEST(texts.read, "read");
+        QTEST(texts.count, "measured");
+        QCOMPARE(widest, widestOf(sizesOf(texts, QStyledItemDelegate())));
+    }
+
+    void eachNumberIsMeasuredInAFontWithProportionalDigits()
+    {
+        const std::optional<QFont> font = fontWithProportionalDigits();
+        if (!font) {
+            QSKIP("all fonts have digits of one width");
         }
-        list.view.resize(200, 200); // in which the last one is out of view
-        list.proxy->refresh(makeSnapshot(factsUpTo(2)));
-        QCOMPARE(list.view.columnWidth(last), list.view.header()->sectionSizeHint(last));
+        option.font = *font;
+        const MeasuredTexts texts({"000", "111", "777", "222"});
+        ProcessDelegate delegate;
+        delegate.beginColumn({10000, true, true});
+        QCOMPARE(sizesOf(texts, delegate), sizesOf(texts, QStyledItemDelegate()));
+        option.font = QFont();
+    }
+
+    void ofALongTextTheBeginningIsMeasuredIfItIsWideEnough_data()
+    {
+        const QString wide(3000, QLatin1Char('x'));
+        const Rows<QString, QList<int>> row("text", "measured");
+        row("wide", wide, {160});
+        row("wide at its end", QString(500, QChar(0x200b)) + wide, {160, 3500}); // after what has no width
+        row("short", QString(160, QChar(0x200b)), {160});
+    }
+
+    void ofALongTextTheBeginningIsMeasuredIfItIsWideEnough()
+    {
+        QFETCH(QString, text);
+        NotingStyle style;
+        QWidget widget;
+        widget.setStyle(&style);
+        option.widget = &widget;
+        const MeasuredTexts texts({text});
+        const int all = widestOf(sizesOf(texts, QStyledItemDelegate()));
+        style.lengths.clear();
+        const int widest = 300;
+        ProcessDelegate delegate;
+        delegate.beginColumn({widest});
+        QCOMPARE(qMin(widestOf(sizesOf(texts, delegate)), widest), qMin(all, widest));
+        QTEST(style.lengths, "measured");
+        option.widget = nullptr;
     }
 
     void numbersStandRightAndTextsLeft_data()
