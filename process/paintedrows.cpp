@@ -78,6 +78,7 @@ PaintedRows::PaintedRows(const ProxyProcModel *model, QTreeView *view, TextOf te
 void PaintedRows::repaintChanges(const std::function<void()> &change)
 {
     const Numbers before = frameLook();
+    const std::array<Numbers, 2> rangesBefore = ranges();
     Numbers after;
     {
         const DroppedUpdates dropped(partsOf(list));
@@ -89,7 +90,20 @@ void PaintedRows::repaintChanges(const std::function<void()> &change)
             part->update();
         }
     } else if (list->viewport()->isVisible()) {
+        updateBars(rangesBefore);
         list->viewport()->update(changedRegion());
+    }
+}
+
+/// A row more or less changes the bar beside the list, and mostly no row in view.
+void PaintedRows::updateBars(const std::array<Numbers, 2> &rangesBefore)
+{
+    const std::array<Numbers, 2> rangesNow = ranges();
+    if (rangesNow[0] != rangesBefore[0]) {
+        list->horizontalScrollBar()->update();
+    }
+    if (rangesNow[1] != rangesBefore[1]) {
+        list->verticalScrollBar()->update();
     }
 }
 
@@ -197,10 +211,19 @@ PaintedRows::Numbers PaintedRows::frameLook() const
     for (const QWidget *part : partsOf(list)) {
         look.insert(look.end(), {part->isVisible(), part->x(), part->y(), part->width(), part->height()});
         if (const auto *bar = qobject_cast<const QScrollBar *>(part)) {
-            look.insert(look.end(), {bar->minimum(), bar->maximum(), bar->value(), bar->pageStep()});
+            look.push_back(bar->value());
         }
     }
     return look;
+}
+
+/// Of the horizontal and of the vertical scroll bar.
+std::array<PaintedRows::Numbers, 2> PaintedRows::ranges() const
+{
+    const auto rangeOf = [](const QScrollBar *bar) {
+        return Numbers{bar->minimum(), bar->maximum(), bar->pageStep()};
+    };
+    return {rangeOf(list->horizontalScrollBar()), rangeOf(list->verticalScrollBar())};
 }
 
 PaintedRows::Numbers PaintedRows::rowLook(const QModelIndex &cell, int height) const

@@ -8,6 +8,18 @@
 #include "process/processdelegate.h"
 #include "process/treeexpansion.h"
 
+namespace {
+
+/// What views give to their delegates.
+QLocale localeOfCells(const QTreeView &view)
+{
+    QLocale locale = view.locale();
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale;
+}
+
+} // namespace
+
 ProxyProcModel::ProxyProcModel(QObject *parent)
     : QSortFilterProxyModel(parent), source(new ProcModel(parent)), delegate(new ProcessDelegate(this)),
       deepRows(nullptr), fittedColumns(nullptr), paintedRows(nullptr), expandAndFit(true),
@@ -36,8 +48,9 @@ void ProxyProcModel::setView(QTreeView *treeView)
         deepRows = new DeepRows(this, view);
         fittedColumns = new FittedColumns(view);
         expansion->follow(view);
-        paintedRows = new PaintedRows(
-            this, view, [this](const QModelIndex &cell) { return delegate->textOf(cell, view->locale()); });
+        paintedRows = new PaintedRows(this, view, [this](const QModelIndex &cell) {
+            return delegate->textOf(cell, localeOfCells(*view));
+        });
         delegate->setPaintedRows(paintedRows);
     }
 }

@@ -203,6 +203,37 @@ private Q_SLOTS:
         QVERIFY(events.regions.isEmpty());
     }
 
+    void largeNumbersAreNotPaintedAgainEither()
+    {
+        List list;
+        list.view.setLocale(QLocale(QLocale::German)); // which groups digits elsewhere
+        list.view.show();
+        const auto refresh = [&list] { list.proxy->refresh(makeSnapshot({{1, 0}, {12345, 0}})); };
+        refresh();
+        refresh(); // the first CPU loads differ
+        PaintEvents events(&list.view);
+        refresh();
+        QCoreApplication::processEvents();
+        QVERIFY(events.regions.isEmpty());
+    }
+
+    void aRowOutOfViewChangesOnlyTheScrollBar()
+    {
+        List list;
+        FactsByPid facts = factsUpTo(100);
+        list.view.show();
+        list.view.sortByColumn(gtop_wrappers::PidColumn, Qt::AscendingOrder);
+        list.proxy->refresh(makeSnapshot(facts));
+        list.proxy->refresh(makeSnapshot(facts)); // the first CPU loads differ
+        PaintEvents events(&list.view);
+        facts.erase(100);
+        list.proxy->refresh(makeSnapshot(facts));
+        QCoreApplication::processEvents();
+        QVERIFY(events.regions.contains(list.view.verticalScrollBar()));
+        QVERIFY(!events.regions.contains(list.view.viewport()));
+        QVERIFY(!events.regions.contains(list.view.header()->viewport()));
+    }
+
     void whatWasNotPaintedOnTheScreenDoesNotCount_data()
     {
         addTextRows("painted", {"a picture of the list", "a picture of the viewport", "a part of the cell"});
