@@ -115,8 +115,10 @@ private:
     {
         const QJsonObject box = session->dialog();
         const auto id = static_cast<unsigned long>(box.value("id").toDouble());
-        const QRect window = rectOf(session->mainWindow().value("frame"));
-        const QPoint offset = rectOf(box.value("frame")).center() - window.center();
+        // Not by the frames: if the toolkit asks for the one of the box before the window manager has given
+        // it a size, it keeps what it got then.
+        const QRect window = rectOf(session->mainWindow().value("rect"));
+        const QPoint offset = rectOf(box.value("rect")).center() - window.center();
         const int nearby = 60;
         return session->x().transientFor(id) == session->windowId() && offset.manhattanLength() <= nearby;
     }
