@@ -26,14 +26,15 @@ bool DescriptorReserve::renew()
 {
     // Closed first: the limit may have been lowered below the descriptors that are held.
     release();
-    while (held.size() < reserveSize) {
-        const int descriptor = open("/dev/null", O_RDONLY | O_CLOEXEC);
-        if (descriptor < 0) {
-            return false;
-        }
+    int descriptor = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    while (descriptor >= 0) {
         held.push_back(descriptor);
+        if (held.size() == reserveSize) {
+            return true;
+        }
+        descriptor = fcntl(descriptor, F_DUPFD_CLOEXEC, 0); // cheaper than open()
     }
-    return true;
+    return false;
 }
 
 void DescriptorReserve::release()

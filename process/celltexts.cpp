@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "process/celltexts.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
@@ -73,8 +74,32 @@ QTextLine layOut(QTextLayout *layout, const QString &text, int width)
 
 bool CellTexts::canDraw(const QStyleOptionViewItem &option)
 {
-    const bool isPlain = option.widget && option.showDecorationSelected &&
-                         !(option.features & ~QStyleOptionViewItem::HasDisplay) &&
+    return option.showDecorationSelected && isText(option) && isOrdinaryStyle;
+}
+
+QSize CellTexts::size(const QStyleOptionViewItem &option)
+{
+    const auto measured = [&option] {
+        const QStyle *by = option.widget ? option.widget->style() : QApplication::style();
+        return by->sizeFromContents(QStyle::CT_ItemViewItem, &option, {}, option.widget);
+    };
+    if (option.text.isEmpty() || !isText(option) || !isOrdinaryStyle) {
+        return measured();
+    }
+    if (sizes.size() > mostTexts) {
+        sizes.clear();
+    }
+    QSize &size = sizes[option.text];
+    if (!size.isValid()) {
+        size = measured();
+    }
+    return size;
+}
+
+/// Whether the cell holds nothing but text. A style or font that is new makes all that is kept useless.
+bool CellTexts::isText(const QStyleOptionViewItem &option)
+{
+    const bool isPlain = option.widget && !(option.features & ~QStyleOptionViewItem::HasDisplay) &&
                          !(option.state & QStyle::State_Editing) &&
                          !option.text.contains(QChar::LineSeparator);
     if (!isPlain) {
@@ -84,19 +109,21 @@ bool CellTexts::canDraw(const QStyleOptionViewItem &option)
         elideMode != option.textElideMode) {
         meet(option);
     }
-    return isOrdinaryStyle;
+    return true;
 }
 
 void CellTexts::meet(const QStyleOptionViewItem &option)
 {
     drawn.clear();
     drawnBefore.clear();
+    sizes.clear();
     style = option.widget->style();
     font = option.font;
     direction = option.direction;
     elideMode = option.textElideMode;
     QStyleOptionViewItem sample(option);
     sample.rect = QRect(0, 0, option.fontMetrics.height() * 4, option.fontMetrics.height() * 2);
+    sample.showDecorationSelected = true;
     sample.text = QStringLiteral("Sample text, elided");
     sample.palette = samplePalette();
     isOrdinaryStyle = true;

@@ -12,8 +12,8 @@
 
 class QPainter;
 
-/// Draws cells that hold nothing but text, as QCommonStyle does, and keeps the texts laid out: few of those
-/// in view change from one refresh to the next.
+/// Draws cells that hold nothing but text, as QCommonStyle does, and keeps the texts laid out and measured:
+/// few of those in view change from one refresh to the next.
 class CellTexts
 {
 public:
@@ -21,6 +21,8 @@ public:
     bool canDraw(const QStyleOptionViewItem &option);
     /// `option` has a text and nothing else to show.
     void draw(QPainter *painter, const QStyleOptionViewItem &option);
+    /// The style's size hint.
+    QSize size(const QStyleOptionViewItem &option);
     /// Drops what was not drawn since the last call.
     void startRefresh();
 
@@ -47,12 +49,14 @@ private:
     };
     using Texts = QHash<Key, std::shared_ptr<Text>>;
 
+    bool isText(const QStyleOptionViewItem &option);
     void meet(const QStyleOptionViewItem &option);
     const Text &laidOut(const QStyleOptionViewItem &option, int width);
 
     Texts drawn; ///< since startRefresh()
     Texts drawnBefore;
-    // What the texts are laid out for.
+    QHash<QString, QSize> sizes; ///< by text
+    // What the texts are laid out and measured for.
     QPointer<QStyle> style;
     QFont font;
     Qt::LayoutDirection direction = Qt::LeftToRight;

@@ -82,7 +82,12 @@ bool ProcessDelegate::Fit::isBetween(const QModelIndex &index)
 
 QSize ProcessDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    return fit ? sizeToFit(option, index) : QStyledItemDelegate::sizeHint(option, index);
+    if (fit) {
+        return sizeToFit(option, index);
+    }
+    QStyleOptionViewItem cell(option);
+    initStyleOption(&cell, index);
+    return texts.size(cell);
 }
 
 /// As QStyledItemDelegate does it, but without laying out all of a text whose beginning is wide enough. A

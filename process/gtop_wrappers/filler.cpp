@@ -59,7 +59,7 @@ std::map<int, Process> ProcessFiller::getProcesses(ProcessTypes types)
 {
     // Any value but MyProcesses lists all processes.
     const auto user = types == MyProcesses ? std::optional<uid_t>(getuid()) : std::nullopt;
-    return cache->snapshot(reader->read(user, cache->eagerReads()));
+    return cache->snapshot(reader->read(user, cache->eagerReads(), cache->askedForMemory()));
 }
 
 void ProcessFiller::giveBack(std::map<int, Process> &&lastSnapshot)

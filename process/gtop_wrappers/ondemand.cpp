@@ -6,17 +6,25 @@
 
 namespace gtop_wrappers {
 
-OnDemandValues::OnDemandValues(const ProcessRecord &record) : values(record), tried(0), valid(0)
+OnDemandValues::OnDemandValues(const ProcessRecord &record) : values(record)
 {}
 
 void OnDemandValues::startSnapshot(const ProcessRecord &now)
 {
     values.name = now.name; // stands in for an empty command line
-    tried = 0;
+    asked = 0;
+    tried = now.ahead & ReadMemory;
+    if (tried != 0) {
+        values.resident = now.resident;
+        values.virtualSize = now.virtualSize;
+        values.shared = now.shared;
+        valid |= ReadMemory;
+    }
 }
 
 const ProcessRecord *OnDemandValues::record(Reads read)
 {
+    asked |= read;
     if ((tried & read) == 0) {
         tried |= read;
         if (readMissing(read, values)) {

@@ -18,18 +18,22 @@ public:
     /// record: the process as the snapshot read it.
     explicit OnDemandValues(const ProcessRecord &record);
 
-    /// A new snapshot has the same process: values are read again when they are next asked for.
+    /// A new snapshot has the same process: values are read again when they are next asked for, but for those
+    /// that were read ahead.
     void startSnapshot(const ProcessRecord &now);
     /// A record in which the fields of `read`, a single one of Reads, are valid. If the process has exited,
     /// they hold what was last read on demand; null if they were never read.
     const ProcessRecord *record(Reads read);
     /// Whether record() would answer without reading.
     bool isRead(Reads read) const { return (tried & read) != 0; }
+    /// Whether record() was called for it since the last snapshot.
+    bool isAsked(Reads read) const { return (asked & read) != 0; }
 
 private:
     ProcessRecord values;
-    unsigned tried; ///< Reads, or-ed, that were made or failed since the last snapshot
-    unsigned valid; ///< Reads, or-ed, that succeeded at some time
+    unsigned asked = 0; ///< Reads, or-ed, that cells asked for since the last snapshot
+    unsigned tried = 0; ///< Reads, or-ed, that were made or failed since the last snapshot
+    unsigned valid = 0; ///< Reads, or-ed, that succeeded at some time
 };
 
 using OnDemandPtr = std::tr1::shared_ptr<OnDemandValues>;

@@ -4,6 +4,7 @@
 #include <glibtop/procstate.h>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace gtop_wrappers {
@@ -17,6 +18,16 @@ const Element *findByPid(const std::vector<Element> &list, int pid)
     const auto found = std::lower_bound(list.begin(), list.end(), pid,
                                         [](const Element &element, int key) { return element.pid < key; });
     return found != list.end() && found->pid == pid ? &*found : nullptr;
+}
+
+/// Start of the record's parent, 0 if it has none; nothing if the parent is not listed.
+std::optional<quint64> parentStart(const ProcessRecord &record, const std::vector<ProcessRecord> &records)
+{
+    if (record.parent == 0) {
+        return 0;
+    }
+    const ProcessRecord *parent = findByPid(records, record.parent);
+    return parent ? std::optional<quint64>(parent->started) : std::nullopt;
 }
 
 /// A process that may no longer have its children though it is still in the list: it is dead, or hangs in its
@@ -33,9 +44,9 @@ void Parents::learn(const std::vector<ProcessRecord> &records, quint64 started)
 {
     last.clear();
     for (const ProcessRecord &record : records) {
-        const ProcessRecord *parent = findByPid(records, record.parent);
-        if (parent && record.started < started && parent->started < started) {
-            last.push_back({record.pid, record.started, record.parent, parent->started});
+        const std::optional<quint64> parent = parentStart(record, records);
+        if (parent && record.started < started && *parent < started) {
+            last.push_back({record.pid, record.started, record.parent, *parent});
         }
     }
 }
@@ -59,9 +70,9 @@ void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clo
             continue;
         }
         // What came with the record may be of another process that had the pid when it was read.
-        const ProcessRecord *parent = wasRead ? nullptr : findByPid(records, record.parent);
-        if (parent && clock.secondIsOver(record.started, now) && clock.secondIsOver(parent->started, now)) {
-            known.push_back({record.pid, record.started, record.parent, parent->started});
+        const std::optional<quint64> parent = wasRead ? std::nullopt : parentStart(record, records);
+        if (parent && clock.secondIsOver(record.started, now) && clock.secondIsOver(*parent, now)) {
+            known.push_back({record.pid, record.started, record.parent, *parent});
         }
     }
     last = std::move(known);
@@ -89,7 +100,8 @@ bool Parents::keepParent(ProcessRecord &record, const std::vector<ProcessRecord>
         return false;
     }
     const ProcessRecord *parent = findByPid(records, known->parent);
-    if (!parent || parent->started != known->parentStarted || canHaveExited(*parent)) {
+    const bool isStillThere = parent && parent->started == known->parentStarted && !canHaveExited(*parent);
+    if (known->parent != 0 && !isStillThere) {
         return false;
     }
     record.parent = known->parent;

@@ -15,8 +15,8 @@ namespace gtop_wrappers {
 /// exits, so a parent is kept for as long as both are seen running, but for no more than forty snapshots:
 /// some changes cannot be seen, as when the thread that forked the child ends in a process whose leader hangs
 /// in its exit. Mostly the state of such a leader is uninterruptible, and then parents are read again too. A
-/// parent that is not in the list (0, or a process of another user) can exit unseen and is read again each
-/// time.
+/// parent that is not in the list (a process of another user) can exit unseen and is read again each time. A
+/// process without a parent in its pid namespace (0) never gets one.
 class Parents
 {
 public:
@@ -40,7 +40,7 @@ private:
         int pid;
         quint64 started;
         int parent;
-        quint64 parentStarted;
+        quint64 parentStarted; ///< 0 without a parent
     };
 
     static bool isDueForReading(int pid, unsigned snapshot);

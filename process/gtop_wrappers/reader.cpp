@@ -3,15 +3,20 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace gtop_wrappers {
 
-std::vector<ProcessRecord> ProcessReader::read(std::optional<uid_t> user, unsigned reads)
+std::vector<ProcessRecord> ProcessReader::read(std::optional<uid_t> user, unsigned reads,
+                                               const std::vector<int> &memoryOf)
 {
-    const auto dueReads = [this](int pid) { return parents.dueReads(pid); };
+    const auto readsAhead = [&](int pid) {
+        const bool isWanted = std::binary_search(memoryOf.begin(), memoryOf.end(), pid);
+        return parents.dueReads(pid) | (isWanted ? unsigned(ReadMemory) : 0U);
+    };
     std::vector<ProcessRecord> records =
-        std::exchange(isFirst, false) ? readFirst(user, reads) : readProcesses(user, reads, dueReads);
+        std::exchange(isFirst, false) ? readFirst(user, reads) : readProcesses(user, reads, readsAhead);
     const StartClock::Time now = std::chrono::steady_clock::now();
     for (const ProcessRecord &record : records) {
         clock.see(record.started, now);

@@ -18,8 +18,9 @@ public:
     /// The processes, ascending by pid, with these reads (Reads, or-ed; ReadState and ReadTime at least) and
     /// their parent. The rest is left unread, except of processes that are too young to be identified by
     /// their start (see StartClock): reading those later could return values of another process. user: as for
-    /// readProcesses().
-    std::vector<ProcessRecord> read(std::optional<uid_t> user, unsigned reads);
+    /// readProcesses(). memoryOf: processes, ascending, whose memory is read ahead.
+    std::vector<ProcessRecord> read(std::optional<uid_t> user, unsigned reads,
+                                    const std::vector<int> &memoryOf = {});
 
 private:
     std::vector<ProcessRecord> readFirst(std::optional<uid_t> user, unsigned reads);

@@ -104,16 +104,24 @@ void fillFrom(unsigned reads, const RawProcess &raw, ProcessRecord &record)
     }
 }
 
-/// Makes further reads of the same process; false if it has exited. Its start is read last: if it is
-/// unchanged by then, everything before was read from the same process.
+/// Makes further reads of the same process; false if it has exited.
 bool readSame(const ProcessRecord &record, unsigned reads, RawProcess &raw)
 {
     if (!canReadTimes()) {
         return false;
     }
-    readRaw(record.pid, reads & ~ReadTime, raw);
-    readRaw(record.pid, ReadTime, raw);
+    readRaw(record.pid, reads | ReadTime, raw);
     return hasAllFields(reads | ReadTime, raw) && raw.time.start_time == record.started;
+}
+
+bool toRecordAhead(int pid, unsigned reads, unsigned ahead, const RawProcess &raw, ProcessRecord &record)
+{
+    if (!toRecord(pid, reads | ahead, raw, record)) {
+        return false;
+    }
+    record.unread |= ahead;
+    record.ahead = ahead;
+    return true;
 }
 
 } // namespace
@@ -145,14 +153,14 @@ void readRaw(int pid, unsigned reads, RawProcess &raw)
     if (reads & ReadUid) {
         glibtop_get_proc_uid(&raw.uid, pid);
     }
-    if (reads & ReadTime) {
-        readTimes(pid, raw.time);
-    }
     if (reads & ReadMemory) {
         glibtop_get_proc_mem(&raw.memory, pid);
     }
     if (reads & ReadArguments) {
         readArguments(pid, raw);
+    }
+    if (reads & ReadTime) {
+        readTimes(pid, raw.time);
     }
 }
 
@@ -203,10 +211,10 @@ std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned rea
         if (user && static_cast<uid_t>(raw.state.uid) != *user) {
             continue;
         }
-        const unsigned all = reads | first | (more ? more(pid) : 0U);
-        readRaw(pid, all & ~first, raw);
-        if (toRecord(pid, all, raw, record)) {
-            record.unread |= all & ~(reads | first);
+        const unsigned all = reads | first;
+        const unsigned ahead = more ? more(pid) & ~all : 0U;
+        readRaw(pid, (all | ahead) & ~first, raw);
+        if (toRecordAhead(pid, all, ahead, raw, record) || toRecord(pid, all, raw, record)) {
             records.push_back(std::move(record));
         }
     }

@@ -56,6 +56,7 @@ struct ProcessRecord
     quint64 shared = 0;
     QByteArray arguments; ///< truncated; each argument ends with a null character
     unsigned unread = 0;  ///< Reads, or-ed, that were not made
+    unsigned ahead = 0;   ///< of those, the ones that were made of this process only
 };
 
 /// The pids that libgtop lists, ascending and without duplicates.
@@ -65,7 +66,8 @@ std::vector<int> readPids();
 /// before single reads; snapshots are only taken where it is there.
 bool canReadTimes();
 
-/// Makes the calls in `reads` (Reads, or-ed) for one process.
+/// Makes the calls in `reads` (Reads, or-ed) for one process. The start is read last: if it is the expected
+/// one, so is the process that everything before was read from.
 void readRaw(int pid, unsigned reads, RawProcess &raw);
 
 /// Condenses the raw answers into `record`; false if required fields are missing, that is, the process exited
@@ -83,7 +85,8 @@ bool readParent(ProcessRecord &record);
 /// Reads the processes, ascending by pid, without those that exit in the meantime.
 /// user: only the processes of this effective user id, which is cheaper to read than the real one; none for
 /// all processes.
-/// more: further reads (Reads, or-ed) of single processes, by pid. They still count as unread.
+/// more: further reads (Reads, or-ed) of single processes, by pid. They still count as unread; if one fails,
+/// none was made ahead.
 std::vector<ProcessRecord> readProcesses(std::optional<uid_t> user, unsigned reads,
                                          const std::function<unsigned(int)> &more = {});
 

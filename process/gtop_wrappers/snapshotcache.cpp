@@ -49,6 +49,17 @@ unsigned SnapshotCache::eagerReads() const
     return reads;
 }
 
+std::vector<int> SnapshotCache::askedForMemory() const
+{
+    std::vector<int> pids;
+    for (const Entry &entry : last) {
+        if (entry.onDemand && entry.onDemand->isAsked(ReadMemory)) {
+            pids.push_back(entry.record.pid);
+        }
+    }
+    return pids;
+}
+
 std::map<int, Process> SnapshotCache::snapshot(std::vector<ProcessRecord> records)
 {
     shared.updateUsers(std::chrono::steady_clock::now());

@@ -30,6 +30,9 @@ public:
     void setEagerColumns(const std::vector<bool> &columns);
     /// What must be read of every process (Reads, or-ed) for the next snapshot.
     unsigned eagerReads() const;
+    /// The processes, ascending, whose memory was asked for since the last snapshot: mostly those in view,
+    /// which will be asked for it again. Read with the rest it takes half of the calls that it takes alone.
+    std::vector<int> askedForMemory() const;
     /// The snapshot of these records, which are ascending by pid.
     std::map<int, Process> snapshot(std::vector<ProcessRecord> records);
     /// As ProcessFiller::giveBack().

@@ -18,7 +18,7 @@ public:
     }
 };
 
-/// Counts the cells that the style draws, and can draw them in its own way.
+/// Counts the cells that the style draws and measures, and can draw them in its own way.
 class CountingStyle : public QProxyStyle
 {
 public:
@@ -36,7 +36,16 @@ public:
         }
     }
 
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override
+    {
+        const auto *cell = qstyleoption_cast<const QStyleOptionViewItem *>(option);
+        measured += cell && !cell->text.isEmpty() ? 1 : 0;
+        return QProxyStyle::sizeFromContents(type, option, size, widget);
+    }
+
     mutable int cells = 0;
+    mutable int measured = 0;
 
 private:
     bool isOther;
@@ -154,6 +163,34 @@ private Q_SLOTS:
         QVERIFY(style.cells > list.proxy->rowCount());
     }
 
+    void aTextIsMeasuredOnce()
+    {
+        CountingStyle style;
+        List list;
+        show(list, &style);
+        list.proxy->refresh(makeSnapshot(textsOfAllKinds()));
+        QVERIFY(areSizesThoseOfTheStyle(list));
+        for (int i = 0; i < 2; ++i) { // the CPU load of the first two refreshes differs
+            style.measured = 0;
+            list.proxy->refresh(makeSnapshot(textsOfAllKinds()));
+            list.view.indexAt(QPoint(1, 1)); // lays the list out, with the height of the first row
+        }
+        QCOMPARE(style.measured, 0);
+    }
+
+    void aStyleThatDrawsOtherwiseMeasuresAgain()
+    {
+        CountingStyle style(true);
+        List list;
+        show(list, &style);
+        list.proxy->refresh(makeSnapshot(textsOfAllKinds()));
+        QVERIFY(areSizesThoseOfTheStyle(list));
+        style.measured = 0;
+        list.proxy->refresh(makeSnapshot(textsOfAllKinds()));
+        list.view.indexAt(QPoint(1, 1));
+        QVERIFY(style.measured > 0);
+    }
+
     void aStyleSheetHolds()
     {
         List list;
@@ -162,7 +199,11 @@ private Q_SLOTS:
         list.proxy->refresh(makeSnapshot(textsOfAllKinds()));
         const QImage picture = pictureOf(list);
         QVERIFY(picture == pictureByStyle(list));
+        QVERIFY(areSizesThoseOfTheStyle(list));
+        list.view.setStyleSheet("QTreeView::item { padding: 20px }");
+        QVERIFY(areSizesThoseOfTheStyle(list));
         list.view.setStyleSheet(QString());
+        QVERIFY(areSizesThoseOfTheStyle(list));
         QVERIFY(picture != pictureOf(list));
     }
 
@@ -175,11 +216,33 @@ private Q_SLOTS:
         QFont font = list.view.font();
         font.setItalic(true);
         font.setPointSize(font.pointSize() * 2);
+        QVERIFY(areSizesThoseOfTheStyle(list));
         list.view.setFont(font);
+        QVERIFY(areSizesThoseOfTheStyle(list));
         QVERIFY(pictureOf(list) == pictureByStyle(list));
     }
 
 private:
+    static bool areSizesThoseOfTheStyle(const List &list)
+    {
+        const auto *delegate = qobject_cast<ProcessDelegate *>(list.view.itemDelegate());
+        QStyleOptionViewItem option;
+        option.initFrom(&list.view);
+        option.widget = &list.view;
+        option.font = list.view.font();
+        option.textElideMode = list.view.textElideMode();
+        for (int row = 0; row < list.proxy->rowCount(); ++row) {
+            for (int column = 0; column < list.proxy->columnCount(); ++column) {
+                const QModelIndex cell = list.proxy->index(row, column);
+                const QSize wanted = delegate->QStyledItemDelegate::sizeHint(option, cell);
+                if (!wanted.isValid() || delegate->sizeHint(option, cell) != wanted) {
+                    return false;
+                }
+            }
+        }
+        return list.proxy->rowCount() > 0;
+    }
+
     static void show(List &list, QStyle *style)
     {
         list.view.setStyle(style);

@@ -46,6 +46,54 @@ private Q_SLOTS:
         QCOMPARE(sorted(snapshot().at(11), MemoryColumn), QVariant(quint64(2048)));
     }
 
+    void memoryThatWasAskedForIsReadWithTheNextSnapshot()
+    {
+        for (const quint64 resident : {1024U, 2048U, 4096U}) {
+            at(11).resident = resident;
+            at(11).virtualSize = resident * 2;
+            at(11).shared = resident / 2;
+            const Process process = snapshot().at(11);
+            if (resident > 1024) {
+                at(11).resident = at(11).virtualSize = at(11).shared = 1;
+            }
+            QCOMPARE(sorted(process, MemoryColumn), QVariant(resident));
+            QCOMPARE(sorted(process, VirtualMemoryColumn), QVariant(resident * 2));
+            QCOMPARE(sorted(process, SharedMemoryColumn), QVariant(resident / 2));
+        }
+        at(11).resident = 8192;
+        snapshot();
+        const Process process = snapshot().at(11); // nothing asked in the last one
+        at(11).resident = 16384;
+        QCOMPARE(sorted(process, MemoryColumn), QVariant(quint64(16384)));
+    }
+
+    void whatIsReadWithTheSnapshotIsKeptAfterTheExit()
+    {
+        sorted(snapshot().at(11), MemoryColumn);
+        at(11).resident = 2048;
+        const Process process = snapshot().at(11);
+        madeup::remove(11);
+        snapshot();
+        QCOMPARE(sorted(process, MemoryColumn), QVariant(quint64(2048)));
+    }
+
+    void whatFailsOnDemandCanSucceedWithTheNextSnapshot()
+    {
+        at(11).memoryFails = true;
+        QCOMPARE(shown(snapshot().at(11), MemoryColumn), QString());
+        at(11).memoryFails = false;
+        QCOMPARE(shown(snapshot().at(11), MemoryColumn), QStringLiteral("1.00 KB"));
+    }
+
+    void nothingReadAheadIsShownOfAProcessThatReusesThePid()
+    {
+        sorted(snapshot().at(11), MemoryColumn);
+        at(11).startTime = madeup::now - 30;
+        const Process process = snapshot().at(11);
+        at(11).resident = 4096;
+        QCOMPARE(sorted(process, MemoryColumn), QVariant(quint64(4096)));
+    }
+
     void unchangedProcessKeepsItsObjects()
     {
         std::map<int, Process> all = snapshot();

@@ -36,8 +36,8 @@ private Q_SLOTS:
         at(11).nice = 5;
         standin::resetCalls();
         const ProcessRecord record = resolved();
-        // State and time of four; the parents of 1, which has none, and of the young 99, with their start.
-        QCOMPARE(standin::calls().processData, 4U * 2 + 2 * 2);
+        // State and time of four; the parent of the young 99, with its start.
+        QCOMPARE(standin::calls().processData, 4U * 2 + 2);
         QCOMPARE(record.parent, 10);
         QCOMPARE(record.nice, 0);
         QCOMPARE(record.unread, unsigned(ReadUid | ReadMemory | ReadArguments));
@@ -59,7 +59,7 @@ private Q_SLOTS:
         row("parent's pid was reused", nothing, [] { at(10).startTime = now; });
         row("pid was reused", nothing, [] { at(11).startTime = now - 39; });
         const Change hadNoParent = [] { at(11).parent = 0; };
-        row("process had no parent", hadNoParent, nothing);
+        row("not without a parent, which it never gets", hadNoParent, nothing, 0);
         const Change wasNotListed = [] { at(11).parent = 77; };
         row("parent was not listed", wasNotListed, nothing);
         const Change comeBack = [this] {
@@ -131,7 +131,7 @@ private Q_SLOTS:
         std::vector<ProcessRecord> records = learnt(now + 1);
         standin::resetCalls();
         parents.resolve(records, clock, time);
-        QCOMPARE(standin::calls().processData, 2U); // for 1, which has no parent
+        QCOMPARE(standin::calls().processData, 0U);
     }
 
     void aFortiethIsReadAgainInEachSnapshot()
@@ -145,8 +145,9 @@ private Q_SLOTS:
         for (int i = 0; i < 80; ++i) {
             standin::resetCalls();
             resolved();
-            // State and time of all; the parents of 1 and 2, which have none, and of five, with their start.
-            QCOMPARE(standin::calls().processData, 202U * 2 + 7 * 2);
+            // State and time of all; the parents of the young 2 and of a fortieth, with their start.
+            const unsigned due = (standin::calls().processData - 202 * 2 - 2) / 2;
+            QVERIFY2(due == 5 || due == 6, qPrintable(QString::number(due)));
         }
     }
 

@@ -32,9 +32,8 @@ private Q_SLOTS:
         QCOMPARE(young.resident, quint64(4096));
         QCOMPARE(young.arguments, QByteArray("some\0", 5));
         QCOMPARE(young.parent, 10);
-        // State and time of four; the parent of 1, which has none; five reads of 99; the starts of both
-        // again.
-        QCOMPARE(standin::calls().processData, 4U * 2 + 2 + 4);
+        // State and time of four; three more reads of 99, and its start again.
+        QCOMPARE(standin::calls().processData, 4U * 2 + 4);
         standin::machine().processes->insert({100, madeup::process(1, madeup::now + 1)});
         QCOMPARE(unread(), (QMap<int, unsigned>{{1, rest}, {10, rest}, {11, rest}, {99, rest}, {100, 0}}));
     }
@@ -51,16 +50,40 @@ private Q_SLOTS:
             QCOMPARE(record.unread, record.pid == 99 ? 0U : rest);
         }
         QCOMPARE(parents, (QMap<int, int>{{1, 0}, {10, 1}, {11, 10}, {99, 1}, {self, 1}}));
-        // The start of this program; state, parent and time of five; with its start, the parents of 1, which
-        // has none, and of this program, before which nothing is certain; the rest and the start of the
-        // young 99.
-        QCOMPARE(standin::calls().processData, 1U + 5 * 3 + 2 * 2 + 4);
+        // The start of this program; state, parent and time of five; with its start, the parent of this
+        // program, before which nothing is certain; the rest and the start of the young 99.
+        QCOMPARE(standin::calls().processData, 1U + 5 * 3 + 2 + 4);
+    }
+
+    void memoryCanBeReadWithTheRest()
+    {
+        unread();
+        madeup::at(10).memoryFails = true;
+        standin::resetCalls();
+        QMap<int, unsigned> ahead;
+        QMap<int, quint64> memory;
+        for (const ProcessRecord &record : reader.read(std::nullopt, ReadState | ReadTime, {10, 11, 12})) {
+            ahead[record.pid] = record.ahead;
+            memory[record.pid] = record.resident;
+            QCOMPARE(record.unread, record.pid == 99 ? 0U : unsigned(ReadUid | ReadMemory | ReadArguments));
+        }
+        QCOMPARE(ahead, (QMap<int, unsigned>{{1, 0}, {10, 0}, {11, ReadMemory}, {99, 0}}));
+        QCOMPARE(memory, (QMap<int, quint64>{{1, 0}, {10, 0}, {11, 1024}, {99, 1024}}));
+        // State and time of four; the memory of two; three more reads of the young 99, and its start.
+        QCOMPARE(standin::calls().processData, 4U * 2 + 2 + 4);
+    }
+
+    void memoryIsReadAheadBeforeTheStart()
+    {
+        unread();
+        madeup::at(11).answersBeforeEnd = 2; // its state and memory
+        QCOMPARE(reader.read(std::nullopt, ReadState | ReadTime, {11}).size(), std::size_t(3));
     }
 
     void aKnownParentThatIsDueIsReadWithTheRest()
     {
         auto &processes = *standin::machine().processes;
-        processes = {{1, madeup::process(1, madeup::now - 100)}, {2, madeup::process(2, madeup::now)}};
+        processes = {{1, madeup::process(0, madeup::now - 100)}, {2, madeup::process(2, madeup::now)}};
         for (int pid = 100; pid < 300; ++pid) {
             processes[pid] = madeup::process(1, madeup::now - 50);
         }

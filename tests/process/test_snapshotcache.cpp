@@ -307,6 +307,25 @@ private Q_SLOTS:
         QTEST(cache.eagerReads(), "reads");
     }
 
+    void memoryThatCellsAskedForIsNamed()
+    {
+        SnapshotCache cache;
+        std::vector<ProcessRecord> records;
+        for (const int pid : {2, 3, 5, 7}) {
+            records.push_back(recordOf(pid));
+            records.back().unread = pid == 7 ? 0 : ReadMemory | ReadArguments;
+        }
+        const std::map<int, Process> processes = cache.snapshot(records);
+        QVERIFY(cache.askedForMemory().empty());
+        processes.at(5).getParam(MemoryColumn)->displayValue();
+        processes.at(2).getParam(VirtualMemoryColumn)->sortValue();
+        processes.at(3).getParam(CommandLineColumn)->displayValue();
+        processes.at(7).getParam(MemoryColumn)->displayValue();
+        QCOMPARE(cache.askedForMemory(), (std::vector<int>{2, 5}));
+        cache.snapshot(records);
+        QVERIFY(cache.askedForMemory().empty());
+    }
+
     void columnsThatBecomeOnDemandOrEager()
     {
         SnapshotCache cache;

@@ -76,6 +76,7 @@ struct Process
     std::uint64_t shared = 0;
     std::string arguments;     ///< as in /proc/PID/cmdline: each argument followed by a NUL byte
     int answersBeforeEnd = -1; ///< exits after so many calls about it since the last list; -1: never
+    bool memoryFails = false;  ///< the call for its memory fails
 };
 
 /// What the stand-in answers. What is unset is read from the real libgtop.

@@ -166,6 +166,7 @@ STANDIN_CALL void glibtop_get_proc_mem(glibtop_proc_mem *buf, pid_t pid)
         buf->size = buf->vsize = process.virtualSize;
         buf->resident = buf->rss = process.resident;
         buf->share = process.shared;
+        buf->flags = process.memoryFails ? 0 : allFlags;
     });
 }
 

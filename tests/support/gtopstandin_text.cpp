@@ -42,7 +42,7 @@ void visitFields(Visitor &visit, std::pair<Pid, Process> &entry)
     auto &[pid, process] = entry;
     visit(pid, process.parent, process.name, process.uid, process.state, process.nice, process.userTime,
           process.systemTime, process.startTime, process.virtualSize, process.resident, process.shared,
-          process.arguments, process.answersBeforeEnd);
+          process.arguments, process.answersBeforeEnd, process.memoryFails);
 }
 
 template <typename Visitor>

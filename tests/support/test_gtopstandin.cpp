@@ -45,7 +45,8 @@ standin::Machine fullMachine()
     machine.mountListFails = true;
     machine.interfaces = {{"eth0", 0x0100007f, 0xff, 11, 12, 13, true}};
     machine.interfaceListFails = true;
-    const standin::Process process{-2, "a b", 1000, 16, -20, 1, 2, 3, 4, 5, 6, std::string("a\0b\0", 4), 2};
+    const standin::Process process{-2, "a b", 1000, 16, -20, 1, 2, 3, 4, 5, 6, std::string("a\0b\0", 4),
+                                   2,  true};
     machine.processes = {{42, process}, {43, standin::Process{}}};
     machine.mostOfOthers = 8;
     return machine;
@@ -295,6 +296,8 @@ private Q_SLOTS:
         QCOMPARE(read.processes->at(42).arguments, std::string("a\0b\0", 4));
         QCOMPARE(read.processes->at(42).nice, -20);
         QCOMPARE(read.processes->at(42).answersBeforeEnd, 2);
+        QVERIFY(read.processes->at(42).memoryFails);
+        QVERIFY(!read.processes->at(43).memoryFails);
         QCOMPARE(read.processes->at(43).answersBeforeEnd, -1);
         QCOMPARE(read.mostOfOthers, 8);
     }
