@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QScrollBar>
+#include <QStyleOptionSlider>
 #include <QTreeView>
 #include <QVector>
 
@@ -59,6 +60,19 @@ private:
     Widgets dropping;
 };
 
+/// Where the style draws the slider of a vertical scroll bar.
+QRect sliderOf(const QScrollBar *bar)
+{
+    QStyleOptionSlider option;
+    option.initFrom(bar);
+    option.orientation = Qt::Vertical;
+    option.minimum = bar->minimum();
+    option.maximum = bar->maximum();
+    option.pageStep = bar->pageStep();
+    option.sliderPosition = option.sliderValue = bar->value();
+    return bar->style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, bar);
+}
+
 /// And not on a picture of the window.
 bool isOnScreen(const QPainter &painter, const QWidget &widget)
 {
@@ -78,7 +92,8 @@ PaintedRows::PaintedRows(const ProxyProcModel *model, QTreeView *view, TextOf te
 void PaintedRows::repaintChanges(const std::function<void()> &change)
 {
     const Numbers before = frameLook();
-    const std::array<Numbers, 2> rangesBefore = ranges();
+    QScrollBar *bar = list->verticalScrollBar();
+    const QRect sliderBefore = sliderOf(bar);
     Numbers after;
     {
         const DroppedUpdates dropped(partsOf(list));
@@ -90,20 +105,10 @@ void PaintedRows::repaintChanges(const std::function<void()> &change)
             part->update();
         }
     } else if (list->viewport()->isVisible()) {
-        updateBars(rangesBefore);
+        if (sliderOf(bar) != sliderBefore) { // a row more or less mostly moves it by less than a pixel
+            bar->update();
+        }
         list->viewport()->update(changedRegion());
-    }
-}
-
-/// A row more or less changes the bar beside the list, and mostly no row in view.
-void PaintedRows::updateBars(const std::array<Numbers, 2> &rangesBefore)
-{
-    const std::array<Numbers, 2> rangesNow = ranges();
-    if (rangesNow[0] != rangesBefore[0]) {
-        list->horizontalScrollBar()->update();
-    }
-    if (rangesNow[1] != rangesBefore[1]) {
-        list->verticalScrollBar()->update();
     }
 }
 
@@ -215,15 +220,6 @@ PaintedRows::Numbers PaintedRows::frameLook() const
         }
     }
     return look;
-}
-
-/// Of the horizontal and of the vertical scroll bar.
-std::array<PaintedRows::Numbers, 2> PaintedRows::ranges() const
-{
-    const auto rangeOf = [](const QScrollBar *bar) {
-        return Numbers{bar->minimum(), bar->maximum(), bar->pageStep()};
-    };
-    return {rangeOf(list->horizontalScrollBar()), rangeOf(list->verticalScrollBar())};
 }
 
 PaintedRows::Numbers PaintedRows::rowLook(const QModelIndex &cell, int height) const

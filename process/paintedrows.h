@@ -7,7 +7,6 @@
 #include <QRegion>
 #include <QString>
 
-#include <array>
 #include <functional>
 #include <map>
 #include <vector>
@@ -59,13 +58,11 @@ private:
         std::vector<Cell> cells; ///< by column
     };
 
-    void updateBars(const std::array<Numbers, 2> &rangesBefore);
     void repairHeader(const QRegion &region);
     bool isBeingPainted(const QRect &rect) const;
     Row &noteRow(const QStyleOptionViewItem &cell, const QModelIndex &index);
     QRect rowRect(const QRect &cell) const;
     Numbers frameLook() const;
-    std::array<Numbers, 2> ranges() const;
     Numbers rowLook(const QModelIndex &cell, int height) const;
     QRegion changedRegion();
     QRegion changedCells(const Row &row, const QModelIndex &index, const QRect &rect) const;

@@ -79,10 +79,10 @@ void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clo
     dropRecords(exited, records); // only now: until here the list is searched for parents
 }
 
-/// True for a fortieth of all pids in each snapshot but the first, and for each pid in one of forty.
+/// True for one of 200 pids in each snapshot but the first, and for each pid in one of 200.
 bool Parents::isDueForReading(int pid, unsigned snapshot)
 {
-    constexpr unsigned period = 40;
+    constexpr unsigned period = 200;
     return snapshot > 1 && (snapshot + static_cast<unsigned>(pid)) % period == 0;
 }
 

@@ -12,7 +12,7 @@ namespace gtop_wrappers {
 /// The parent of every process, read as seldom as possible.
 ///
 /// Reading a parent is the most expensive call of a snapshot. A process is reparented only when its parent
-/// exits, so a parent is kept for as long as both are seen running, but for no more than forty snapshots:
+/// exits, so a parent is kept for as long as both are seen running, but for no more than 200 snapshots:
 /// some changes cannot be seen, as when the thread that forked the child ends in a process whose leader hangs
 /// in its exit. Mostly the state of such a leader is uninterruptible, and then parents are read again too. A
 /// parent that is not in the list (a process of another user) can exit unseen and is read again each time. A

@@ -217,21 +217,51 @@ private Q_SLOTS:
         QVERIFY(events.regions.isEmpty());
     }
 
-    void aRowOutOfViewChangesOnlyTheScrollBar()
+    void rowsOutOfViewChangeOnlyTheScrollBar_data()
     {
+        const Rows<int, int, int> row("before", "after", "scrolled");
+        row("the slider gets longer", 100, 12, 0);
+        row("the slider moves", 2000, 1000, 500);
+    }
+
+    void rowsOutOfViewChangeOnlyTheScrollBar()
+    {
+        QFETCH(int, before);
+        QFETCH(int, after);
+        QFETCH(int, scrolled);
+        QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight()); // no row is under it
         List list;
-        FactsByPid facts = factsUpTo(100);
+        FactsByPid facts = factsUpTo(before);
         list.view.show();
         list.view.sortByColumn(gtop_wrappers::PidColumn, Qt::AscendingOrder);
         list.proxy->refresh(makeSnapshot(facts));
         list.proxy->refresh(makeSnapshot(facts)); // the first CPU loads differ
+        list.view.verticalScrollBar()->setValue(scrolled);
+        QCoreApplication::processEvents();
+        list.proxy->refresh(makeSnapshot(facts)); // paints all rows that were scrolled in
         PaintEvents events(&list.view);
-        facts.erase(100);
+        facts.erase(facts.upper_bound(after), facts.end());
         list.proxy->refresh(makeSnapshot(facts));
         QCoreApplication::processEvents();
         QVERIFY(events.regions.contains(list.view.verticalScrollBar()));
         QVERIFY(!events.regions.contains(list.view.viewport()));
         QVERIFY(!events.regions.contains(list.view.header()->viewport()));
+    }
+
+    void aRowOutOfViewThatDoesNotMoveTheSliderChangesNothing()
+    {
+        List list;
+        FactsByPid facts = factsUpTo(2000);
+        list.view.show();
+        list.view.sortByColumn(gtop_wrappers::PidColumn, Qt::AscendingOrder);
+        list.proxy->refresh(makeSnapshot(facts));
+        list.proxy->refresh(makeSnapshot(facts)); // the first CPU loads differ
+        PaintEvents events(&list.view);
+        facts.erase(2000);
+        list.proxy->refresh(makeSnapshot(facts));
+        QCoreApplication::processEvents();
+        QVERIFY(events.regions.isEmpty());
+        QCOMPARE(list.proxy->rowCount(), 1999);
     }
 
     void whatWasNotPaintedOnTheScreenDoesNotCount_data()
