@@ -121,12 +121,13 @@ stop_load() {
 }
 
 measure_size() { # <additional processes>
-    rm -f "$work"/{calls,page,filtered,tree,peer,{rss,pss}.{page,filtered,tree,peer},read,show,showtree,keystroke,reading}
+    rm -f "$work"/{calls,least,page,filtered,tree,peer,{rss,pss}.{page,filtered,tree,peer},read,show,showtree,keystroke,reading}
     start_load "$1"
     local count
     count=$(processes)
     for _ in $(seq "$repeats"); do
         "$bin/bench_calls" 5 | median >>"$work/calls"; echo >>"$work/calls"
+        "$bin/bench_calls" 10 least | median >>"$work/least"; echo >>"$work/least"
         measure_refresh page
         measure_peer_refresh
         measure_refresh filtered Tab b # Tab leads from the tabs to the list; nearly all match: the spawner's name
@@ -140,6 +141,7 @@ measure_size() { # <additional processes>
         cut -d ' ' -f 4 "$work/filter" | median >>"$work/reading"; echo >>"$work/reading"
     done
     note "four libgtop calls, $count processes, µs per process" "$work/calls"
+    note "the list and the two calls without which no refresh can do, $count processes, µs per process" "$work/least" "$work/calls" "$work/peer"
     note "one refresh of the process page, $count processes, µs per process" "$work/page" "$work/calls" "$work/peer"
     note_peer "the same of lxtask, $count processes, µs per process" "$work/peer" "$work/calls"
     note "the same with the filter line open, $count processes, µs per process" "$work/filtered" "$work/calls"
