@@ -18,8 +18,8 @@ public:
     /// record: the process as the snapshot read it.
     explicit OnDemandValues(const ProcessRecord &record);
 
-    /// A new snapshot has the same process: values are read again when they are next asked for, but for those
-    /// that were read ahead.
+    /// A new snapshot has the same process: values are read again when they are next asked for, but for the
+    /// memory if it was read ahead.
     void startSnapshot(const ProcessRecord &now);
     /// A record in which the fields of `read`, a single one of Reads, are valid. If the process has exited,
     /// they hold what was last read on demand; null if they were never read.
