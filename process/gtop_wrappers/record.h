@@ -42,7 +42,7 @@ struct RawProcess
 struct ProcessRecord
 {
     int pid = -1;
-    QByteArray name; ///< as the kernel has it: at most 15 arbitrary bytes
+    QByteArray name; ///< arbitrary bytes: at most 15 of a program, 39 of a kernel worker
     int state = 0;   ///< libgtop's code
     int user = -1;   ///< effective user id
     int parent = 0;
