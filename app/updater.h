@@ -111,7 +111,6 @@ private:
     double sampleTotalCpuTime();
     void readProcesses();
     void endReading();
-    void chooseEagerColumns();
     // updater_filesystems.cpp
     void refreshFileSystems();
     // updater_network.cpp

@@ -69,7 +69,7 @@ void Updater::readProcesses()
     if (stage != Stage::WindowShown && !reading.empty()) {
         return;
     }
-    chooseEagerColumns();
+    filler->setEagerColumns(procModel->columnsForAllRows());
     reading = filler->getProcesses(static_cast<gtop_wrappers::ProcessTypes>(procModel->processTypes()));
 }
 
@@ -78,18 +78,6 @@ void Updater::endReading()
 {
     static auto *filler = gtop_wrappers::ProcessFiller::instance();
     filler->giveBack(std::exchange(reading, {}));
-}
-
-/// The column that is sorted by is read for all rows, the others where they are shown.
-void Updater::chooseEagerColumns()
-{
-    static auto *filler = gtop_wrappers::ProcessFiller::instance();
-    std::vector<bool> eager(filler->size(), false);
-    const int sortedBy = procModel->sortedProcessColumn();
-    if (sortedBy >= 0) {
-        eager[static_cast<std::size_t>(sortedBy)] = true;
-    }
-    filler->setEagerColumns(eager);
 }
 
 void Updater::deferRefreshes()

@@ -19,13 +19,23 @@ bool sharesIdentity(const Process &known, const Process &fresh)
            known.params[ParentPidColumn] == fresh.params[ParentPidColumn];
 }
 
+/// Parents that were not read yet, which a flat list does without, count as unchanged.
+bool wasReparented(const Process &known, const Process &fresh)
+{
+    const auto isParentRead = [](const Process &process) {
+        const gtop_wrappers::ParamPtr parent = process.getParam(gtop_wrappers::ParentPidColumn);
+        return !parent || parent->isRead();
+    };
+    return isParentRead(known) && isParentRead(fresh) && known.getPPid() != fresh.getPPid();
+}
+
 /// False if the pid was reused by another program or the process was reparented.
 bool isSameProcess(const Process &known, const Process &fresh)
 {
     if (sharesIdentity(known, fresh)) {
         return true;
     }
-    return known.getPPid() == fresh.getPPid() && known.getName() == fresh.getName();
+    return !wasReparented(known, fresh) && known.getName() == fresh.getName();
 }
 
 using ItemSet = std::unordered_set<const ProcItem *>;

@@ -11,6 +11,7 @@
 #include <QTreeView>
 
 #include <functional>
+#include <vector>
 
 class DeepRows;
 class FittedColumns;
@@ -54,6 +55,10 @@ public:
 
     /// The process column that the list is sorted by; -1 if it is not sorted.
     int sortedProcessColumn() const { return source->processColumn(sortColumn()); }
+
+    /// By process column, whether all rows need their values, shown or not: the one that the list is sorted
+    /// by, and parents, which make the tree. Where parents are shown, all at once take less than one by one.
+    std::vector<bool> columnsForAllRows() const;
 
     /// Sorts by a process column, which must be visible.
     void sortBy(unsigned long processColumn, Qt::SortOrder order);

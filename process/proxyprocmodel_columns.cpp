@@ -36,6 +36,18 @@ bool isOrdered(int processColumn)
 
 } // namespace
 
+std::vector<bool> ProxyProcModel::columnsForAllRows() const
+{
+    using namespace gtop_wrappers;
+    std::vector<bool> columns(ColumnCount, false);
+    const int sortedBy = sortedProcessColumn();
+    if (sortedBy >= 0) {
+        columns[static_cast<std::size_t>(sortedBy)] = true;
+    }
+    columns[ParentPidColumn] = !isFlat() || isColumnVisible(ParentPidColumn);
+    return columns;
+}
+
 Qt::Alignment ProxyProcModel::alignment(int column) const
 {
     static const auto *filler = ProcessFiller::instance();

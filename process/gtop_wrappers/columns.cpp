@@ -76,7 +76,7 @@ ParamPtr makeOnDemand(const OnDemandPtr &values)
     return ParamPtr(new Param(values));
 }
 
-/// For the pid, which is known, and for the parent, which Parents provides, mostly without a call.
+/// For the pid, which is known.
 constexpr unsigned noReads = 0;
 
 using Record = ProcessRecord;
@@ -103,9 +103,11 @@ const std::array<Column, ColumnCount> table = {{
      ReadMemory, makeSize<&Record::shared>, same<&Record::shared>,
      makeOnDemand<OnDemandSizeParam<&Record::shared>>},
     {QT_TRANSLATE_NOOP("ProcessFiller", "Nice"), HiddenByDefault, Number,
-     ReadUid, makeSharedInt<&Record::nice>, same<&Record::nice>, makeOnDemand<OnDemandNiceParam>},
+     ReadUid, makeSharedInt<&Record::nice>, same<&Record::nice>,
+     makeOnDemand<OnDemandIntParam<ReadUid, &Record::nice>>},
     {QT_TRANSLATE_NOOP("ProcessFiller", "Parent PID"), HiddenByDefault, Number,
-     noReads, makeSharedInt<&Record::parent>, same<&Record::parent>, nullptr},
+     ReadParent, makeSharedInt<&Record::parent>, same<&Record::parent>,
+     makeOnDemand<OnDemandIntParam<ReadParent, &Record::parent>>},
     {QT_TRANSLATE_NOOP("ProcessFiller", "CPU time"), ShownByDefault, Number,
      ReadTime, makeCpuTime, same<&Record::cpuTime, &Record::frequency>, nullptr},
     {QT_TRANSLATE_NOOP("ProcessFiller", "Started"), ShownByDefault, Number,

@@ -52,7 +52,7 @@ bool ProcessFiller::isNumeric(unsigned long i) const
 
 bool ProcessFiller::isExpensive(unsigned long i) const
 {
-    return i < size() && columns()[i].makeOnDemand;
+    return i < size() && columns()[i].makeOnDemand && i != ParentPidColumn;
 }
 
 std::map<int, Process> ProcessFiller::getProcesses(ProcessTypes types)

@@ -35,7 +35,7 @@ public:
     bool isShownByDefault(unsigned long i) const;
     /// Whether column i holds numbers, which are aligned right. False past the end.
     bool isNumeric(unsigned long i) const;
-    /// Whether values of column i are expensive and can be read on demand. False past the end.
+    /// Whether each value of column i is expensive and can be read on demand. False past the end.
     bool isExpensive(unsigned long i) const;
     /// A snapshot keyed by pid, without processes that exit while being read. If the last one was given back,
     /// values that did not change are the same objects as before. That of the CPU column, which others write,
@@ -47,7 +47,8 @@ public:
     /// Chooses the columns that the next snapshots read for all rows, for instance the one that is sorted by.
     /// Missing entries count as chosen, so an empty list (the initial state) chooses all. The expensive
     /// values of the others are read on demand, when a cell asks for them, at most once per snapshot. If the
-    /// process has exited by then, they keep what was last read on demand, or are empty.
+    /// process has exited by then, they keep what was last read on demand, or are empty. The parents are
+    /// expensive in the first snapshot only.
     void setEagerColumns(const std::vector<bool> &columns);
 
 private:

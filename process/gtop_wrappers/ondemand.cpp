@@ -56,14 +56,19 @@ template class OnDemandSizeParam<&ProcessRecord::resident>;
 template class OnDemandSizeParam<&ProcessRecord::virtualSize>;
 template class OnDemandSizeParam<&ProcessRecord::shared>;
 
-OnDemandNiceParam::OnDemandNiceParam(const OnDemandPtr &onDemand) : values(onDemand)
+template <Reads Read, int ProcessRecord::*Member>
+OnDemandIntParam<Read, Member>::OnDemandIntParam(const OnDemandPtr &onDemand) : values(onDemand)
 {}
 
-QVariant OnDemandNiceParam::displayValue() const
+template <Reads Read, int ProcessRecord::*Member>
+QVariant OnDemandIntParam<Read, Member>::displayValue() const
 {
-    const ProcessRecord *record = values->record(ReadUid);
-    return record ? QVariant(record->nice) : QVariant();
+    const ProcessRecord *record = values->record(Read);
+    return record ? QVariant(record->*Member) : QVariant();
 }
+
+template class OnDemandIntParam<ReadUid, &ProcessRecord::nice>;
+template class OnDemandIntParam<ReadParent, &ProcessRecord::parent>;
 
 OnDemandCommandLineParam::OnDemandCommandLineParam(const OnDemandPtr &onDemand) : values(onDemand)
 {}

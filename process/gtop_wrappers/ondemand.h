@@ -55,16 +55,21 @@ extern template class OnDemandSizeParam<&ProcessRecord::resident>;
 extern template class OnDemandSizeParam<&ProcessRecord::virtualSize>;
 extern template class OnDemandSizeParam<&ProcessRecord::shared>;
 
-/// The nice value, read on demand.
-class OnDemandNiceParam : public IProcessParam
+/// A number, the `Member` of a record that `Read` brings, read on demand.
+template <Reads Read, int ProcessRecord::*Member>
+class OnDemandIntParam : public IProcessParam
 {
 public:
-    explicit OnDemandNiceParam(const OnDemandPtr &onDemand);
+    explicit OnDemandIntParam(const OnDemandPtr &onDemand);
     QVariant displayValue() const override;
+    bool isRead() const override { return values->isRead(Read); }
 
 private:
     OnDemandPtr values;
 };
+
+extern template class OnDemandIntParam<ReadUid, &ProcessRecord::nice>;
+extern template class OnDemandIntParam<ReadParent, &ProcessRecord::parent>;
 
 /// The command line, read on demand.
 class OnDemandCommandLineParam : public IProcessParam

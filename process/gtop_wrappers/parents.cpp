@@ -53,7 +53,7 @@ void Parents::learn(const std::vector<ProcessRecord> &records, quint64 started)
 
 unsigned Parents::dueReads(int pid) const
 {
-    return isDueForReading(pid, snapshots + 1) && findByPid(last, pid) ? unsigned(ReadUid) : 0U;
+    return isDueForReading(pid, snapshots + 1) && findByPid(last, pid) ? unsigned(ReadParent) : 0U;
 }
 
 void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clock, StartClock::Time now,
@@ -64,8 +64,8 @@ void Parents::resolve(std::vector<ProcessRecord> &records, const StartClock &clo
     known.reserve(records.size());
     std::vector<int> exited;
     for (ProcessRecord &record : records) {
-        const bool wasRead = (record.unread & ReadUid) == 0;
-        if (!wasRead && !keepParent(record, records, withDueReads) && !readParent(record)) {
+        const bool wasRead = (record.unread & ReadParent) == 0;
+        if (!wasRead && !keepParent(record, records, withDueReads) && !readMissing(ReadParent, record)) {
             exited.push_back(record.pid);
             continue;
         }
@@ -105,6 +105,7 @@ bool Parents::keepParent(ProcessRecord &record, const std::vector<ProcessRecord>
         return false;
     }
     record.parent = known->parent;
+    record.unread &= ~ReadParent;
     return true;
 }
 

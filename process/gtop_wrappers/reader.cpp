@@ -15,27 +15,32 @@ std::vector<ProcessRecord> ProcessReader::read(std::optional<uid_t> user, unsign
         const bool isWanted = std::binary_search(memoryOf.begin(), memoryOf.end(), pid);
         return parents.dueReads(pid) | (isWanted ? unsigned(ReadMemory) : 0U);
     };
-    std::vector<ProcessRecord> records =
-        std::exchange(isFirst, false) ? readFirst(user, reads) : readProcesses(user, reads, readsAhead);
+    const bool withParents = std::exchange(hasRead, true) || (reads & ReadParent) != 0;
+    reads &= ~ReadParent; // resolved below
+    std::vector<ProcessRecord> records = withParents && !std::exchange(hasReadParents, true)
+                                             ? readFirstParents(user, reads)
+                                             : readProcesses(user, reads, readsAhead);
     const StartClock::Time now = std::chrono::steady_clock::now();
     for (const ProcessRecord &record : records) {
         clock.see(record.started, now);
     }
     readRestOfYoung(records, now);
-    parents.resolve(records, clock, now, true);
+    if (withParents) {
+        parents.resolve(records, clock, now, true);
+    }
     return records;
 }
 
 /// No parent is known yet, and one by one they would take two calls each. Reading them with the rest takes
 /// one, and the parents of all processes that are older than this program are certain.
-std::vector<ProcessRecord> ProcessReader::readFirst(std::optional<uid_t> user, unsigned reads)
+std::vector<ProcessRecord> ProcessReader::readFirstParents(std::optional<uid_t> user, unsigned reads)
 {
     RawProcess self;
     readRaw(getpid(), ReadTime, self);
-    std::vector<ProcessRecord> records = readProcesses(user, reads | ReadUid);
+    std::vector<ProcessRecord> records = readProcesses(user, reads | ReadParent);
     parents.learn(records, self.time.start_time);
     for (ProcessRecord &record : records) {
-        record.unread |= ReadUid & ~reads;
+        record.unread |= ReadParent;
     }
     return records;
 }

@@ -15,20 +15,22 @@ namespace gtop_wrappers {
 class ProcessReader
 {
 public:
-    /// The processes, ascending by pid, with these reads (Reads, or-ed; ReadState and ReadTime at least) and
-    /// their parent. The rest is left unread, except of processes that are too young to be identified by
-    /// their start (see StartClock): reading those later could return values of another process. user: as for
+    /// The processes, ascending by pid, with these reads (Reads, or-ed; ReadState and ReadTime at least).
+    /// From the second time on they have their parent even without ReadParent: it costs little once it is
+    /// known. The rest is left unread, except of processes that are too young to be identified by their start
+    /// (see StartClock): reading those later could return values of another process. user: as for
     /// readProcesses(). memoryOf: processes, ascending, whose memory is read ahead.
     std::vector<ProcessRecord> read(std::optional<uid_t> user, unsigned reads,
                                     const std::vector<int> &memoryOf = {});
 
 private:
-    std::vector<ProcessRecord> readFirst(std::optional<uid_t> user, unsigned reads);
+    std::vector<ProcessRecord> readFirstParents(std::optional<uid_t> user, unsigned reads);
     void readRestOfYoung(std::vector<ProcessRecord> &records, StartClock::Time now) const;
 
     StartClock clock;
     Parents parents;
-    bool isFirst = true;
+    bool hasRead = false;
+    bool hasReadParents = false;
 };
 
 } // namespace gtop_wrappers

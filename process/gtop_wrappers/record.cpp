@@ -45,7 +45,7 @@ bool has(guint64 flags, guint64 fields)
 bool hasAllFields(unsigned reads, const RawProcess &raw)
 {
     return (!(reads & ReadState) || has(raw.state.flags, stateFields)) &&
-           (!(reads & ReadUid) || has(raw.uid.flags, uidFields)) &&
+           (!(reads & (ReadUid | ReadParent)) || has(raw.uid.flags, uidFields)) &&
            (!(reads & ReadTime) || has(raw.time.flags, timeFields)) &&
            (!(reads & ReadMemory) || has(raw.memory.flags, memoryFields)) &&
            (!(reads & ReadArguments) || has(raw.argumentsInfo.flags, argumentFields));
@@ -74,6 +74,12 @@ void readTimes(int pid, glibtop_proc_time &times)
     server->ncpu = lastCpu;
 }
 
+/// All that these reads cover.
+unsigned withParent(unsigned reads)
+{
+    return (reads & ReadUid) ? reads | ReadParent : reads;
+}
+
 /// Copies what these reads returned.
 void fillFrom(unsigned reads, const RawProcess &raw, ProcessRecord &record)
 {
@@ -85,8 +91,10 @@ void fillFrom(unsigned reads, const RawProcess &raw, ProcessRecord &record)
         // libgtop has no flag for it. Counted from 1 like the cores on the System page.
         record.processor = std::clamp(raw.state.last_processor, -1, std::numeric_limits<int>::max() - 1) + 1;
     }
-    if (reads & ReadUid) {
+    if (reads & (ReadUid | ReadParent)) {
         record.parent = raw.uid.ppid;
+    }
+    if (reads & ReadUid) {
         record.nice = raw.uid.nice;
     }
     if (reads & ReadTime) {
@@ -150,7 +158,7 @@ void readRaw(int pid, unsigned reads, RawProcess &raw)
     if (reads & ReadState) {
         glibtop_get_proc_state(&raw.state, pid);
     }
-    if (reads & ReadUid) {
+    if (reads & (ReadUid | ReadParent)) {
         glibtop_get_proc_uid(&raw.uid, pid);
     }
     if (reads & ReadMemory) {
@@ -171,7 +179,7 @@ bool toRecord(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &rec
     }
     record = ProcessRecord();
     record.pid = pid;
-    record.unread = ReadEverything & ~reads;
+    record.unread = ReadEverything & ~withParent(reads);
     fillFrom(reads, raw, record);
     return true;
 }
@@ -183,17 +191,7 @@ bool readMissing(unsigned reads, ProcessRecord &record)
         return false;
     }
     fillFrom(reads, raw, record);
-    record.unread &= ~reads;
-    return true;
-}
-
-bool readParent(ProcessRecord &record)
-{
-    RawProcess raw;
-    if (!readSame(record, ReadUid, raw)) {
-        return false;
-    }
-    record.parent = raw.uid.ppid;
+    record.unread &= ~withParent(reads);
     return true;
 }
 

@@ -24,7 +24,8 @@ enum Reads : unsigned {
     ReadTime = 4,  ///< CPU time, start
     ReadMemory = 8,
     ReadArguments = 16,
-    ReadEverything = 31
+    ReadParent = 32, ///< parent only: the same call as ReadUid, which includes it
+    ReadEverything = 63
 };
 
 /// libgtop's answers about one process; only those of the calls that were made are meaningful.
@@ -77,10 +78,6 @@ bool toRecord(int pid, unsigned reads, const RawProcess &raw, ProcessRecord &rec
 /// Makes further reads (Reads, or-ed) for a process whose start is known. False, with the record unchanged,
 /// if it has exited, even if its pid has been reused.
 bool readMissing(unsigned reads, ProcessRecord &record);
-
-/// Reads the parent only: the nice value, which comes with the same call, still counts as unread. False as
-/// for readMissing().
-bool readParent(ProcessRecord &record);
 
 /// Reads the processes, ascending by pid, without those that exit in the meantime.
 /// user: only the processes of this effective user id, which is cheaper to read than the real one; none for

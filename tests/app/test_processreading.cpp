@@ -216,7 +216,7 @@ private:
         return value ? value->displayValue().toString() : QStringLiteral("none");
     }
 
-    /// Calls for process data in a full refresh. In every fortieth snapshot a parent is read again; in at
+    /// Calls for process data in a full refresh. In one of 200 snapshots a parent is read again; in at
     /// least one of three snapshots none is.
     unsigned callsOfRefresh()
     {

@@ -120,6 +120,18 @@ private Q_SLOTS:
         QCOMPARE(filler()->title(number), name.isEmpty() ? name : '<' + name + '>');
     }
 
+    void valuesThatAreReadOneByOneAreExpensive()
+    {
+        QList<unsigned long> expensive;
+        for (unsigned long i = 0; i < filler()->size() + 2; ++i) {
+            if (filler()->isExpensive(i)) {
+                expensive.append(i);
+            }
+        }
+        QCOMPARE(expensive, (QList<unsigned long>{MemoryColumn, VirtualMemoryColumn, SharedMemoryColumn,
+                                                  NiceColumn, CommandLineColumn}));
+    }
+
     void snapshotIsAscendingWithEveryColumnFilled()
     {
         const ScriptedChild child([](const Gate &) {});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is left to be read on demand is read at most once per snapshot, and never of another process.
 #include "process/gtop_wrappers/filler.h"
+#include "process/gtop_wrappers/snapshotcache.h"
 
 #include "cells.h"
 #include "madeupprocesses.h"
@@ -34,6 +35,28 @@ private Q_SLOTS:
         QCOMPARE(shown(process, CommandLineColumn), QStringLiteral("later"));
         QCOMPARE(sorted(process, NiceColumn), QVariant(5));
         QCOMPARE(sorted(process, NiceColumn).type(), QVariant::Int);
+    }
+
+    void asksForAParentThatIsNotRead()
+    {
+        SnapshotCache cache;
+        cache.setEagerColumns(std::vector<bool>(ColumnCount, false));
+        const unsigned reads = ReadState | ReadTime;
+        const Process process = cache.snapshot(readProcesses(std::nullopt, reads)).at(11);
+        const ParamPtr parent = process.getParam(ParentPidColumn);
+        standin::resetCalls();
+        QVERIFY(!parent->isRead());
+        QCOMPARE(standin::calls().processData, 0U);
+        QCOMPARE(sorted(process, ParentPidColumn), QVariant(10));
+        QCOMPARE(sorted(process, ParentPidColumn).type(), QVariant::Int);
+        QCOMPARE(process.getPPid(), 10);
+        QVERIFY(parent->isRead());
+        QCOMPARE(standin::calls().processData, 2U);
+        const Process known = cache.snapshot(readProcesses(std::nullopt, reads | ReadParent)).at(11);
+        QVERIFY(known.getParam(ParentPidColumn) != parent);
+        QVERIFY(known.getParam(ParentPidColumn)->isRead());
+        QVERIFY(!parent->isRead());
+        QCOMPARE(known.getPPid(), 10);
     }
 
     void isReadOncePerSnapshot()

@@ -179,7 +179,7 @@ private:
         std::vector<ProcessRecord> records = readProcesses(std::nullopt, ReadState | ReadTime | ReadUid);
         parents.learn(records, started);
         for (ProcessRecord &record : records) {
-            record.unread |= ReadUid;
+            record.unread |= ReadParent;
         }
         return records;
     }

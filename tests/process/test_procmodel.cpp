@@ -27,6 +27,18 @@ const int lowest = std::numeric_limits<int>::min();
 const int highest = std::numeric_limits<int>::max();
 const unsigned long highestTotal = std::numeric_limits<unsigned long>::max();
 
+/// A value that is not read until it is asked for, and counts how often it is.
+class UnreadParam : public IProcessParam
+{
+public:
+    explicit UnreadParam(int *count) : readings(count) {}
+    QVariant displayValue() const override { return ++*readings; }
+    bool isRead() const override { return false; }
+
+private:
+    int *readings;
+};
+
 /// A refresh of one process, and the load that is sorted by after it.
 struct Refresh
 {
@@ -239,6 +251,48 @@ private Q_SLOTS:
         model.update(snapshot, 1);
         QCOMPARE(shapeOf(model), QStringLiteral("1 3 2"));
         QCOMPARE(model.processByPid(2).getName(), QStringLiteral("other"));
+    }
+
+    void aParentThatIsNotReadCountsAsUnchanged_data()
+    {
+        const Rows<bool, bool, QString> row("wasRead", "isRead", "shape");
+        row("read now", false, true, "1 2");
+        row("never read", false, false, "1 2");
+        row("not read any more", true, false, "1 2");
+        row("read both times", true, true, "1");
+    }
+
+    void aParentThatIsNotReadCountsAsUnchanged()
+    {
+        QFETCH(bool, wasRead);
+        QFETCH(bool, isRead);
+        int readings = 0;
+        ProcModel model;
+        const auto update = [&](int parent, bool read) {
+            ProcModel::Snapshot snapshot = makeSnapshot({{1, 0}, {2, parent}});
+            if (!read) {
+                snapshot.at(2).params[ParentPidColumn].reset(new UnreadParam(&readings));
+            }
+            model.update(snapshot, 1);
+        };
+        update(1, wasRead);
+        update(0, isRead);
+        QTEST(shapeOf(model), "shape");
+        QCOMPARE(readings, 0);
+    }
+
+    void aChangedNameIsSeenWithoutParents()
+    {
+        int readings = 0;
+        ProcModel model;
+        for (const char *name : {"first", "second"}) {
+            ProcModel::Snapshot snapshot;
+            snapshot.emplace(2, makeProcess({2, 0, QLatin1String(name)}));
+            snapshot.at(2).params[ParentPidColumn].reset(new UnreadParam(&readings));
+            model.update(snapshot, 1);
+        }
+        QCOMPARE(shapeOf(model), QString());
+        QCOMPARE(readings, 0);
     }
 
     void shapesOfTheFlatList_data()

@@ -5,6 +5,7 @@
 
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 #include <stdexcept>
 
@@ -21,7 +22,11 @@ void refreshAt(const List &list, unsigned long total, const ProcModel::Snapshot 
     list.proxy->refresh(snapshot);
 }
 
+using Change = std::function<void(List &)>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Change)
 
 class TestProxyProcModel : public QObject
 {
@@ -35,6 +40,44 @@ private Q_SLOTS:
         QCOMPARE(list.proxy->sortRole(), 256);
         QVERIFY(list.proxy->dynamicSortFilter());
         QCOMPARE(list.view.model(), list.proxy);
+    }
+
+    void allRowsNeedWhatTheyAreSortedByAndParentsThatMakeTheTreeOrAreShown_data()
+    {
+        const Rows<Change, QList<int>> row("change", "columns");
+        row(
+            "from the start", [](List &) {}, QList<int>{NameColumn});
+        row(
+            "sorted by memory", [](List &list) { list.view.sortByColumn(MemoryColumn, Qt::AscendingOrder); },
+            QList<int>{MemoryColumn});
+        row(
+            "tree", [](List &list) { list.proxy->setFlat(false); }, QList<int>{NameColumn, ParentPidColumn});
+        row(
+            "parents shown", [](List &list) { list.proxy->setColumnVisible(ParentPidColumn, true); },
+            QList<int>{NameColumn, ParentPidColumn});
+        row(
+            "sorted by parents",
+            [](List &list) {
+                list.proxy->setColumnVisible(ParentPidColumn, true);
+                list.proxy->sortBy(ParentPidColumn, Qt::AscendingOrder);
+            },
+            QList<int>{ParentPidColumn});
+    }
+
+    void allRowsNeedWhatTheyAreSortedByAndParentsThatMakeTheTreeOrAreShown()
+    {
+        QFETCH(Change, change);
+        List list;
+        change(list);
+        QList<int> needed;
+        const std::vector<bool> columns = list.proxy->columnsForAllRows();
+        QCOMPARE(columns.size(), std::size_t(ColumnCount));
+        for (std::size_t column = 0; column < columns.size(); ++column) {
+            if (columns[column]) {
+                needed.append(static_cast<int>(column));
+            }
+        }
+        QTEST(needed, "columns");
     }
 
     void theSourceModelHasTheProxysParent()

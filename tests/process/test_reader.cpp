@@ -10,6 +10,12 @@
 
 using namespace gtop_wrappers;
 
+namespace {
+
+constexpr unsigned required = ReadState | ReadTime | ReadParent;
+
+} // namespace
+
 class TestReader : public QObject
 {
     Q_OBJECT
@@ -28,7 +34,7 @@ private Q_SLOTS:
         standin::resetCalls();
         madeup::at(99).resident = 4096;
         madeup::at(99).parent = 10;
-        const ProcessRecord young = reader.read(std::nullopt, ReadState | ReadTime).back();
+        const ProcessRecord young = reader.read(std::nullopt, required).back();
         QCOMPARE(young.resident, quint64(4096));
         QCOMPARE(young.arguments, QByteArray("some\0", 5));
         QCOMPARE(young.parent, 10);
@@ -45,7 +51,7 @@ private Q_SLOTS:
         standin::resetCalls();
         const unsigned rest = ReadUid | ReadMemory | ReadArguments;
         QMap<int, int> parents;
-        for (const ProcessRecord &record : reader.read(std::nullopt, ReadState | ReadTime)) {
+        for (const ProcessRecord &record : reader.read(std::nullopt, required)) {
             parents[record.pid] = record.parent;
             QCOMPARE(record.unread, record.pid == 99 ? 0U : rest);
         }
@@ -55,6 +61,40 @@ private Q_SLOTS:
         QCOMPARE(standin::calls().processData, 1U + 5 * 3 + 2 + 4);
     }
 
+    void firstSnapshotCanLeaveTheParents()
+    {
+        standin::resetCalls();
+        const unsigned rest = ReadUid | ReadMemory | ReadArguments;
+        for (const ProcessRecord &record : reader.read(std::nullopt, ReadState | ReadTime)) {
+            QCOMPARE(record.unread, record.pid == 99 ? 0U : rest | ReadParent);
+            QCOMPARE(record.parent, record.pid == 99 ? 1 : 0);
+        }
+        // State and time of four; the rest and the start of the young 99.
+        QCOMPARE(standin::calls().processData, 4U * 2 + 4);
+    }
+
+    void parentsThatWereLeftAreReadInTheSecondSnapshot()
+    {
+        standin::machine().processes->insert({getpid(), madeup::process(1, madeup::now - 1)});
+        reader.read(std::nullopt, ReadState | ReadTime);
+        standin::resetCalls();
+        QCOMPARE(reader.read(std::nullopt, ReadState | ReadTime).at(2).parent, 10);
+        // As in a first snapshot with parents.
+        QCOMPARE(standin::calls().processData, 1U + 5 * 3 + 2 + 4);
+        standin::resetCalls();
+        for (const ProcessRecord &record : reader.read(std::nullopt, ReadState | ReadTime)) {
+            QVERIFY((record.unread & ReadParent) == 0);
+        }
+        QCOMPARE(standin::calls().processData, 5U * 2 + 4);
+    }
+
+    void firstSnapshotTakesTheParentThatComesWithTheNiceValue()
+    {
+        const std::vector<ProcessRecord> records = reader.read(std::nullopt, ReadState | ReadTime | ReadUid);
+        QCOMPARE(records.at(2).parent, 10);
+        QCOMPARE(records.at(2).unread, unsigned(ReadMemory | ReadArguments));
+    }
+
     void memoryCanBeReadWithTheRest()
     {
         unread();
@@ -62,7 +102,7 @@ private Q_SLOTS:
         standin::resetCalls();
         QMap<int, unsigned> ahead;
         QMap<int, quint64> memory;
-        for (const ProcessRecord &record : reader.read(std::nullopt, ReadState | ReadTime, {10, 11, 12})) {
+        for (const ProcessRecord &record : reader.read(std::nullopt, required, {10, 11, 12})) {
             ahead[record.pid] = record.ahead;
             memory[record.pid] = record.resident;
             QCOMPARE(record.unread, record.pid == 99 ? 0U : unsigned(ReadUid | ReadMemory | ReadArguments));
@@ -77,7 +117,7 @@ private Q_SLOTS:
     {
         unread();
         madeup::at(11).answersBeforeEnd = 2; // its state and memory
-        QCOMPARE(reader.read(std::nullopt, ReadState | ReadTime, {11}).size(), std::size_t(3));
+        QCOMPARE(reader.read(std::nullopt, required, {11}).size(), std::size_t(3));
     }
 
     void aKnownParentThatIsDueIsReadWithTheRest()
@@ -103,13 +143,13 @@ private Q_SLOTS:
     void aParentThatChangedIsSeenWhenItIsDue()
     {
         for (int i = 0; i < 3; ++i) {
-            reader.read(std::nullopt, ReadState | ReadTime);
+            reader.read(std::nullopt, required);
         }
         madeup::at(11).parent = 1; // while 10 goes on running
         for (int i = 0; i < 200; ++i) {
             unread();
         }
-        QCOMPARE(reader.read(std::nullopt, ReadState | ReadTime).at(2).parent, 1);
+        QCOMPARE(reader.read(std::nullopt, required).at(2).parent, 1);
     }
 
     void processThatExitsWhileBeingReadIsLeftOut_data()
@@ -141,7 +181,7 @@ private:
     QMap<int, unsigned> unread(unsigned eager = 0)
     {
         QMap<int, unsigned> left;
-        for (const ProcessRecord &record : reader.read(std::nullopt, ReadState | ReadTime | eager)) {
+        for (const ProcessRecord &record : reader.read(std::nullopt, required | eager)) {
             left[record.pid] = record.unread;
         }
         return left;

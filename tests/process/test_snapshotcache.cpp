@@ -296,6 +296,9 @@ private Q_SLOTS:
         eager[MemoryColumn] = false;
         eager[NiceColumn] = true;
         row("nice", eager, unsigned(ReadState | ReadTime | ReadUid));
+        eager[NiceColumn] = false;
+        eager[ParentPidColumn] = true;
+        row("parent", eager, unsigned(ReadState | ReadTime | ReadParent));
         row("short list", std::vector<bool>{true, false}, everything);
     }
 
