@@ -79,9 +79,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("startPage");
         QTest::addColumn<int>("interval");
-        for (const char *startPage : {"general", "network"}) {
+        for (const QString startPage : {"general", "network"}) {
             for (const int interval : {1, 3, 5}) {
-                QTest::addRow("%s, interval %d", startPage, interval) << startPage << interval;
+                const QString row = QStringLiteral("%1, interval %2").arg(startPage).arg(interval);
+                QTest::newRow(qPrintable(row)) << startPage << interval;
             }
         }
     }

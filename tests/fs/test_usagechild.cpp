@@ -149,8 +149,8 @@ private Q_SLOTS:
             grandchild->ask(1, "/");
             UsageAnswer answer = *waitFor(*grandchild);
             grandchild->ask(2, "never");
-            static_cast<void>(write(pipeEnds[1], &answer.usage.blocks, sizeof(answer.usage.blocks)));
-            raise(SIGKILL);
+            const bool isSent = write(pipeEnds[1], &answer.usage.blocks, sizeof(answer.usage.blocks)) > 0;
+            raise(isSent ? SIGKILL : SIGABRT);
         }
         quint64 pid = 0;
         QCOMPARE(read(pipeEnds[0], &pid, sizeof(pid)), ssize_t{sizeof(pid)});
