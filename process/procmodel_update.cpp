@@ -19,7 +19,8 @@ bool sharesIdentity(const Process &known, const Process &fresh)
            known.params[ParentPidColumn] == fresh.params[ParentPidColumn];
 }
 
-/// Parents that were not read yet, which a flat list does without, count as unchanged.
+/// Intentional: parents that were not read yet count as unchanged. A flat list that does not show them starts
+/// without, and mostly has them with the follow-up of its first reading.
 bool wasReparented(const Process &known, const Process &fresh)
 {
     const auto isParentRead = [](const Process &process) {
